@@ -1,0 +1,92 @@
+#include "GeneratedLog.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace tallyrig::benchmarks {
+
+namespace {
+
+/// A linear congruential generator (Knuth's constants): the library's generators may differ from machine to
+/// machine.
+class Numbers {
+  public:
+    std::uint32_t below(std::uint32_t limit) {
+        state = state * 6364136223846793005U + 1442695040888963407U;
+        return static_cast<std::uint32_t>((state >> 33) % limit);
+    }
+
+  private:
+    std::uint64_t state = 20240115;
+};
+
+void append(std::string& text, std::string_view name, std::string_view value) {
+    fmt::format_to(std::back_inserter(text), "<{}:{}>{} ", name, value.size(), value);
+}
+
+struct BandPlace {
+    std::string_view band;
+    double frequency;
+};
+
+constexpr std::array<BandPlace, 8> bands = {{{"80M", 3.5},
+                                             {"40M", 7.0},
+                                             {"30M", 10.1},
+                                             {"20M", 14.0},
+                                             {"17M", 18.07},
+                                             {"15M", 21.0},
+                                             {"10M", 28.0},
+                                             {"2M", 144.2}}};
+constexpr std::array<std::string_view, 5> modes = {"CW", "SSB", "FT8", "RTTY", "FT8"};
+constexpr std::array<std::string_view, 10> prefixes = {"DL", "OE", "HB9", "F",  "I",
+                                                       "G",  "SP", "K",   "JA", "UA3"};
+constexpr std::array<std::string_view, 10> countries = {
+    "Fed. Rep. of Germany", "Austria", "Switzerland",    "France", "Italy", "England", "Poland",
+    "United States",        "Japan",   "European Russia"};
+constexpr std::array<std::string_view, 10> operators = {"Jörg", "Anna", "Peter", "Karl", "Maria",
+                                                        "Hans", "Eva",  "Paul",  "Otto", "Klaus"};
+
+}  // namespace
+
+std::string generatedLog(std::size_t count) {
+    Numbers random;
+    std::string text = "Logbuch\n<ADIF_VER:5>3.1.7 <PROGRAMID:7>Example <EOH>\n\n";
+    text.reserve(text.size() + count * 340);
+    for (std::size_t qso = 0; qso < count; ++qso) {
+        const std::uint32_t country = random.below(10);
+        const BandPlace& place = bands[random.below(8)];
+        const std::string call = fmt::format(
+            "{}{}{}{}{}", prefixes[country], random.below(10), static_cast<char>('A' + random.below(26)),
+            static_cast<char>('A' + random.below(26)), static_cast<char>('A' + random.below(26)));
+        const std::string time =
+            fmt::format("{:02}{:02}{:02}", random.below(24), random.below(60), random.below(60));
+        append(text, "CALL", call);
+        append(
+            text, "QSO_DATE",
+            fmt::format("{}{:02}{:02}", 2000 + random.below(24), 1 + random.below(12), 1 + random.below(28)));
+        append(text, "TIME_ON", time);
+        append(text, "TIME_OFF", time);
+        append(text, "BAND", place.band);
+        append(text, "FREQ", fmt::format("{:.4f}", place.frequency + random.below(90) / 1000.0));
+        append(text, "MODE", modes[random.below(5)]);
+        append(text, "RST_SENT", "599");
+        append(text, "RST_RCVD", "579");
+        append(text, "GRIDSQUARE", fmt::format("JO{}{}qm", random.below(10), random.below(10)));
+        append(text, "NAME", operators[random.below(10)]);
+        append(text, "COUNTRY", countries[country]);
+        append(text, "DXCC", fmt::format("{}", 200 + random.below(80)));
+        append(text, "CQZ", fmt::format("{}", 1 + random.below(40)));
+        append(text, "TX_PWR", "100");
+        append(text, "OPERATOR", "DL1ABC");
+        append(text, "STATION_CALLSIGN", "DL1ABC");
+        append(text, "MY_GRIDSQUARE", "JO62qm");
+        append(text, "QSL_SENT", "N");
+        text += "<EOR>\n";
+    }
+    return text;
+}
+
+}  // namespace tallyrig::benchmarks

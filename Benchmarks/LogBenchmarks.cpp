@@ -1,0 +1,129 @@
+// Reading, writing and changing a log. Each operation stands beside a pass of memchr('<') over the same
+// bytes, made in turns with it in one run, and says how many times that pass it takes ("passes").
+
+#include "GeneratedLog.h"
+#include "MemoryCount.h"
+#include "Tallyrig/Log/ADIFParser.h"
+#include "Tallyrig/Log/ADIFWriter.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tallyrig::benchmarks {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+const std::string& logOf(std::size_t count) {
+    static std::map<std::size_t, std::string> logs;
+    auto& text = logs[count];
+    if (text.empty()) {
+        text = generatedLog(count);
+    }
+    return text;
+}
+
+double secondsOf(const std::function<void()>& work) {
+    const auto begin = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+void memchrPass(const std::string& text) {
+    std::size_t found = 0;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while ((at = static_cast<const char*>(std::memchr(at, '<', static_cast<std::size_t>(end - at)))) !=
+           nullptr) {
+        ++found;
+        ++at;
+    }
+    benchmark::DoNotOptimize(found);
+}
+
+/// Runs `work` and the pass over `text` in turns and reports the ratio of their best times.
+void besideThePass(benchmark::State& state, const std::string& text, std::size_t count,
+                   const std::function<void()>& work) {
+    double bestWork = std::numeric_limits<double>::infinity();
+    double bestPass = std::numeric_limits<double>::infinity();
+    for (auto _ : state) {
+        bestPass = std::min(bestPass, secondsOf([&] { memchrPass(text); }));
+        const double seconds = secondsOf(work);
+        bestWork = std::min(bestWork, seconds);
+        state.SetIterationTime(seconds);
+    }
+    state.counters["passes"] = bestWork / bestPass;
+    state.counters["nsPerQSO"] = bestWork * 1e9 / static_cast<double>(count);
+    state.counters["megabytes"] = static_cast<double>(text.size()) / 1e6;
+}
+
+void reading(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const std::string& text = logOf(count);
+    besideThePass(state, text, count, [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); });
+    const std::size_t before = heapInUse();
+    const ADIFDocument document = ADIFParser::parse(text);
+    state.counters["memoryPerFileByte"] =
+        static_cast<double>(heapInUse() - before) / static_cast<double>(text.size());
+}
+BENCHMARK(reading)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
+
+void writing(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const std::string& text = logOf(count);
+    const ADIFDocument document = ADIFParser::parse(text);
+    const ADIFWriter writer{"Quillon", "1", "3.1.7", true};
+    besideThePass(state, text, count, [&] { benchmark::DoNotOptimize(writer.write(document)); });
+}
+BENCHMARK(writing)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// Settings one cell in each of 100 copies of a log, as an undo history holds them.
+void hundredSnapshots(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const std::size_t before = heapInUse();
+    ADIFDocument document = ADIFParser::parse(logOf(count));
+    const std::size_t size = heapInUse() - before;
+    std::size_t growth = 0;
+    for (auto _ : state) {
+        std::vector<ADIFDocument> history;
+        history.reserve(100);
+        const std::size_t start = heapInUse();
+        const ADIFDocument kept = document;
+        for (std::size_t step = 0; step < 100; ++step) {
+            history.push_back(document);
+            document.records().modify(step * 7919 % count,
+                                      [](ADIFRecord& record) { record.set("COMMENT", "Dank für das QSO"); });
+        }
+        growth = heapInUse() - start;
+        document = kept;
+    }
+    state.counters["bytesPerStep"] = static_cast<double>(growth) / 100;
+    state.counters["shareOfLog"] = static_cast<double>(growth) / static_cast<double>(size);
+}
+BENCHMARK(hundredSnapshots)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+
+void columnSetEverywhere(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const std::string& text = logOf(count);
+    const ADIFDocument document = ADIFParser::parse(text);
+    besideThePass(state, text, count, [&] {
+        ADIFDocument changed = document;
+        changed.setColumn("COMMENT", "Dank", ColumnTarget::allRecords);
+        benchmark::DoNotOptimize(changed);
+    });
+}
+BENCHMARK(columnSetEverywhere)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tallyrig::benchmarks
+
+BENCHMARK_MAIN();

@@ -1,0 +1,114 @@
+#include "Tallyrig/Log/RecordEditor.h"
+
+#include "Tallyrig/Log/RecordSearch.h"
+
+#include <algorithm>
+
+namespace tallyrig {
+
+void RecordEditor::take(const ADIFRecord& record) {
+    const RecordStorage& storage = *record.storage.get();
+    drafts.clear();
+    drafts.reserve(storage.fieldCount() + 1);
+    for (std::size_t index = 0; index < storage.fieldCount(); ++index) {
+        drafts.push_back({storage.tagNumber(index), storage.value(index), storage.fieldID(index)});
+    }
+    tags = record.storage.sharedTags();
+    if (tags == extended) {
+        tags = extension;
+    }
+}
+
+FieldTags::Number RecordEditor::tag(std::string_view name, std::optional<std::string_view> type) {
+    if (const auto known = tags->find(name, type)) {
+        return *known;
+    }
+    if (tags != extension) {
+        // The tags belong to records that others may be reading: add to a copy, in which the old numbers
+        // hold.
+        extended = tags;
+        extension = std::make_shared<FieldTags>(*tags);
+        tags = extension;
+    }
+    return extension->add(name, type);
+}
+
+ADIFRecord RecordEditor::laidDown(UUID id) {
+    return ADIFRecord(allocator.allocate(id, drafts, tags));
+}
+
+ADIFRecord RecordEditor::setValue(const ADIFRecord& record, std::string_view name, std::string_view value) {
+    take(record);
+    if (const auto index = indexOfField(*record.storage.get(), name)) {
+        drafts[*index].value = value;
+    } else {
+        drafts.push_back({tag(name, std::nullopt), value, UUID::fresh()});
+    }
+    return laidDown(record.id());
+}
+
+std::optional<ADIFRecord> RecordEditor::rename(const ADIFRecord& record, std::string_view from,
+                                               std::string_view to) {
+    const auto index = indexOfField(*record.storage.get(), from);
+    if (!index) {
+        return std::nullopt;
+    }
+    take(record);
+    const FieldTag& old = record.storage->tag(*index);
+    drafts[*index].tag = tag(to, old.type);
+    return laidDown(record.id());
+}
+
+std::optional<ADIFRecord> RecordEditor::duplicate(const ADIFRecord& record, std::string_view name,
+                                                  std::string_view as) {
+    const auto index = indexOfField(*record.storage.get(), name);
+    if (!index) {
+        return std::nullopt;
+    }
+    take(record);
+    const FieldDraft source = drafts[*index];
+    const FieldDraft copy{tag(as, record.storage->tag(*index).type), source.value, UUID::fresh()};
+    drafts.insert(drafts.begin() + static_cast<std::ptrdiff_t>(*index) + 1, copy);
+    return laidDown(record.id());
+}
+
+std::optional<ADIFRecord> RecordEditor::remove(const ADIFRecord& record, std::string_view name) {
+    const RecordStorage& storage = *record.storage.get();
+    if (!indexOfField(storage, name)) {
+        return std::nullopt;
+    }
+    take(record);
+    // The drafts still stand in the order of the stored fields, so their tags are those of the record.
+    std::erase_if(drafts, [&](const FieldDraft& draft) { return isNamed((*tags)[draft.tag], name); });
+    return laidDown(record.id());
+}
+
+ADIFRecord RecordEditor::withValueAt(const ADIFRecord& record, std::size_t index, std::string_view value) {
+    take(record);
+    drafts[index].value = value;
+    return laidDown(record.id());
+}
+
+ADIFRecord RecordEditor::withField(const ADIFRecord& record, const ADIFField& field) {
+    take(record);
+    drafts.push_back({tag(field.name, field.type), field.value, field.id});
+    return laidDown(record.id());
+}
+
+ADIFRecord RecordEditor::withoutFieldAt(const ADIFRecord& record, std::size_t index) {
+    take(record);
+    drafts.erase(drafts.begin() + static_cast<std::ptrdiff_t>(index));
+    return laidDown(record.id());
+}
+
+ADIFRecord RecordEditor::make(std::span<const ADIFField> fields, UUID id) {
+    extension = std::make_shared<FieldTags>();
+    tags = extension;
+    drafts.clear();
+    for (const ADIFField& field : fields) {
+        drafts.push_back({extension->add(field.name, field.type), field.value, field.id});
+    }
+    return laidDown(id);
+}
+
+}  // namespace tallyrig

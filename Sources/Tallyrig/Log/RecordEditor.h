@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFRecord.h"
+#include "Tallyrig/Log/FieldTags.h"
+#include "Tallyrig/Log/RecordStorage.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace tallyrig {
+
+/// Changes records by laying down new ones. One editor serves a whole column of them: the changed records
+/// then share the names that were added, as those did that were read together.
+///
+/// Names given here are in upper case already. Each operation gives the changed record, or nothing where the
+/// record stays as it is.
+class RecordEditor {
+  public:
+    ADIFRecord setValue(const ADIFRecord& record, std::string_view name, std::string_view value);
+    std::optional<ADIFRecord> rename(const ADIFRecord& record, std::string_view from, std::string_view to);
+    std::optional<ADIFRecord> duplicate(const ADIFRecord& record, std::string_view name, std::string_view as);
+    std::optional<ADIFRecord> remove(const ADIFRecord& record, std::string_view name);
+
+    ADIFRecord withValueAt(const ADIFRecord& record, std::size_t index, std::string_view value);
+    ADIFRecord withField(const ADIFRecord& record, const ADIFField& field);
+    ADIFRecord withoutFieldAt(const ADIFRecord& record, std::size_t index);
+    ADIFRecord make(std::span<const ADIFField> fields, UUID id);
+
+  private:
+    void take(const ADIFRecord& record);
+    FieldTags::Number tag(std::string_view name, std::optional<std::string_view> type);
+    ADIFRecord laidDown(UUID id);
+
+    RecordAllocator allocator;
+    std::vector<FieldDraft> drafts;             ///< The record at hand.
+    std::shared_ptr<const FieldTags> tags;      ///< Its tags, with what was added to them.
+    std::shared_ptr<const FieldTags> extended;  ///< The tags that were last found wanting.
+    std::shared_ptr<FieldTags> extension;       ///< Their copy, to which this editor adds.
+};
+
+}  // namespace tallyrig

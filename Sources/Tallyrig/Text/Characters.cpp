@@ -1,0 +1,105 @@
+#include "Tallyrig/Text/Characters.h"
+
+#include "Tallyrig/Text/Text.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/uchar.h>
+#include <unicode/utext.h>
+#include <unicode/utf8.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace tallyrig::text {
+
+namespace {
+
+/// Calls `visit` with each character. ICU's iterators are dear to make and belong to one thread at a time, so
+/// each thread keeps one.
+template <typename Visit>
+void forEachCluster(std::string_view text, Visit visit) {
+    thread_local const std::unique_ptr<icu::BreakIterator> clusters = [] {
+        UErrorCode status = U_ZERO_ERROR;
+        return std::unique_ptr<icu::BreakIterator>(
+            icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    }();
+    UErrorCode status = U_ZERO_ERROR;
+    UText source = UTEXT_INITIALIZER;
+    utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
+    clusters->setText(&source, status);
+    std::size_t begin = 0;
+    for (auto end = clusters->next(); end != icu::BreakIterator::DONE; end = clusters->next()) {
+        visit(text.substr(begin, static_cast<std::size_t>(end) - begin));
+        begin = static_cast<std::size_t>(end);
+    }
+    utext_close(&source);
+}
+
+/// In ASCII every byte is a character, but for CR LF.
+template <typename Visit>
+void forEachASCIICharacter(std::string_view text, Visit visit) {
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = text.substr(at).starts_with("\r\n") ? 2 : 1;
+        visit(text.substr(at, length));
+        at += length;
+    }
+}
+
+template <typename Visit>
+void forEachCharacter(std::string_view text, Visit visit) {
+    if (isASCII(text)) {
+        forEachASCIICharacter(text, visit);
+    } else {
+        forEachCluster(text, visit);
+    }
+}
+
+UChar32 firstCodePoint(std::string_view text) {
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    std::size_t at = 0;
+    UChar32 c = 0;
+    U8_NEXT_OR_FFFD(bytes, at, text.size(), c);
+    return c;
+}
+
+bool isASCIIDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+}  // namespace
+
+std::size_t characterCount(std::string_view text) {
+    std::size_t count = 0;
+    forEachCharacter(text, [&](std::string_view) { ++count; });
+    return count;
+}
+
+std::vector<std::string_view> characters(std::string_view text) {
+    std::vector<std::string_view> result;
+    result.reserve(text.size());
+    forEachCharacter(text, [&](std::string_view character) { result.push_back(character); });
+    return result;
+}
+
+bool isLetter(std::string_view character) {
+    return !character.empty() && (U_MASK(u_charType(firstCodePoint(character))) & U_GC_L_MASK) != 0;
+}
+
+bool isNumeric(std::string_view character) {
+    return !character.empty() &&
+           u_getIntPropertyValue(firstCodePoint(character), UCHAR_NUMERIC_TYPE) != U_NT_NONE;
+}
+
+bool isAllNumeric(std::string_view text) {
+    bool numeric = true;
+    if (isASCII(text)) {
+        for (const char c : text) {
+            numeric = numeric && isASCIIDigit(c);
+        }
+        return numeric;
+    }
+    forEachCluster(text, [&](std::string_view character) { numeric = numeric && isNumeric(character); });
+    return numeric;
+}
+
+}  // namespace tallyrig::text

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+/// Text as a reader sees it: characters are extended grapheme clusters (Unicode Standard Annex 29), so that a
+/// letter with its combining marks is one character and so is CR LF.
+namespace tallyrig::text {
+
+/// The number of characters in `text`.
+std::size_t characterCount(std::string_view text);
+
+/// The characters of `text` in order. They refer to `text` and, joined, are `text` again.
+std::vector<std::string_view> characters(std::string_view text);
+
+/// Whether the first code point of `character` is a letter (Unicode category L). False for empty text.
+bool isLetter(std::string_view character);
+
+/// Whether the first code point of `character` has a Unicode numeric type: digits of any script, fractions,
+/// Roman numerals. False for empty text.
+bool isNumeric(std::string_view character);
+
+/// Whether every character of `text` is numeric, which is true of empty text.
+bool isAllNumeric(std::string_view text);
+
+}  // namespace tallyrig::text

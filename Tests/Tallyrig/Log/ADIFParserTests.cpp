@@ -1,0 +1,206 @@
+#include "Tallyrig/Log/ADIFParser.h"
+
+#include "Tallyrig/Log/LogSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+using namespace std::string_literals;
+using testing::pairs;
+using testing::Pairs;
+
+std::vector<Pairs> recordsOf(std::string_view bytes) {
+    const ADIFDocument document = ADIFParser::parse(bytes);
+    std::vector<Pairs> result;
+    for (const ADIFRecord& record : document.records()) {
+        result.push_back(pairs(record));
+    }
+    return result;
+}
+
+TEST(Reading, KeepsHeaderAndRecordsApartByTheEndOfHeader) {
+    const ADIFDocument log = ADIFParser::parse("Logbuch\n<ADIF_VER:5>3.1.7<EOH>\n<CALL:5>DL1AB<eor>");
+    EXPECT_EQ(log.headerComment(), "Logbuch");
+    ASSERT_EQ(log.headerFields().size(), 1U);
+    EXPECT_EQ(log.headerFields()[0], ADIFField("ADIF_VER", "3.1.7"));
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records()[0]["CALL"], "DL1AB");
+
+    const ADIFDocument headless = ADIFParser::parse("Logbuch\n<CALL:5>DL1AB<EOR>");
+    EXPECT_EQ(headless.headerComment(), "") << "without a header, the text in front is lost";
+    EXPECT_EQ(headless.records().size(), 1U);
+
+    const ADIFDocument twice =
+        ADIFParser::parse("c<A:1>1<EOH><CALL:1>X<EOR><B:1>2<EOH><CALL:1>Y<EOR><C:1>3<EOH>");
+    ASSERT_EQ(twice.headerFields().size(), 1U) << "a later header replaces the fields read so far";
+    EXPECT_EQ(twice.headerFields()[0].name, "C");
+    EXPECT_EQ(twice.headerComment(), "c");
+    EXPECT_EQ(twice.records().size(), 2U);
+}
+
+TEST(Reading, GivesTheEmptyDocumentWhereThereIsNoTag) {
+    EXPECT_EQ(ADIFParser::parse(""), ADIFDocument());
+    EXPECT_EQ(ADIFParser::parse(std::string(100'000, 'x')), ADIFDocument());
+    EXPECT_EQ(ADIFParser::parse("\xEF\xBB\xBF"), ADIFDocument());
+    EXPECT_EQ(ADIFParser::parse("text <"), ADIFDocument());
+    EXPECT_EQ(ADIFParser::parse("text <CALL:5"), ADIFDocument());
+}
+
+TEST(Reading, PassesOverAByteOrderMark) {
+    const ADIFDocument log = ADIFParser::parse("\xEF\xBB\xBFLog<EOH><CALL:1>X<EOR>");
+    EXPECT_EQ(log.headerComment(), "Log");
+    EXPECT_EQ(log.records().size(), 1U);
+}
+
+TEST(Tags, GiveNameLengthAndType) {
+    struct Case {
+        std::string tag;
+        std::string name;
+        std::string value;
+        std::optional<std::string> type;
+    };
+    // Each tag stands in front of "12345".
+    const std::vector<Case> cases = {
+        {"CALL:5", "CALL", "12345", std::nullopt},
+        {" call : 5 ", "CALL", "12345", std::nullopt},
+        {"Call:3:s", "CALL", "123", "s"},
+        {"CALL:3: S \n", "CALL", "123", "S"},
+        {"CALL:3:", "CALL", "123", ""},
+        {"CALL:3:S:extra", "CALL", "123", "S"},
+        {"CALL", "CALL", "", std::nullopt},
+        {"CALL:", "CALL", "", std::nullopt},
+        {"CALL:abc", "CALL", "", std::nullopt},
+        {"CALL:-3:S", "CALL", "", "S"},
+        {"CALL::S", "CALL", "", "S"},
+        {"CALL:+2", "CALL", "12", std::nullopt},
+        {"CALL:002", "CALL", "12", std::nullopt},
+        {"CALL:1e0", "CALL", "", std::nullopt},
+        {"CALL:9223372036854775808", "CALL", "", std::nullopt},
+        {"CALL:1000000000000000000000000000000", "CALL", "", std::nullopt},
+        {"", "", "", std::nullopt},
+        {":2", "", "12", std::nullopt},
+        {"A<B:2", "A<B", "12", std::nullopt},
+        {"stra\xC3\x9F"
+         "e:2",
+         "STRASSE", "12", std::nullopt},
+        {"stra\xDF"
+         "e:2",
+         "STRASSE", "12", std::nullopt},
+        {"n:2:\xF6", "N", "12", "\u00F6"},
+        {"CALL\xC2\xA0:2", "CALL", "12", std::nullopt},
+    };
+    for (const Case& c : cases) {
+        // Once by itself and once where a record before it has taught the reader what to expect.
+        for (const std::string& before : {""s, "<" + c.tag + ">12345<EOR>", "<CALL:5>DL1AB<EOR>"s}) {
+            const ADIFDocument log = ADIFParser::parse(before + "<" + c.tag + ">12345 <EOR><X:1>1<EOR>");
+            ASSERT_GE(log.records().size(), 2U) << c.tag;
+            const ADIFRecord& record = log.records()[log.records().size() - 2];
+            ASSERT_EQ(record.fields().size(), 1U) << c.tag;
+            EXPECT_EQ(record.fields()[0].name, c.name) << c.tag;
+            EXPECT_EQ(record.fields()[0].value, c.value) << c.tag;
+            EXPECT_EQ(record.fields()[0].type, c.type) << c.tag;
+        }
+    }
+}
+
+TEST(Tags, AreExpectedAsTheLastRecordHadThemAndReadAsTheyStand) {
+    // Names that begin alike, types that come and go, records of other shape: none may be taken for the
+    // expected one.
+    EXPECT_EQ(recordsOf("<CALL:2>AB<BAND:3>20m<EOR>"
+                        "<CALL:2>CD<BAND_RX:3>40m<BAND:3>80m<EOR>"
+                        "<CALL:2:S>EF<BAND:3:E>15m<EOR>"
+                        "<BAND:3>10m<CALL:2>GH<EOR>"
+                        "<CAL:2>IJ<CALLX:2>KL<EOR>"),
+              (std::vector<Pairs>{{{"CALL", "AB"}, {"BAND", "20m"}},
+                                  {{"CALL", "CD"}, {"BAND_RX", "40m"}, {"BAND", "80m"}},
+                                  {{"CALL", "EF"}, {"BAND", "15m"}},
+                                  {{"BAND", "10m"}, {"CALL", "GH"}},
+                                  {{"CAL", "IJ"}, {"CALLX", "KL"}}}));
+    const ADIFDocument log = ADIFParser::parse("<CALL:2>AB<EOR><CALL:2:S>EF<EOR><CALL:2>AB<EOR>");
+    EXPECT_EQ(log.records()[1].fields()[0].type, "S");
+    EXPECT_EQ(log.records()[2].fields()[0].type, std::nullopt);
+}
+
+TEST(EndOfRecord, IsTakenInAnyCaseAndWithAnything) {
+    EXPECT_EQ(recordsOf("<A:1>1<EOR><A:1>2<eor><A:1>3< Eor ><A:1>4<EOR:7:x><A:1>5").size(), 5U)
+        << "a last record without its mark is kept";
+    EXPECT_EQ(recordsOf("<EOR><EOR>"), (std::vector<Pairs>{{}, {}}));
+    EXPECT_EQ(recordsOf("<EORX:1>1<EOR>"), (std::vector<Pairs>{{{"EORX", "1"}}}));
+    EXPECT_EQ(ADIFParser::parse("c<EOH:3>").headerComment(), "c");
+}
+
+TEST(Values, AreTakenByTheirLengthInBytes) {
+    EXPECT_EQ(recordsOf("<CALL:5>DL1AB"), (std::vector<Pairs>{{{"CALL", "DL1AB"}}}));
+    EXPECT_EQ(recordsOf("<CALL:20>DL1AB"), (std::vector<Pairs>{{{"CALL", "DL1AB"}}}));
+    EXPECT_EQ(recordsOf("<CALL:9223372036854775807>DL1AB<EOR>"),
+              (std::vector<Pairs>{{{"CALL", "DL1AB<EOR>"}}}));
+    EXPECT_EQ(recordsOf("<N:9><A:1>x<b><EOR>"), (std::vector<Pairs>{{{"N", "<A:1>x<b>"}}}));
+    EXPECT_EQ(recordsOf("<N:2>12345 rest<M:1>x<EOR>"), (std::vector<Pairs>{{{"N", "12"}, {"M", "x"}}}))
+        << "what a length leaves behind is skipped";
+    EXPECT_EQ(recordsOf("<N:3> 1 <M:0><O:2>\r\n<EOR>"),
+              (std::vector<Pairs>{{{"N", " 1 "}, {"M", ""}, {"O", "\r\n"}}}));
+    EXPECT_EQ(recordsOf("<N:3>a\0b<EOR>"s), (std::vector<Pairs>{{{"N", "a\0b"s}}}));
+}
+
+TEST(Values, AreDecodedOneByOne) {
+    EXPECT_EQ(recordsOf("<NAME:5>J\xC3\xB6rg<QTH:4>K\xF6ln<EOR><NAME:4>J\xF6rg<EOR>"),
+              (std::vector<Pairs>{{{"NAME", "Jörg"}, {"QTH", "Köln"}}, {{"NAME", "Jörg"}}}));
+    EXPECT_EQ(recordsOf("<NAME:2>J\xC3\xB6rg<EOR>"), (std::vector<Pairs>{{{"NAME", "JÃ"}}}))
+        << "a length that cuts a sequence in two";
+    EXPECT_EQ(ADIFParser::parse("Gr\xFC\xDF"
+                                "e<PROGRAMID:1>\xE4<EOH>")
+                  .headerComment(),
+              "Grüße");
+}
+
+TEST(Identities, AreFreshForEveryRecordAndField) {
+    const ADIFDocument log = ADIFParser::parse("<A:1>1<B:1>2<EOR><A:1>3<EOR>");
+    std::vector<UUID> ids;
+    for (const ADIFRecord& record : log.records()) {
+        ids.push_back(record.id());
+        for (const ADIFFieldView& field : record.fields()) {
+            ids.push_back(field.id);
+        }
+    }
+    std::ranges::sort(ids);
+    EXPECT_EQ(std::ranges::adjacent_find(ids), ids.end());
+    EXPECT_EQ(log, ADIFParser::parse("<A:1>1<B:1>2<EOR><A:1>3<EOR>"));
+}
+
+TEST(Reading, SurvivesWhateverItIsGiven) {
+    EXPECT_EQ(recordsOf(std::string(1'000'000, '<')).size(), 0U);
+    EXPECT_EQ(recordsOf(std::string(1'000'000, '<') + ">").size(), 1U);
+    std::string manyNames;
+    for (int number = 0; number < 30'000; ++number) {
+        manyNames += "<N" + std::to_string(number) + ":1>v";
+    }
+    const ADIFDocument wide = ADIFParser::parse(manyNames + "<EOR>" + manyNames);
+    ASSERT_EQ(wide.records().size(), 2U);
+    EXPECT_EQ(wide.records()[1].fields().size(), 30'000U);
+    EXPECT_EQ(wide.fieldNames().size(), 30'000U);
+    const std::string longValue(10'000'000, 'x');
+    EXPECT_EQ(ADIFParser::parse("<NOTES:10000000>" + longValue + "<EOR>").records()[0]["NOTES"], longValue);
+
+    std::mt19937 random(12);
+    const std::vector<std::string> pieces = {"<",     ">",     ":",    "CALL", "<CALL:5>", "DL1AB",
+                                             "<EOR>", "<EOH>", "\xC3", "\xB6", "\0"s,      "99999",
+                                             "-1",    " ",     "\n",   "<eor", ":S>",      "\xEF\xBB\xBF"};
+    for (int round = 0; round < 3'000; ++round) {
+        std::string bytes;
+        for (auto count = random() % 40; count > 0; --count) {
+            bytes += pieces[random() % pieces.size()];
+        }
+        EXPECT_EQ(ADIFParser::parse(bytes), ADIFParser::parse(bytes));
+    }
+}
+
+}  // namespace
+}  // namespace tallyrig

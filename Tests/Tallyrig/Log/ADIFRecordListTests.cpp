@@ -1,0 +1,154 @@
+#include "Tallyrig/Log/ADIFRecordList.h"
+
+#include "Tallyrig/Log/LogSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+using testing::record;
+
+ADIFRecord numbered(std::size_t number) {
+    return record({{"STX", std::to_string(number)}});
+}
+
+ADIFRecordList numberedList(std::size_t count) {
+    ADIFRecordList list;
+    for (std::size_t number = 0; number < count; ++number) {
+        list.append(numbered(number));
+    }
+    return list;
+}
+
+std::vector<std::string> numbers(const ADIFRecordList& list) {
+    std::vector<std::string> result;
+    for (const ADIFRecord& record : list) {
+        result.emplace_back(record.valueOrEmpty("STX"));
+    }
+    return result;
+}
+
+// More than one branch of 128 leaves of 128 records.
+constexpr std::size_t severalBranches = 128 * 128 * 2 + 77;
+
+TEST(RecordList, KeepsItsOrderAtEverySize) {
+    for (const std::size_t count :
+         {0UL, 1UL, 127UL, 128UL, 129UL, 128UL * 128, 128UL * 128 + 1, severalBranches}) {
+        const ADIFRecordList list = numberedList(count);
+        ASSERT_EQ(list.size(), count);
+        const ADIFRecordList built(std::vector<ADIFRecord>(list.begin(), list.end()));
+        EXPECT_EQ(built, list);
+        std::size_t number = 0;
+        for (const ADIFRecord& record : list) {
+            ASSERT_EQ(record.valueOrEmpty("STX"), std::to_string(number));
+            ASSERT_TRUE(list[number].isSameAs(record));
+            ASSERT_TRUE(built[number].isSameAs(record));
+            ++number;
+        }
+        EXPECT_EQ(number, count);
+        EXPECT_EQ(list.at(count), list.end());
+        if (count > 0) {
+            EXPECT_TRUE(list.at(count - 1)->isSameAs(list[count - 1]));
+        }
+    }
+}
+
+TEST(RecordList, BehavesAsAPlainVectorUnderRandomChanges) {
+    std::mt19937 random(2);
+    ADIFRecordList list = numberedList(700);
+    std::vector<ADIFRecord> plain(list.begin(), list.end());
+    std::vector<std::pair<ADIFRecordList, std::vector<ADIFRecord>>> snapshots;
+    for (int step = 0; step < 400; ++step) {
+        if (step % 10 == 0) {
+            snapshots.emplace_back(list, plain);
+        }
+        switch (random() % 4) {
+            case 0: {
+                const ADIFRecord added = numbered(10'000 + static_cast<std::size_t>(step));
+                list.append(added);
+                plain.push_back(added);
+                break;
+            }
+            case 1: {
+                const std::size_t index = random() % plain.size();
+                plain[index].set("STX", "x" + std::to_string(step));
+                list.modify(index, [&](ADIFRecord& record) { record = plain[index]; });
+                break;
+            }
+            case 2: {
+                const UUID gone = plain[random() % plain.size()].id();
+                EXPECT_EQ(list.removeIf([&](const ADIFRecord& record) { return record.id() == gone; }), 1U);
+                std::erase_if(plain, [&](const ADIFRecord& record) { return record.id() == gone; });
+                break;
+            }
+            default: {
+                const std::size_t index = random() % plain.size();
+                const ADIFRecord other = numbered(20'000);
+                list.replace(index, other);
+                plain[index] = other;
+                break;
+            }
+        }
+        ASSERT_EQ(list.size(), plain.size());
+        const std::size_t probe = random() % plain.size();
+        ASSERT_TRUE(list[probe].isSameAs(plain[probe]));
+        ASSERT_EQ(list.indexOf(plain[probe].id()), probe);
+    }
+    snapshots.emplace_back(list, plain);
+    for (const auto& [copy, expected] : snapshots) {
+        ASSERT_TRUE(std::equal(copy.begin(), copy.end(), expected.begin(), expected.end(),
+                               [](const ADIFRecord& a, const ADIFRecord& b) { return a.isSameAs(b); }))
+            << "a copy is not touched by later changes";
+    }
+}
+
+TEST(RecordList, FindsRecordsByIdWhateverTheOrderOfIds) {
+    ADIFRecordList ascending = numberedList(severalBranches);
+    EXPECT_EQ(ascending.indexOf(ascending[20'000].id()), 20'000U);
+    EXPECT_EQ(ascending.indexOf(UUID::fresh()), std::nullopt);
+    EXPECT_EQ(ascending.indexOf(UUID{}), std::nullopt);
+    ascending.removeIf([](const ADIFRecord& record) { return record.valueOrEmpty("STX").ends_with('7'); });
+    EXPECT_EQ(ascending.indexOf(ascending[9'000].id()), 9'000U);
+
+    std::vector<ADIFRecord> backwards(ascending.begin(), ascending.end());
+    std::ranges::reverse(backwards);
+    const ADIFRecordList descending(backwards);
+    EXPECT_EQ(descending.indexOf(backwards[5].id()), 5U);
+    EXPECT_EQ(descending.indexOf(UUID::fresh()), std::nullopt);
+    EXPECT_EQ(ADIFRecordList().indexOf(UUID::fresh()), std::nullopt);
+}
+
+TEST(RecordList, TransformAndRemoveLeaveCopiesAlone) {
+    const ADIFRecordList original = numberedList(300);
+    ADIFRecordList changed = original;
+    const auto isOdd = [](const ADIFRecord& record) {
+        return (record.valueOrEmpty("STX").back() - '0') % 2 == 1;
+    };
+    EXPECT_EQ(changed.removeIf(isOdd), 150U);
+    EXPECT_EQ(changed.transform([](const ADIFRecord& record) -> std::optional<ADIFRecord> {
+        if (record.valueOrEmpty("STX").size() < 3) {
+            return std::nullopt;
+        }
+        ADIFRecord longer = record;
+        longer.set("STX", "long");
+        return longer;
+    }),
+              100U);
+    EXPECT_EQ(changed[49].valueOrEmpty("STX"), "98");
+    EXPECT_EQ(changed[50].valueOrEmpty("STX"), "long");
+    EXPECT_EQ(numbers(original), numbers(numberedList(300)));
+    EXPECT_EQ(changed.removeIf([](const ADIFRecord&) { return true; }), 150U);
+    EXPECT_TRUE(changed.empty());
+    EXPECT_EQ(changed.begin(), changed.end());
+    changed.append(numbered(1));
+    EXPECT_EQ(numbers(changed), (std::vector<std::string>{"1"}));
+}
+
+}  // namespace
+}  // namespace tallyrig
