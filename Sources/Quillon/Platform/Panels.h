@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace quillon {
+
+/// A kind of file that a panel offers.
+struct FileType {
+    QString label;           ///< In German, such as "ADIF-Dateien".
+    QStringList extensions;  ///< Without dot; empty means any file.
+};
+
+/// The questions that the stores ask the user. The real ones are modal dialogs; tests answer by themselves.
+class Panels {
+  public:
+    Panels() = default;
+    Panels(const Panels&) = delete;
+    Panels& operator=(const Panels&) = delete;
+    virtual ~Panels() = default;
+
+    /// One existing file, absent if the user cancels. Every file may be chosen; `types` are what is offered
+    /// first.
+    virtual std::optional<QString> fileToOpen(const QList<FileType>& types) = 0;
+    /// A place to write to, absent if the user cancels. The panel has asked about replacing a file that is
+    /// there.
+    virtual std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) = 0;
+};
+
+}  // namespace quillon

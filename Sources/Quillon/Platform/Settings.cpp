@@ -1,0 +1,47 @@
+#include "Quillon/Platform/Settings.h"
+
+#include <QMetaType>
+#include <QSettings>
+
+namespace quillon {
+
+namespace {
+
+class UserSettings final : public Settings {
+  public:
+    QVariant value(const QString& key) const override {
+        const QVariant stored = settings.value(key);
+        // The file holds a boolean as one of two words, which come back as text. No setting has these words
+        // as text.
+        if (stored.typeId() == QMetaType::QString) {
+            const QString text = stored.toString();
+            if (text == QLatin1String("true") || text == QLatin1String("false")) {
+                return text == QLatin1String("true");
+            }
+        }
+        return stored;
+    }
+    void setValue(const QString& key, const QVariant& value) override { settings.setValue(key, value); }
+
+  private:
+    QSettings settings{QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quillon"),
+                       QStringLiteral("Quillon")};
+};
+
+}  // namespace
+
+bool Settings::boolean(const QString& key, bool missing) const {
+    const QVariant stored = value(key);
+    return stored.typeId() == QMetaType::Bool ? stored.toBool() : missing;
+}
+
+QString Settings::string(const QString& key) const {
+    const QVariant stored = value(key);
+    return stored.typeId() == QMetaType::QString ? stored.toString() : QString();
+}
+
+std::unique_ptr<Settings> userSettings() {
+    return std::make_unique<UserSettings>();
+}
+
+}  // namespace quillon

@@ -1,0 +1,299 @@
+#pragma once
+
+#include "Quillon/Platform/Panels.h"
+#include "Quillon/Platform/Settings.h"
+#include "Quillon/Platform/TextMeasurer.h"
+#include "Quillon/Stores/AppMode.h"
+#include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/UUID.h"
+#include "Tallyrig/Validation/ValidationIssue.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace quillon {
+
+/// The version of the application as text, "dev" if it has none.
+QString appVersion();
+
+/// The kinds of files that the open and save panels offer.
+const QList<FileType>& adifContentTypes();
+
+/// A pair of read and write access to one text of the log. It may outlive the store, and then reads as empty
+/// and writes nothing.
+struct TextBinding {
+    std::function<std::string()> read;
+    std::function<void(std::string_view)> write;
+};
+
+/// The keys held down at a click on a row.
+struct ClickModifiers {
+    bool command = false;  ///< Takes the row in or out of the selection.
+    bool shift = false;    ///< Selects from the anchor to the row.
+};
+
+/// The one log that is open, the file behind it, and all state of the table, the undo history and the check
+/// results.
+///
+/// Each observable property has one change signal. It is sent after the whole operation is done, when all
+/// properties hold their new values, and only if this one differs. Names of fields and columns and values of
+/// fields are UTF-8; column names are in upper case.
+class LogStore : public QObject {
+    Q_OBJECT
+
+  public:
+    using Columns = std::vector<std::string>;
+    using Selection = std::unordered_set<tallyrig::UUID>;
+    using Severities = std::unordered_map<tallyrig::UUID, tallyrig::ValidationSeverity>;
+
+    /// The three outlive the store.
+    LogStore(Settings& userSettings, Panels& userPanels, const TextMeasurer& textMeasurer,
+             QObject* parent = nullptr);
+    ~LogStore() override;
+
+    // The log and its file.
+    const tallyrig::ADIFDocument& document() const { return state.document; }
+    /// The path of the file behind the log; absent for a log that was never saved.
+    const std::optional<QString>& fileURL() const { return state.fileURL; }
+    /// Whether the log differs from what was last saved or opened.
+    bool isDirty() const { return state.isDirty; }
+    /// What the user must be told; absent once it was.
+    const std::optional<QString>& errorMessage() const { return state.errorMessage; }
+    void setErrorMessage(std::optional<QString> message);
+    QString windowTitle() const;
+
+    void newLog();
+    /// Reads the file at `path`; on failure only `errorMessage` changes.
+    void open(const QString& path);
+    void openWithPanel();
+    /// Opens the first of the program's `arguments` (the program's name left out) that names an existing
+    /// path, passing over what follows `--crosscheck`. Nothing happens if a file is open already.
+    void openFromCommandLineIfNeeded(const QStringList& arguments);
+    void save();
+    void saveWithPanel();
+
+    // Undo.
+    bool canUndo() const { return state.canUndo; }
+    bool canRedo() const { return state.canRedo; }
+    void undo();
+    void redo();
+
+    // Cells, fields, records.
+    TextBinding cellBinding(tallyrig::UUID recordID, const std::string& column);
+    TextBinding fieldBinding(tallyrig::UUID recordID, std::size_t fieldIndex);
+    void addField(tallyrig::UUID recordID, std::string_view name);
+    void removeField(tallyrig::UUID recordID, std::size_t index);
+    void addRecord();
+    void deleteSelected();
+    void setColumnValue(std::string_view column, std::string_view value, tallyrig::ColumnTarget target);
+    void replaceInColumn(std::string_view column, std::string_view find, std::string_view replacement);
+
+    // Columns.
+    const Columns& columns() const { return state.columns; }
+    bool columnExists(std::string_view name) const;
+    /// A name as the user typed it, made ready to be a column's: trimmed, without "<", ">" and ":", in upper
+    /// case.
+    static std::string cleanedFieldName(std::string_view name);
+    /// Whether a cleaned name begins with A to Z and holds A to Z, 0 to 9 and "_" only.
+    static bool isValidFieldName(std::string_view cleanedName);
+    static QString invalidFieldNameMessage(std::string_view name);
+    bool addColumn(std::string_view name);
+    bool renameColumn(std::string_view old, std::string_view newName);
+    void duplicateColumn(std::string_view name);
+    void removeColumn(std::string_view name);
+    /// Swaps the column with the one `offset` places further on.
+    void moveColumnBy(std::string_view name, int offset);
+    void moveColumnBefore(std::string_view name, std::string_view target);
+
+    // Widths, in logical pixels.
+    static double defaultWidth(std::string_view name);
+    double width(std::string_view name) const;
+    void setWidth(double width, std::string_view name);
+    void autoFitColumns();
+    void autoFitColumns(const std::vector<std::string>& list);
+    double fittingWidth(std::string_view name) const;
+
+    // Sorting and search.
+    const std::optional<std::string>& sortColumn() const { return state.sortColumn; }
+    bool sortAscending() const { return state.sortAscending; }
+    void toggleSort(std::string_view name);
+    /// Back to document order.
+    void clearSort();
+    const QString& searchText() const { return state.searchText; }
+    void setSearchText(const QString& text);
+    /// The number of records that the search leaves. Cost: nothing unless log or search changed since the
+    /// last call.
+    std::size_t filteredCount() const;
+    /// The records on screen in their order. Cost: as `filteredCount`, and a sort where the sort column's
+    /// values may have changed.
+    std::size_t displayedCount() const;
+    /// The record in row `row`, below `displayedCount()`.
+    const tallyrig::ADIFRecord& displayedRecord(std::size_t row) const;
+    /// The position in the document of the record in row `row`.
+    std::size_t displayedIndex(std::size_t row) const;
+    /// The row in which the record stands, absent if the search hides it or it does not exist. Cost: a scan
+    /// of the rows while a search or a sort is in force.
+    std::optional<std::size_t> displayedRow(tallyrig::UUID id) const;
+
+    // Selection.
+    const Selection& selection() const { return state.selection; }
+    const std::optional<tallyrig::UUID>& selectionAnchor() const { return state.selectionAnchor; }
+    void setSelection(Selection selection, std::optional<tallyrig::UUID> anchor);
+    /// The position of the record in the document.
+    std::optional<std::size_t> indexOf(tallyrig::UUID id) const {
+        return state.document.records().indexOf(id);
+    }
+    void selectRow(tallyrig::UUID id, ClickModifiers modifiers);
+    /// Selects the record at `index` of the document, if there is one.
+    void selectRecord(std::size_t index);
+    /// Selects every displayed record.
+    void selectAllDisplayed();
+    /// The single selected record; absent with none or several.
+    const tallyrig::ADIFRecord* selectedRecord() const;
+    /// The selected records as ADI text without header, in the order of the document; for the clipboard.
+    std::string selectionAsADIF() const;
+
+    // Checks and modes.
+    AppMode mode() const { return state.mode; }
+    void setMode(AppMode mode);
+    void runCheck();
+    /// The findings of the last check, by record and errors first.
+    const std::vector<tallyrig::ValidationIssue>& validationIssues() const {
+        return state.checkResults->issues;
+    }
+    /// The worst severity of each record with findings.
+    const Severities& recordSeverities() const { return state.checkResults->severities; }
+    /// The German messages about the record in the order of its findings; empty without any. Made when asked
+    /// for: the messages about a large group of duplicates name each other and would not fit into memory
+    /// together.
+    std::vector<std::string> recordIssueMessages(tallyrig::UUID id) const;
+    std::size_t errorCount() const { return state.checkResults->errorCount; }
+    std::size_t warningCount() const { return state.checkResults->issues.size() - errorCount(); }
+    bool showCheckResults() const { return state.showCheckResults; }
+    void setShowCheckResults(bool show);
+
+    /// The column that the bulk edit sheet is open for.
+    const std::optional<std::string>& bulkEditColumn() const { return state.bulkEditColumn; }
+    void setBulkEditColumn(std::optional<std::string> column);
+
+  signals:
+    /// The document is another value than before, or the same records with other ids.
+    void documentChanged();
+    void fileURLChanged();
+    void isDirtyChanged();
+    void errorMessageChanged();
+    void windowTitleChanged();
+    /// `canUndo` or `canRedo` changed.
+    void historyChanged();
+    void columnsChanged();
+    void columnWidthsChanged();
+    /// `sortColumn` or `sortAscending` changed.
+    void sortChanged();
+    void searchTextChanged();
+    /// The records on screen or their order changed: through log, search or sort.
+    void displayedRecordsChanged();
+    /// `selection` or `selectionAnchor` changed.
+    void selectionChanged();
+    void modeChanged();
+    /// Findings, severities and messages, which change together.
+    void checkResultsChanged();
+    void showCheckResultsChanged();
+    void bulkEditColumnChanged();
+
+  private:
+    /// What undo restores.
+    struct EditSnapshot {
+        tallyrig::ADIFDocument document;
+        Columns columns;
+        bool isDirty = false;
+    };
+    /// What a check found, made in one piece.
+    struct CheckResults {
+        std::vector<tallyrig::ValidationIssue> issues;
+        Severities severities;
+        std::size_t errorCount = 0;
+        tallyrig::ADIFRecordList records;  ///< As they were checked: the positions in `issues` refer to them.
+    };
+    /// What has a change signal and is cheap to copy and to compare.
+    struct Observed {
+        tallyrig::ADIFDocument document;
+        std::optional<QString> fileURL;
+        bool isDirty = false;
+        QString searchText;
+        std::optional<QString> errorMessage;
+        AppMode mode = AppMode::check;
+        std::shared_ptr<const CheckResults> checkResults;  ///< Never null.
+        bool showCheckResults = false;
+        Columns columns;
+        std::map<std::string, double, std::less<>> columnWidths;  ///< By canonical key of the name.
+        std::optional<std::string> sortColumn;
+        bool sortAscending = true;
+        std::optional<std::string> bulkEditColumn;
+        std::optional<tallyrig::UUID> selectionAnchor;
+        std::uint64_t selectionRevision = 0;  ///< Another one for each change of the selection.
+        bool canUndo = false;
+        bool canRedo = false;
+    };
+    struct State : Observed {
+        Selection selection;
+        std::vector<EditSnapshot> undoStack;
+        std::vector<EditSnapshot> redoStack;
+        std::optional<std::string> coalesceKey;
+    };
+    class Operation;
+    class Display;
+
+    void announceChangesSince(const Observed& before);
+
+    static QString windowTitleFor(const std::optional<QString>& fileURL, bool isDirty);
+    void showLog(tallyrig::ADIFDocument document, std::optional<QString> path);
+    void write(const QString& path);
+
+    EditSnapshot currentSnapshot() const;
+    /// Enters a snapshot, taken before the change, in the history.
+    void commitUndo(EditSnapshot snapshot, std::optional<std::string> coalescingKey = std::nullopt);
+    /// The same with the present state, unless the latest step is of the same key: keystrokes make one step.
+    void commitTyping(std::string key);
+    void step(std::vector<EditSnapshot>& from, std::vector<EditSnapshot>& to);
+    void apply(EditSnapshot snapshot);
+    void resetHistory();
+    void noteHistory();
+
+    void writeCell(tallyrig::UUID recordID, const std::string& column, std::string_view value);
+    void writeField(tallyrig::UUID recordID, std::size_t fieldIndex, std::string_view value);
+    void commitBulkEdit(EditSnapshot before, std::size_t changedRecords);
+
+    /// The columns in which to show this log.
+    static Columns columnsFor(const tallyrig::ADIFDocument& document);
+    Columns::iterator findColumn(std::string_view upperName);
+
+    void changeSelection(Selection selection);
+    void reduceSelectionToDocument();
+    Selection idsInRows(std::size_t first, std::size_t end) const;
+
+    void applyIssues(std::vector<tallyrig::ValidationIssue> issues);
+    void setCheckResults(CheckResults results);
+    void clearCheckResults();
+
+    Settings& settings;
+    Panels& panels;
+    const TextMeasurer& measurer;
+    State state;
+    int runningOperations = 0;
+    std::unique_ptr<Display> display;
+};
+
+}  // namespace quillon

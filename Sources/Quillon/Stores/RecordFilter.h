@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFRecordList.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace quillon {
+
+/// The positions, ascending, of the records in which a value or the name of a field contains `searchText`,
+/// without regard to case. `searchText` is not empty. Cost: about one pass over the bytes of the values.
+std::vector<std::uint32_t> recordsContaining(const tallyrig::ADIFRecordList& records,
+                                             std::string_view searchText);
+
+}  // namespace quillon

@@ -1,0 +1,71 @@
+#include "Quillon/Stores/RecordOrder.h"
+
+#include "Quillon/Platform/NaturalOrder.h"
+#include "Tallyrig/Log/RecordSearch.h"
+#include "Tallyrig/Validation/PerTag.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+
+namespace quillon {
+
+namespace {
+
+using tallyrig::FieldTag;
+using tallyrig::RecordStorage;
+
+/// Reads one column of record after record.
+class ColumnReader {
+  public:
+    explicit ColumnReader(std::string_view upperName) : name(upperName) {}
+
+    /// Empty if the record has no such field.
+    std::string_view value(const RecordStorage& record) {
+        const char* const isColumn = tags.of(record.tags(), [&](const FieldTag& tag) {
+            return static_cast<char>(tallyrig::isNamed(tag, name));
+        });
+        for (std::size_t index = 0; index < record.fieldCount(); ++index) {
+            if (isColumn[record.tagNumber(index)] != 0) {
+                return record.value(index);
+            }
+        }
+        return {};
+    }
+
+  private:
+    std::string_view name;
+    tallyrig::PerTag<char> tags;
+};
+
+}  // namespace
+
+std::vector<std::uint32_t> sortedByColumn(const tallyrig::ADIFRecordList& records,
+                                          const std::vector<std::uint32_t>& rows, std::string_view column,
+                                          SortDirection direction) {
+    ColumnReader reader(column);
+    std::vector<std::string_view> values;
+    values.reserve(rows.size());
+    for (const std::uint32_t row : rows) {
+        values.push_back(reader.value(records[row].stored()));
+    }
+    const std::vector<std::uint32_t> ranks = NaturalOrder::ranks(values);
+    // The rank, turned round for the other direction, stands in front of the place that keeps the order of
+    // equals.
+    constexpr std::uint32_t last = std::numeric_limits<std::uint32_t>::max();
+    std::vector<std::uint64_t> keys(rows.size());
+    for (std::size_t place = 0; place < rows.size(); ++place) {
+        const std::uint32_t rank =
+            direction == SortDirection::ascending ? ranks[place] : last - 1 - ranks[place];
+        keys[place] = std::uint64_t{values[place].empty() ? last : rank} << 32 | place;
+    }
+    std::ranges::sort(keys);
+    std::vector<std::uint32_t> sorted;
+    sorted.reserve(rows.size());
+    for (const std::uint64_t key : keys) {
+        sorted.push_back(rows[static_cast<std::uint32_t>(key)]);
+    }
+    return sorted;
+}
+
+}  // namespace quillon
