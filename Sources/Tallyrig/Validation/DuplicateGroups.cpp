@@ -1,0 +1,135 @@
+#include "Tallyrig/Validation/DuplicateGroups.h"
+
+#include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Validation/RecordColumns.h"
+
+#include <bit>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <string_view>
+
+namespace tallyrig {
+
+namespace {
+
+/// The number of a record or a group; a log of more does not fit into memory.
+using Number = std::uint32_t;
+
+/// The key of one record after the other.
+class KeyReader {
+  public:
+    explicit KeyReader(const std::vector<std::string>& keyFields) {
+        for (const std::string& field : keyFields) {
+            parts.push_back(columns.add(field));
+        }
+    }
+
+    /// Whether the record has a key, which then is `key`.
+    bool read(const ADIFRecord& record) {
+        columns.read(record);
+        key.clear();
+        for (const std::size_t part : parts) {
+            const std::string_view value = columns.value(part);
+            if (value.empty()) {
+                return false;
+            }
+            key += text::isASCII(value) ? text::upper(value) : text::canonicalKey(text::upper(value));
+            key += '\x1F';
+        }
+        return true;
+    }
+
+    std::string key;
+
+  private:
+    RecordColumns columns;
+    std::vector<std::size_t> parts;
+};
+
+/// Gathers records by key, in a flat table with open addressing: the keys of a whole log pass through here,
+/// and nearly every one is new. The members of a group are a chain through `next`, so that the many records
+/// that are alone with their key cost no list of their own.
+class Gathering {
+  public:
+    explicit Gathering(std::size_t recordCount)
+        : slots(std::bit_ceil(recordCount * 2 + 1)), next(recordCount, none) {}
+
+    void add(Number record, std::string_view key) {
+        const std::size_t hash = std::hash<std::string_view>()(key);
+        const auto tag = static_cast<Number>(hash >> 32);
+        for (std::size_t at = hash;; ++at) {
+            Slot& slot = slots[at & (slots.size() - 1)];
+            if (slot.group == none) {
+                slot = {tag, static_cast<Number>(groups.size())};
+                groups.push_back({keys.size(), key.size(), record, record, 1});
+                keys += key;
+                return;
+            }
+            if (slot.tag == tag && keyOf(groups[slot.group]) == key) {
+                Group& group = groups[slot.group];
+                next[group.last] = record;
+                group.last = record;
+                ++group.count;
+                return;
+            }
+        }
+    }
+
+    std::vector<std::vector<std::size_t>> groupsOfSeveral() const {
+        std::vector<std::vector<std::size_t>> result;
+        for (const Group& group : groups) {
+            if (group.count < 2) {
+                continue;
+            }
+            std::vector<std::size_t>& members = result.emplace_back();
+            members.reserve(group.count);
+            for (Number record = group.first; record != none; record = next[record]) {
+                members.push_back(record);
+            }
+        }
+        return result;
+    }
+
+  private:
+    static constexpr Number none = std::numeric_limits<Number>::max();
+
+    struct Slot {
+        Number tag = 0;  ///< The half of the hash that does not choose the slot.
+        Number group = none;
+    };
+    struct Group {
+        std::size_t keyBegin;
+        std::size_t keySize;
+        Number first;
+        Number last;
+        Number count;
+    };
+
+    std::string_view keyOf(const Group& group) const {
+        return std::string_view(keys).substr(group.keyBegin, group.keySize);
+    }
+
+    std::vector<Slot> slots;    ///< A power of two, more than twice as many as records.
+    std::vector<Group> groups;  ///< In the order of their first records.
+    std::vector<Number> next;   ///< By record, the next of its group.
+    std::string keys;           ///< Of all groups, one after the other.
+};
+
+}  // namespace
+
+std::vector<std::vector<std::size_t>> duplicateGroups(const ADIFRecordList& records,
+                                                      const std::vector<std::string>& keyFields) {
+    KeyReader reader(keyFields);
+    Gathering gathering(records.size());
+    Number index = 0;
+    for (const ADIFRecord& record : records) {
+        if (reader.read(record)) {
+            gathering.add(index, reader.key);
+        }
+        ++index;
+    }
+    return gathering.groupsOfSeveral();
+}
+
+}  // namespace tallyrig

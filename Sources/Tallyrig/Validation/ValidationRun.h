@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFRecordList.h"
+#include "Tallyrig/Validation/ADIFValidator.h"
+#include "Tallyrig/Validation/FieldRule.h"
+#include "Tallyrig/Validation/PerTag.h"
+#include "Tallyrig/Validation/RecordColumns.h"
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tallyrig {
+
+/// One pass of a validator over the records of a log. Refers to both.
+class ValidationRun {
+  public:
+    ValidationRun(const ADIFValidator& validator, const ADIFRecordList& records);
+
+    /// The findings, in order. To be asked for once.
+    std::vector<ValidationIssue> issues();
+
+  private:
+    void checkRequiredFields();
+    void checkFields(const ADIFRecord& record);
+    void checkForm(const FieldRule& rule, std::string_view value);
+    void checkMembership(const FieldRule& rule, std::string_view value);
+    void checkCallsign();
+    void checkFrequency();
+    void findDuplicates();
+    void addDuplicate();
+    void putErrorsFirst(std::size_t begin);
+
+    template <typename Finding>
+    void add(Finding payload) {
+        found.emplace_back(recordIndex, std::move(payload));
+    }
+
+    /// A record's place among those that share its key.
+    struct Membership {
+        std::shared_ptr<const std::vector<std::size_t>>
+            numbers;  ///< Of the whole group; null outside groups.
+        std::size_t position = 0;
+    };
+
+    const ADIFValidator& validator;
+    const ADIFRecordList& records;
+    RecordColumns columns;
+    std::vector<std::size_t> requiredColumns;  ///< By position in the required fields.
+    std::size_t callColumn;
+    std::size_t bandColumn;
+    std::size_t frequencyColumn;
+    PerTag<FieldRule> rules;
+    std::vector<Membership> memberships;  ///< By record; empty where there are no duplicates.
+    std::size_t recordIndex = 0;
+    std::vector<ValidationIssue> found;
+};
+
+}  // namespace tallyrig
