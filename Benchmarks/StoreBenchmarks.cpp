@@ -1,0 +1,140 @@
+// What the application's model of a log does at a keystroke or a click, beside reading the log.
+
+#include "MemoryCount.h"
+#include "Quillon/Platform/Panels.h"
+#include "Quillon/Platform/Settings.h"
+#include "Quillon/Platform/TextMeasurer.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Tallyrig/Log/ADIFParser.h"
+#include "Timing.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+using tallyrig::ADIFParser;
+using tallyrig::benchmarks::heapInUse;
+using tallyrig::benchmarks::inTurns;
+using tallyrig::benchmarks::logOf;
+using tallyrig::benchmarks::secondsOf;
+
+class NoSettings : public Settings {
+  public:
+    QVariant value(const QString&) const override { return {}; }
+    void setValue(const QString&, const QVariant&) override {}
+};
+
+class NoPanels : public Panels {
+  public:
+    std::optional<QString> fileToOpen(const QList<FileType>&) override { return std::nullopt; }
+    std::optional<QString> fileToSave(const QString&, const QList<FileType>&) override {
+        return std::nullopt;
+    }
+};
+
+class FixedWidths : public TextMeasurer {
+  public:
+    double width(MeasuredFont, std::string_view text) const override {
+        return 7.0 * static_cast<double>(text.size());
+    }
+};
+
+/// A store with a log of `count` QSOs in it.
+class OpenLog {
+  public:
+    explicit OpenLog(std::size_t count) : store(settings, panels, measurer) {
+        const QString path = folder.filePath(QStringLiteral("log.adi"));
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly)) {
+            const std::string& text = logOf(count);
+            file.write(text.data(), static_cast<qint64>(text.size()));
+            file.close();
+        }
+        store.open(path);
+    }
+
+    LogStore& log() { return store; }
+
+  private:
+    QTemporaryDir folder;
+    NoSettings settings;
+    NoPanels panels;
+    FixedWidths measurer;
+    LogStore store;
+};
+
+void besideReading(benchmark::State& state, std::size_t count, const std::function<void()>& work) {
+    const std::string& text = logOf(count);
+    inTurns(state, "readings", work, [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); });
+}
+
+/// A click on the header of a column and the first look at the rows.
+void sorting(benchmark::State& state, const char* column) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    OpenLog log(count);
+    besideReading(state, count, [&] {
+        log.log().toggleSort(column);
+        benchmark::DoNotOptimize(log.log().displayedIndex(count / 2));
+    });
+}
+BENCHMARK_CAPTURE(sorting, byCall, "CALL")->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(sorting, byName, "NAME")->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// A key in the search field and the rows that it leaves.
+void searching(benchmark::State& state, const char* text) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    OpenLog log(count);
+    const QString lower = QString::fromUtf8(text);
+    besideReading(state, count, [&] {
+        // Another text each time, or nothing would be searched.
+        log.log().setSearchText(log.log().searchText() == lower ? lower.toUpper() : lower);
+        benchmark::DoNotOptimize(log.log().filteredCount());
+    });
+    state.counters["found"] = static_cast<double>(log.log().filteredCount());
+}
+BENCHMARK_CAPTURE(searching, oneLetter, "q")->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searching, call, "hb9xy")->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(searching, umlaut, "jörg")->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// One cell edit with its undo step, each in another record: the middle one of a hundred by time.
+void editingACell(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    OpenLog log(count);
+    std::size_t step = 0;
+    const std::size_t before = heapInUse();
+    std::vector<double> times;
+    for (auto _ : state) {
+        ++step;
+        const tallyrig::UUID id = log.log().document().records()[step * 7919 % count].id();
+        times.push_back(secondsOf([&] { log.log().cellBinding(id, "COMMENT").write(std::to_string(step)); }));
+    }
+    std::ranges::nth_element(times, times.begin() + 50);
+    state.counters["medianUs"] = times[50] * 1e6;
+    state.counters["bytesPerStep"] = static_cast<double>(heapInUse() - before) / 100;
+}
+BENCHMARK(editingACell)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(100)
+    ->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace quillon
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
