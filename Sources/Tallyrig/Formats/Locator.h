@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+/// The system's one arithmetic of Maidenhead locators ("JO62QM") and the distances between them.
+namespace tallyrig {
+
+/// A point on the globe in degrees: north and east are positive.
+struct Coordinate {
+    double lat = 0;
+    double lon = 0;
+
+    friend bool operator==(const Coordinate&, const Coordinate&) = default;
+};
+
+/// The centre of the subsquare or, where characters 5 and 6 are none (they have to be letters from A to X),
+/// of the square that the first four characters name. Blanks around the locator, its case and whatever stands
+/// behind the sixth character do not matter. Absent if the first four characters name no square.
+std::optional<Coordinate> maidenheadToCoordinate(std::string_view locator);
+
+/// The great-circle distance between the two centres on a sphere of radius 6371.0 km. Absent if either
+/// locator names no square.
+std::optional<double> greatCircleKm(std::string_view from, std::string_view to);
+
+/// The same in whole kilometres, halves away from zero.
+std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view to);
+
+}  // namespace tallyrig
