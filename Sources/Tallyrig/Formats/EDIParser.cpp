@@ -1,0 +1,275 @@
+#include "Tallyrig/Formats/EDIParser.h"
+
+#include "Tallyrig/Formats/EDIBands.h"
+#include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Log/ADIFRecordBuilder.h"
+#include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Numbers.h"
+#include "Tallyrig/Text/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace tallyrig {
+
+namespace {
+
+/// The header of a file: of its many keys those that end up in a record.
+class Header {
+  public:
+    /// Takes a "key=value" line. A key seen again replaces the value; a line without "=" says nothing.
+    void take(std::string_view line) {
+        const std::size_t equals = line.find('=');
+        if (equals == std::string_view::npos) {
+            return;
+        }
+        const std::string key = text::upper(text::trimmedOfBlanks(line.substr(0, equals)));
+        const auto* const name = std::ranges::find(names, key);
+        if (name != names.end()) {
+            values[static_cast<std::size_t>(name - names.begin())] = line.substr(equals + 1);
+        }
+    }
+
+    EDIParser::CommonValues commonValues() const {
+        std::array<std::string_view, names.size() - firstOperator> calls;
+        std::transform(values.begin() + firstOperator, values.end(), calls.begin(),
+                       [](const auto& call) { return call.value_or(std::string_view()); });
+        return {.century = EDIParser::century(values[tDate]),
+                .myCall = text::upper(trimmed(pCall)),
+                // A locator that is there and empty still goes before the exchange.
+                .myLoc = text::upper(trimmed(values[pWWLo] ? pWWLo : pExch)),
+                .contest = std::string(trimmed(tName)),
+                .band = EDIParser::adifBand(values[pBand].value_or(std::string_view())),
+                .operators = EDIParser::operators(calls)};
+    }
+
+  private:
+    enum Key : std::size_t { pCall, pWWLo, pExch, tName, pBand, tDate, firstOperator };
+    static constexpr std::array<std::string_view, 14> names = {"PCALL", "PWWLO", "PEXCH", "TNAME", "PBAND",
+                                                               "TDATE", "MOPE1", "MOPE2", "MOPE3", "MOPE4",
+                                                               "MOPE5", "MOPE6", "MOPE7", "MOPE8"};
+
+    std::string_view trimmed(Key key) const {
+        return text::trimmedOfBlanks(values[key].value_or(std::string_view()));
+    }
+
+    std::array<std::optional<std::string_view>, names.size()> values;
+};
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Makes the records of one file. Nearly every column is plain ASCII of a few characters, so each has a short
+/// way that asks nobody and gives the same as the long one.
+class QSOReading {
+  public:
+    explicit QSOReading(const EDIParser::CommonValues& commonValues) : common(commonValues) {}
+
+    std::optional<ADIFRecord> record(std::string_view line) {
+        Columns columns;
+        if (!split(line, columns)) {
+            return std::nullopt;
+        }
+        addDate(columns[0]);
+        addTime(columns[1]);
+        addUpper(call, columns[2]);
+        add(mode, EDIParser::adifMode(columns[3]));
+        add(rstSent, columns[4]);
+        addSerial(stx, columns[5]);
+        add(rstRcvd, columns[6]);
+        addSerial(srx, columns[7]);
+        addUpper(gridsquare, columns[9]);
+        add(band, common.band);
+        add(stationCallsign, common.myCall);
+        add(myGridsquare, common.myLoc);
+        add(contestID, common.contest);
+        add(operatorField, common.operators);
+        // Never without fields: a mode is always there.
+        return builder.takeRecord();
+    }
+
+  private:
+    /// Date, time, call, mode, report and number sent, report, number and exchange received, locator. What
+    /// follows, points and flags, is for the evaluator to find anew.
+    using Columns = std::array<std::string_view, 10>;
+
+    /// The columns of `line`, trimmed; those behind its end are empty. False if there are too few.
+    static bool split(std::string_view line, Columns& columns) {
+        constexpr std::size_t fewest = 4;
+        const char* begin = line.data();
+        const char* const end = begin + line.size();
+        std::size_t count = 0;
+        for (const char* at = begin; count < columns.size(); ++at) {
+            if (at == end || *at == ';') {
+                columns[count++] = trimmed({begin, static_cast<std::size_t>(at - begin)});
+                begin = at + 1;
+            }
+            if (at == end) {
+                break;
+            }
+        }
+        return count >= fewest;
+    }
+
+    static std::string_view trimmed(std::string_view column) {
+        const auto isPlain = [](char c) { return c > ' ' && c < 0x7F; };
+        return column.empty() || (isPlain(column.front()) && isPlain(column.back()))
+                   ? column
+                   : text::trimmedOfBlanks(column);
+    }
+
+    void add(FieldTags::Number tag, std::string_view value) {
+        if (!value.empty()) {
+            builder.addField(tag, value);
+        }
+    }
+
+    void addDate(std::string_view date) {
+        if (date.size() == 6 && std::ranges::all_of(date, isDigit)) {
+            std::string full = common.century;
+            full += date;
+            builder.addField(qsoDate, full);
+        } else {
+            add(qsoDate, EDIParser::adifDate(date, common.century));
+        }
+    }
+
+    void addTime(std::string_view time) {
+        if (time.size() == 4 && std::ranges::all_of(time, isDigit)) {
+            const std::array<char, 6> full = {time[0], time[1], time[2], time[3], '0', '0'};
+            builder.addField(timeOn, {full.data(), full.size()});
+        } else {
+            add(timeOn, EDIParser::adifTime(time));
+        }
+    }
+
+    void addUpper(FieldTags::Number tag, std::string_view value) {
+        const bool isUpper = std::ranges::all_of(
+            value, [](char c) { return static_cast<unsigned char>(c) < 0x80 && !(c >= 'a' && c <= 'z'); });
+        if (isUpper) {
+            add(tag, value);
+        } else {
+            add(tag, text::upper(value));
+        }
+    }
+
+    /// A serial number without its leading zeros; 0 for what is none.
+    void addSerial(FieldTags::Number tag, std::string_view number) {
+        constexpr std::size_t mostDigits = 18;
+        if (number.size() <= mostDigits && std::ranges::all_of(number, isDigit)) {
+            const std::size_t zeros = std::min(number.find_first_not_of('0'), number.size());
+            add(tag, zeros == number.size() && zeros > 0 ? "0" : number.substr(zeros));
+        } else {
+            add(tag, std::to_string(text::integer(number).value_or(0)));
+        }
+    }
+
+    const EDIParser::CommonValues& common;
+    ADIFRecordBuilder builder;
+    const FieldTags::Number qsoDate = builder.tag("QSO_DATE");
+    const FieldTags::Number timeOn = builder.tag("TIME_ON");
+    const FieldTags::Number call = builder.tag("CALL");
+    const FieldTags::Number mode = builder.tag("MODE");
+    const FieldTags::Number rstSent = builder.tag("RST_SENT");
+    const FieldTags::Number stx = builder.tag("STX");
+    const FieldTags::Number rstRcvd = builder.tag("RST_RCVD");
+    const FieldTags::Number srx = builder.tag("SRX");
+    const FieldTags::Number gridsquare = builder.tag("GRIDSQUARE");
+    const FieldTags::Number band = builder.tag("BAND");
+    const FieldTags::Number stationCallsign = builder.tag("STATION_CALLSIGN");
+    const FieldTags::Number myGridsquare = builder.tag("MY_GRIDSQUARE");
+    const FieldTags::Number contestID = builder.tag("CONTEST_ID");
+    const FieldTags::Number operatorField = builder.tag("OPERATOR");
+};
+
+}  // namespace
+
+ADIFDocument EDIParser::parse(std::string_view data) {
+    const FileText file(data);
+    Header header;
+    std::vector<std::string_view> qsoLines;
+    bool isInQSOs = false;
+    std::string_view rest = file.text();
+    for (std::string_view line = takeLine(rest); !line.empty(); line = takeLine(rest)) {
+        if (line.front() == '[') {
+            isInQSOs = text::upper(line).starts_with("[QSORECORDS");
+        } else if (!isInQSOs) {
+            header.take(line);
+        } else if (!text::trimmedOfBlanks(line).empty()) {
+            qsoLines.push_back(line);
+        }
+    }
+    // Only now is the header complete: its keys may stand behind the QSOs.
+    const CommonValues common = header.commonValues();
+    QSOReading reading(common);
+    ADIFRecordList records;
+    for (const std::string_view line : qsoLines) {
+        if (auto record = reading.record(line)) {
+            records.append(*std::move(record));
+        }
+    }
+    return {"", {}, std::move(records)};
+}
+
+std::optional<ADIFRecord> EDIParser::record(std::string_view from, const CommonValues& common) {
+    return QSOReading(common).record(from);
+}
+
+std::string EDIParser::adifBand(std::string_view ediBand) {
+    const std::string_view written = text::trimmedOfBlanks(ediBand);
+    const std::string name = text::upper(written);
+    const auto* const known =
+        std::ranges::find_if(ediBands, [&](const EDIBand& band) { return text::upper(band.edi) == name; });
+    return std::string(known == ediBands.end() ? written : known->adif);
+}
+
+std::string EDIParser::operators(std::span<const std::string_view> calls) {
+    std::string list;
+    for (const std::string_view call : calls) {
+        const std::string_view written = text::trimmedOfBlanks(call);
+        if (!written.empty()) {
+            list += list.empty() ? "" : ",";
+            list += text::upper(written);
+        }
+    }
+    return list;
+}
+
+std::string EDIParser::century(std::optional<std::string_view> fromTDate) {
+    const std::string_view dates = text::trimmedOfBlanks(fromTDate.value_or(std::string_view()));
+    const std::string digits = numericCharacters(dates.substr(0, dates.find(';')));
+    return text::characterCount(digits) > 3 ? std::string(firstCharacters(digits, 2)) : "20";
+}
+
+std::string EDIParser::adifDate(std::string_view ediDate, std::string_view century) {
+    std::string digits = numericCharacters(ediDate);
+    if (text::characterCount(digits) == 6) {
+        digits.insert(0, century);
+    }
+    return digits;
+}
+
+std::string EDIParser::adifTime(std::string_view ediTime) {
+    std::string digits = numericCharacters(ediTime);
+    if (text::characterCount(digits) == 4) {
+        digits += "00";
+    }
+    return digits;
+}
+
+std::string_view EDIParser::adifMode(std::string_view code) {
+    struct Mode {
+        std::string_view code;
+        std::string_view adif;
+    };
+    // 3 and 4 are CW and SSB mixed; nobody can tell which way round it was.
+    constexpr std::array<Mode, 7> modes = {
+        {{"1", "SSB"}, {"2", "CW"}, {"5", "AM"}, {"6", "FM"}, {"7", "FT8"}, {"8", "RTTY"}, {"9", "SSTV"}}};
+    const auto* const known = std::ranges::find(modes, text::trimmedOfBlanks(code), &Mode::code);
+    return known == modes.end() ? "SSB" : known->adif;
+}
+
+}  // namespace tallyrig

@@ -1,0 +1,303 @@
+#include "Tallyrig/Formats/EDIWriter.h"
+
+#include "Tallyrig/Formats/EDIBands.h"
+#include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Numbers.h"
+#include "Tallyrig/Text/Text.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <unordered_set>
+
+namespace tallyrig {
+
+namespace {
+
+/// A whole number in 64 bits; absent for infinity, not-a-number and what lies beyond.
+std::optional<std::int64_t> wholeNumber(double whole) {
+    constexpr double limit = 0x1p63;
+    return std::abs(whole) < limit ? std::optional(static_cast<std::int64_t>(whole)) : std::nullopt;
+}
+
+std::int64_t cappedSum(std::int64_t left, std::int64_t right) {
+    using Limits = std::numeric_limits<std::int64_t>;
+    if (right > 0) {
+        return left > Limits::max() - right ? Limits::max() : left + right;
+    }
+    return left < Limits::min() - right ? Limits::min() : left + right;
+}
+
+/// The distinct texts of a log that are not empty, whatever their case.
+class DistinctTexts {
+  public:
+    void add(std::string_view upperText) {
+        if (!upperText.empty()) {
+            texts.insert(text::canonicalKey(upperText));
+        }
+    }
+    std::size_t size() const { return texts.size(); }
+
+  private:
+    std::unordered_set<std::string> texts;
+};
+
+/// The QSO lines of a file and what they add up to.
+class Claim {
+  public:
+    Claim(const EDIHeader& fileHeader, std::string_view locator) : header(fileHeader), myLocator(locator) {}
+
+    void add(const ADIFRecord& record, bool isDuplicate) {
+        const std::string rcvdWWL = text::upper(record.valueOrEmpty("GRIDSQUARE"));
+        squares.add(firstCharacters(rcvdWWL, 4));
+        countries.add(text::upper(record.valueOrEmpty("COUNTRY")));
+        bands.add(text::upper(record.valueOrEmpty("BAND")));
+        const std::int64_t km = EDIWriter::qrbKm(record, myLocator);
+        if (best ? km > best->km : km >= 0) {
+            best = {text::upper(record.valueOrEmpty("CALL")), rcvdWWL, km};
+        }
+        const auto points = pointsOf(record, km, isDuplicate);
+        if (points) {
+            total = cappedSum(total.value_or(0), *points);
+        }
+        qsoLines += EDIWriter::qsoLine(record, rcvdWWL, points ? std::to_string(*points) : "",
+                                       isDuplicate ? "D" : "");
+        qsoLines += "\r\n";
+        ++count;
+    }
+
+    std::size_t qsoCount() const { return count; }
+    std::size_t squareCount() const { return squares.size(); }
+    std::size_t countryCount() const { return countries.size(); }
+    std::size_t bandMultiplier() const { return std::max<std::size_t>(bands.size(), 1); }
+    /// Empty if no points were counted.
+    std::string totalPoints() const { return total ? std::to_string(*total) : ""; }
+    /// Call, locator and kilometres of the farthest station.
+    std::string bestDistance() const {
+        if (header.pointsMode != EDIPointsMode::distance) {
+            return "";
+        }
+        return best && best->km >= 1 ? fmt::format("{};{};{}", best->call, best->locator, best->km) : ";;0";
+    }
+    const std::string& lines() const { return qsoLines; }
+
+  private:
+    struct Best {
+        std::string call;
+        std::string locator;
+        std::int64_t km = 0;
+    };
+
+    std::optional<std::int64_t> pointsOf(const ADIFRecord& record, std::int64_t km, bool isDuplicate) const {
+        switch (header.pointsMode) {
+            case EDIPointsMode::distance:
+                return isDuplicate ? 0 : km;
+            case EDIPointsMode::blank:
+                return std::nullopt;
+            case EDIPointsMode::adifField:
+                break;
+        }
+        const auto value = text::number(record.valueOrEmpty(header.pointsField));
+        return value ? std::optional(wholeNumber(std::round(*value)).value_or(0)) : std::nullopt;
+    }
+
+    const EDIHeader& header;
+    std::string_view myLocator;
+    DistinctTexts squares;
+    DistinctTexts countries;
+    DistinctTexts bands;
+    std::optional<std::int64_t> total;
+    std::optional<Best> best;
+    std::string qsoLines;
+    std::size_t count = 0;
+};
+
+void appendKey(std::string& text, std::string_view key, std::string_view value) {
+    fmt::format_to(std::back_inserter(text), "{}={}\r\n", key, value);
+}
+
+void appendOperators(std::string& text, std::string_view operators) {
+    constexpr std::size_t places = 8;
+    std::size_t count = 0;
+    for (const std::string_view piece : text::split(operators, ',')) {
+        const std::string_view call = text::trimmedOfBlanks(piece);
+        if (!call.empty() && count < places) {
+            appendKey(text, fmt::format("MOpe{}", ++count), call);
+        }
+    }
+    if (count == 0) {
+        appendKey(text, "MOpe1", "");
+        appendKey(text, "MOpe2", "");
+    }
+}
+
+void appendStation(std::string& text, const EDIHeader& header) {
+    appendKey(text, "TName", header.contestName);
+    appendKey(text, "TDate", header.dateStart + ";" + header.dateEnd);
+    appendKey(text, "PCall", header.callsign);
+    appendKey(text, "PWWLo", header.locator);
+    appendKey(text, "PExch", header.locator);
+    appendKey(text, "PAdr1", header.address1);
+    appendKey(text, "PAdr2", header.address2);
+    appendKey(text, "PSect", header.section);
+    appendKey(text, "PBand", header.band);
+    appendKey(text, "PClub", header.club);
+    appendKey(text, "RName", header.responsibleName);
+    appendKey(text, "RCall", header.responsibleCall);
+    appendKey(text, "RAdr1", "");
+    appendKey(text, "RAdr2", "");
+    appendKey(text, "RPoCo", header.postalCode);
+    appendKey(text, "RCity", header.city);
+    appendKey(text, "RCoun", "");
+    appendKey(text, "RPhon", "");
+    appendKey(text, "RHBBS", header.responsibleEmail);
+    appendOperators(text, header.operators);
+    appendKey(text, "STXEq", header.txEquipment);
+    appendKey(text, "SPowe", header.power);
+    appendKey(text, "SRXEq", header.rxEquipment);
+    appendKey(text, "SAnte", header.antenna);
+    appendKey(text, "SAntH", header.antennaHeight);
+}
+
+void appendClaim(std::string& text, const Claim& claim) {
+    const std::size_t multiplier = claim.bandMultiplier();
+    appendKey(text, "CQSOs", fmt::format("{};{}", claim.qsoCount(), multiplier));
+    appendKey(text, "CQSOP", claim.totalPoints());
+    appendKey(text, "CWWLs", fmt::format("{};0;{}", claim.squareCount(), multiplier));
+    appendKey(text, "CWWLB", "0");
+    appendKey(text, "CExcs", fmt::format("0;0;{}", multiplier));
+    appendKey(text, "CExcB", "0");
+    appendKey(text, "CDXCs", fmt::format("{};0;{}", claim.countryCount(), multiplier));
+    appendKey(text, "CDXCB", "0");
+    appendKey(text, "CToSc", claim.totalPoints());
+    appendKey(text, "CODXC", claim.bestDistance());
+}
+
+/// The day without its century.
+std::string_view shortDate(std::string_view date) {
+    return text::characterCount(date) == 8 ? date.substr(firstCharacters(date, 2).size()) : date;
+}
+
+/// At least three digits; what is no number as it stands.
+std::string sentNumber(std::string_view serial) {
+    const auto number = text::integer(serial);
+    return number ? fmt::format("{:03}", *number) : std::string(serial);
+}
+
+/// The report, in every mode 59 where the log has none.
+std::string_view report(std::string_view logged) {
+    return logged.empty() ? "59" : logged;
+}
+
+}  // namespace
+
+std::string EDIWriter::write(const ADIFDocument& document) const {
+    EDIHeader complete = header;
+    if (complete.callsign.empty() || complete.locator.empty()) {
+        const EDIHeader suggested = EDIHeader::suggested(document);
+        complete.callsign = complete.callsign.empty() ? suggested.callsign : complete.callsign;
+        complete.locator = complete.locator.empty() ? suggested.locator : complete.locator;
+    }
+    const std::vector<ADIFRecord> records = inTimeOrder(document.records());
+    const std::vector<bool> dupes = computeDupes(records);
+    Claim claim(complete, complete.locator);
+    for (std::size_t index = 0; index < records.size(); ++index) {
+        claim.add(records[index], dupes[index]);
+    }
+    std::string text = "[REG1TEST;1]\r\n";
+    appendStation(text, complete);
+    appendClaim(text, claim);
+    text += "[Remarks]\r\n";
+    if (!complete.remarks.empty()) {
+        text += text::trimmed(complete.remarks);
+        text += "\r\n";
+    }
+    fmt::format_to(std::back_inserter(text), "[QSORecords;{}]\r\n", claim.qsoCount());
+    text += claim.lines();
+    fmt::format_to(std::back_inserter(text), "[end;{}]\r\n", claim.qsoCount());
+    return text;
+}
+
+std::string EDIWriter::qsoLine(const ADIFRecord& record, std::string_view rcvdWWL, std::string_view points,
+                               std::string_view dupl) {
+    const std::string_view exchange = record.valueOrEmpty("SRX_STRING");
+    return fmt::format(
+        "{};{};{};{};{};{};{};{};;{};{};;;;{}", shortDate(record.valueOrEmpty("QSO_DATE")),
+        firstCharacters(record.valueOrEmpty("TIME_ON"), 4), text::upper(record.valueOrEmpty("CALL")),
+        ediMode(record["MODE"]), report(record.valueOrEmpty("RST_SENT")),
+        sentNumber(record.valueOrEmpty("STX")), report(record.valueOrEmpty("RST_RCVD")),
+        serialFromExchange(exchange.empty() ? record.valueOrEmpty("SRX") : exchange), rcvdWWL, points, dupl);
+}
+
+std::string_view EDIWriter::ediBand(std::string_view adifBand) {
+    const auto* const known = std::ranges::find(ediBands, text::upper(adifBand), &EDIBand::adif);
+    return known == ediBands.end() ? adifBand : known->edi;
+}
+
+std::string_view EDIWriter::ediMode(std::optional<std::string_view> mode) {
+    struct Mode {
+        std::string_view adif;
+        std::string_view code;
+    };
+    constexpr std::array<Mode, 15> modes = {{{"SSB", "1"},
+                                             {"USB", "1"},
+                                             {"LSB", "1"},
+                                             {"CW", "2"},
+                                             {"AM", "5"},
+                                             {"FM", "6"},
+                                             {"NFM", "6"},
+                                             {"FT8", "7"},
+                                             {"FT4", "7"},
+                                             {"MSK144", "7"},
+                                             {"Q65", "7"},
+                                             {"JT65", "7"},
+                                             {"JT9", "7"},
+                                             {"RTTY", "8"},
+                                             {"SSTV", "9"}}};
+    const std::string name = text::canonicalKey(text::upper(mode.value_or(std::string_view())));
+    const auto* const known = std::ranges::find(modes, name, &Mode::adif);
+    return known == modes.end() ? "1" : known->code;
+}
+
+std::vector<bool> EDIWriter::computeDupes(std::span<const ADIFRecord> records) {
+    std::vector<bool> dupes;
+    dupes.reserve(records.size());
+    std::unordered_set<std::string> seen;
+    seen.reserve(records.size());
+    for (const ADIFRecord& record : records) {
+        std::string key = text::upper(record.valueOrEmpty("CALL"));
+        key += '|';
+        key += record.valueOrEmpty("BAND");
+        dupes.push_back(!seen.insert(text::canonicalKey(key)).second);
+    }
+    return dupes;
+}
+
+std::string_view EDIWriter::serialFromExchange(std::optional<std::string_view> exchange) {
+    std::string_view rest = text::trimmedOfBlanks(exchange.value_or(std::string_view()));
+    while (!rest.empty()) {
+        const std::size_t blank = rest.rfind(' ');
+        const std::string_view word = blank == std::string_view::npos ? rest : rest.substr(blank + 1);
+        if (!word.empty() && text::isAllNumeric(word)) {
+            return word;
+        }
+        rest = rest.substr(0, blank == std::string_view::npos ? 0 : blank);
+    }
+    return {};
+}
+
+std::int64_t EDIWriter::qrbKm(const ADIFRecord& record, std::string_view myLocator) {
+    if (const auto distance = text::number(record.valueOrEmpty("DISTANCE"))) {
+        const auto km = wholeNumber(std::trunc(*distance));
+        return km ? *km + 1 : 0;
+    }
+    const auto km = tallyrig::greatCircleKm(myLocator, record.valueOrEmpty("GRIDSQUARE"));
+    return km ? static_cast<std::int64_t>(*km) + 1 : 0;
+}
+
+}  // namespace tallyrig
