@@ -1,0 +1,83 @@
+#include "Quillon/Platform/NaturalOrder.h"
+
+#include <unicode/coll.h>
+#include <unicode/locid.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+std::vector<std::uint32_t> ranks(const std::vector<std::string>& values) {
+    return NaturalOrder::ranks({values.begin(), values.end()});
+}
+
+TEST(NaturalOrderOfValues, IsWhatAPersonExpects) {
+    const std::vector<std::vector<std::string>> ascending = {
+        {"", "-1", "0", "2", "10", "010a", "A", "b", "C"},
+        {"DL2AB", "DL10AB", "DL10AB/P", "EA8/DL2AB"},
+        {"7.1", "14.2", "14.15"},
+        {"20240131", "20240201", "20250101"},
+        {"Jena", "jörg", "Jork", "Österreich", "Zürich", "Москва"},
+        {"99999999999999999999", "100000000000000000000", std::string(400, '9')},
+    };
+    for (const auto& values : ascending) {
+        const auto order = ranks(values);
+        for (std::size_t right = 1; right < values.size(); ++right) {
+            EXPECT_LT(order[right - 1], order[right]) << values[right - 1] << " " << values[right];
+            EXPECT_LT(NaturalOrder::compare(values[right - 1], values[right]), 0) << values[right];
+        }
+    }
+}
+
+TEST(NaturalOrderOfValues, HoldsCaseAndLeadingZerosForLevel) {
+    const std::vector<std::string> values = {"dl1abc", "DL1ABC", "DL001abc", "DL1ABD", "ä7", "Ä07"};
+    const auto order = ranks(values);
+    EXPECT_EQ(order[0], order[1]);
+    EXPECT_EQ(order[0], order[2]);
+    EXPECT_NE(order[0], order[3]);
+    EXPECT_EQ(order[4], order[5]);
+    EXPECT_EQ(NaturalOrder::compare("DL001abc", "dl1ABC"), 0);
+}
+
+/// Our own keys for ASCII are good for nothing unless they give the collator's order in every case.
+TEST(NaturalOrderOfValues, IsTheCollatorsOwnForGeneratedTexts) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(icu::Locale("de"), status));
+    collator->setAttribute(UCOL_NUMERIC_COLLATION, UCOL_ON, status);
+    collator->setStrength(icu::Collator::SECONDARY);
+    ASSERT_TRUE(U_SUCCESS(status));
+
+    std::mt19937 random(7);
+    const auto below = [&](unsigned bound) { return static_cast<unsigned>(random() % bound); };
+    const std::vector<std::string> pieces = {"0",  "00", "1", "9",  "12", "a", "A",
+                                             "DL", "é",  "ß", "ss", "ａ", "\t"};
+    std::vector<std::string> values = {std::string(300, '0') + "5", std::string(300, '5'),
+                                       std::string(188, '5')};
+    for (int count = 0; count < 1500; ++count) {
+        std::string value;
+        for (unsigned length = below(7); length > 0; --length) {
+            // All of ASCII that can be printed, and short pieces that make long digit runs and near misses.
+            value += below(2) == 0 ? std::string(1, static_cast<char>(' ' + below(95)))
+                                   : pieces[below(below(4) == 0 ? 13 : 8)];
+        }
+        values.push_back(value);
+    }
+    const auto order = ranks(values);
+    const auto sign = [](auto left, auto right) { return left < right ? -1 : left > right ? 1 : 0; };
+    for (std::size_t left = 0; left < values.size(); ++left) {
+        for (std::size_t right = left + 1; right < values.size(); right += 1 + below(8)) {
+            ASSERT_EQ(sign(order[left], order[right]),
+                      static_cast<int>(collator->compareUTF8(values[left], values[right], status)))
+                << "[" << values[left] << "] [" << values[right] << "]";
+        }
+    }
+}
+
+}  // namespace
+}  // namespace quillon

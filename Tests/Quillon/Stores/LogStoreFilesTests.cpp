@@ -1,0 +1,227 @@
+#include "Quillon/Support/LogStoreFixture.h"
+
+#include <QDir>
+
+#include <memory>
+
+namespace quillon {
+namespace {
+
+using testing::adi;
+using testing::LogStoreTest;
+
+using OpeningLogs = LogStoreTest;
+using SavingLogs = LogStoreTest;
+using CommandLine = LogStoreTest;
+using NewLog = LogStoreTest;
+
+constexpr const char* defaultColumns =
+    "CALL QSO_DATE TIME_ON BAND MODE FREQ RST_SENT RST_RCVD GRIDSQUARE NAME";
+
+TEST_F(OpeningLogs, ShowsTheLogAsItIs) {
+    EXPECT_EQ(columns(), defaultColumns);
+    EXPECT_EQ(title(), "Unbenanntes Logbuch");
+    const QString path = folder.write(QString::fromUtf8("Größe.adi"), adi({"CALL=DL1ABC BAND=20m", "X=1"}));
+    store.open(path);
+    EXPECT_EQ(told.sent(), "columnWidths columns displayedRecords document fileURL windowTitle");
+    EXPECT_EQ(title(), "Größe.adi");
+    EXPECT_EQ(store.fileURL(), path);
+    EXPECT_EQ(columns(), "CALL BAND X");
+    EXPECT_FALSE(store.canUndo());
+    store.open(path);  // The same values, but other ids.
+    EXPECT_EQ(told.sent(), "displayedRecords document");
+}
+
+TEST_F(OpeningLogs, IsToldWhenAllIsDone) {
+    openLog({"CALL=A"});
+    type(0, "CALL", "B");
+    const QString next = folder.write("next.adi", adi({"BAND=20m", "X=1"}));
+    int calls = 0;
+    const auto look = [&] {
+        ++calls;
+        EXPECT_EQ(title(), "next.adi");
+        EXPECT_EQ(columns(), "BAND X");
+        EXPECT_EQ(shown("X"), "- 1");
+        EXPECT_EQ(store.width("BAND"), 69);
+        EXPECT_FALSE(store.canUndo());
+    };
+    QObject::connect(&store, &LogStore::documentChanged, look);
+    QObject::connect(&store, &LogStore::columnsChanged, look);
+    QObject::connect(&store, &LogStore::historyChanged, look);
+    store.open(next);
+    EXPECT_EQ(calls, 3);
+}
+
+TEST_F(OpeningLogs, EndsWhatBelongedToTheOldOneOnly) {
+    openLog({"CALL=A", "CALL=B"});
+    store.setSearchText("b");
+    store.toggleSort("CALL");
+    store.setWidth(333, "OLD");
+    store.setMode(AppMode::stats);
+    type(0, "CALL", "X");
+    store.runCheck();
+    select({0});
+    store.open(folder.write("next.adi", adi({"MODE=CW"})));
+    EXPECT_EQ(told.sent(),
+              "checkResults columnWidths columns displayedRecords document fileURL history isDirty selection "
+              "showCheckResults windowTitle");
+    EXPECT_FALSE(store.isDirty());
+    EXPECT_EQ(store.searchText(), "b");
+    EXPECT_EQ(store.sortColumn(), "CALL");
+    EXPECT_EQ(store.width("OLD"), 333);
+    EXPECT_EQ(store.mode(), AppMode::stats);
+}
+
+TEST_F(OpeningLogs, KeepsTheOldOneWhereTheNewCannotBeRead) {
+    openLog({"CALL=A"});
+    type(0, "CALL", "B");
+    told.sent();
+    store.open(folder.path("missing.adi"));
+    EXPECT_EQ(error(), "Datei konnte nicht geöffnet werden:\nDie Datei existiert nicht.");
+    EXPECT_EQ(told.sent(), "errorMessage");
+    store.open(QDir::rootPath());
+    EXPECT_EQ(error(), "Datei konnte nicht geöffnet werden:\nDas ist ein Ordner und keine Datei.");
+    EXPECT_EQ(title(), "log.adi — bearbeitet");
+    EXPECT_EQ(shown(), "B");
+    EXPECT_TRUE(store.canUndo());
+    store.setErrorMessage(std::nullopt);
+    EXPECT_EQ(told.sent(), "errorMessage2");
+}
+
+TEST_F(OpeningLogs, GivesTheDefaultColumnsForALogWithoutFields) {
+    store.open(folder.write("empty.adi", ""));
+    EXPECT_EQ(columns(), defaultColumns);
+    EXPECT_EQ(title(), "empty.adi");
+}
+
+TEST_F(OpeningLogs, AsksInAPanelForAnyLogFile) {
+    panels.answers = {folder.write("contest.log", adi({"CALL=A"}))};
+    store.openWithPanel();
+    EXPECT_EQ(shown(), "A");
+    QStringList extensions;
+    for (const FileType& type : panels.offeredTypes) {
+        extensions += type.extensions;
+    }
+    EXPECT_EQ(extensions.join(' '), "adi adif adx edi cbr cabrillo log txt");
+    told.sent();
+    store.openWithPanel();  // Cancelled.
+    EXPECT_EQ(told.sent(), "");
+}
+
+TEST_F(CommandLine, OpensTheFirstPathThatIsThere) {
+    folder.write("a.adi", adi({"CALL=A"}));
+    folder.write("b.adi", adi({"CALL=B"}));
+    const QString a = folder.path("a.adi");
+    const QString b = folder.path("b.adi");
+    const QString cross = "--crosscheck";
+    const struct {
+        QStringList arguments;
+        const char* opened;
+    } cases[] = {
+        {{cross, a, b}, "B"},    {{a, cross, b}, "A"}, {{"-x", folder.path("none"), b}, "B"},
+        {{cross, cross, a}, ""}, {{cross, a}, ""},     {{}, ""},
+    };
+    for (const auto& [arguments, opened] : cases) {
+        LogStore other(settings, panels, measurer);
+        other.openFromCommandLineIfNeeded(arguments);
+        const auto& records = other.document().records();
+        EXPECT_EQ(records.empty() ? "" : records[0].valueOrEmpty("CALL"), opened)
+            << arguments.join(' ').toStdString();
+        EXPECT_EQ(other.errorMessage(), std::nullopt);
+    }
+}
+
+TEST_F(CommandLine, DoesNothingOnceALogIsOpenAndMakesPathsAbsolute) {
+    folder.write("a.adi", adi({"CALL=A"}));
+    store.openFromCommandLineIfNeeded({QDir::current().relativeFilePath(folder.path("a.adi"))});
+    EXPECT_EQ(store.fileURL(), folder.path("a.adi"));
+    store.openFromCommandLineIfNeeded({folder.write("b.adi", adi({"CALL=B"}))});
+    EXPECT_EQ(shown(), "A");
+}
+
+TEST_F(SavingLogs, WritesTheWholeLogWhateverTheTableShows) {
+    openLog({"CALL=B BAND=20m", "CALL=A"});
+    store.toggleSort("CALL");
+    store.setSearchText("20m");
+    type(0, "CALL", "C");
+    told.sent();
+    store.save();
+    EXPECT_EQ(told.sent(), "isDirty windowTitle");
+    const std::string text = folder.read("log.adi");
+    EXPECT_NE(text.find("<PROGRAMID:7>Quillon"), std::string::npos) << text;
+    EXPECT_EQ(text.find("<CALL:1>C"), text.find("<BAND:3>20m") - 10) << text;
+    EXPECT_LT(text.find("<CALL:1>C"), text.find("<CALL:1>A")) << text;
+    store.open(folder.path("log.adi"));
+    EXPECT_EQ(cell(0, "CALL"), "C");
+    store.save();
+    EXPECT_EQ(folder.names(), "log.adi");
+}
+
+TEST_F(SavingLogs, AsksWhereForALogWithoutFile) {
+    store.addRecord();
+    told.sent();
+    store.save();  // Cancelled.
+    EXPECT_EQ(told.sent(), "");
+    EXPECT_EQ(title(), "Unbenanntes Logbuch — bearbeitet");
+    panels.answers = {folder.path("x.edi"), folder.path("y.adi")};
+    store.save();
+    EXPECT_EQ(told.sent(), "fileURL isDirty windowTitle");
+    store.saveWithPanel();
+    EXPECT_EQ(title(), "y.adi");
+    EXPECT_EQ(panels.proposedNames.join(' '), "Logbuch.adi Logbuch.adi x.edi");
+    EXPECT_EQ(folder.names(), "x.edi y.adi");
+    EXPECT_TRUE(store.canUndo());
+}
+
+TEST_F(SavingLogs, FollowsTheSettings) {
+    const struct {
+        QVariant version;
+        QVariant header;
+        const char* expected;
+    } cases[] = {
+        {{}, {}, "<ADIF_VER:5>3.1.7"},          {" \t", true, "<ADIF_VER:5>3.1.7"},
+        {"3.1.4", "nein", "<ADIF_VER:5>3.1.4"}, {7, {}, "<ADIF_VER:5>3.1.7"},
+        {" 3 ", {}, "<ADIF_VER:3> 3 "},         {"3.1.4", false, nullptr},
+    };
+    openLog({"CALL=A"});
+    for (const auto& [version, header, expected] : cases) {
+        settings.setValue("adifVersion", version);
+        settings.setValue("writeHeaderOnSave", header);
+        store.save();
+        const std::string text = folder.read("log.adi");
+        EXPECT_EQ(text.find(expected != nullptr ? expected : "<EOH>") == std::string::npos,
+                  expected == nullptr)
+            << text;
+    }
+}
+
+TEST_F(SavingLogs, ChangesNothingWhereItFails) {
+    openLog({"CALL=A"});
+    type(0, "CALL", "B");
+    told.sent();
+    panels.answers = {folder.path("missing/log.adi"), QDir::rootPath()};
+    store.saveWithPanel();
+    EXPECT_EQ(error(), "Speichern fehlgeschlagen:\nDer Ordner existiert nicht.");
+    store.saveWithPanel();
+    EXPECT_EQ(error(), "Speichern fehlgeschlagen:\nDas ist ein Ordner und keine Datei.");
+    EXPECT_EQ(told.sent(), "errorMessage2");
+    EXPECT_EQ(title(), "log.adi — bearbeitet");
+    EXPECT_EQ(folder.names(), "log.adi");
+}
+
+TEST_F(NewLog, DropsTheLogAndKeepsHowItIsShown) {
+    openLog({"X=1"});
+    store.toggleSort("X");
+    store.setSearchText("1");
+    told.sent();
+    store.newLog();
+    EXPECT_EQ(told.sent(), "columns displayedRecords document fileURL windowTitle");
+    EXPECT_EQ(columns(), defaultColumns);
+    EXPECT_EQ(store.sortColumn(), "X");
+    EXPECT_EQ(store.searchText(), "1");
+    store.newLog();
+    EXPECT_EQ(told.sent(), "");
+}
+
+}  // namespace
+}  // namespace quillon

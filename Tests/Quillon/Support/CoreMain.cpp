@@ -1,0 +1,9 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+
+int main(int count, char** arguments) {
+    ::testing::InitGoogleTest(&count, arguments);
+    const QCoreApplication application(count, arguments);
+    return RUN_ALL_TESTS();
+}

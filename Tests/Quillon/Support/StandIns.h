@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Quillon/Platform/Panels.h"
+#include "Quillon/Platform/Settings.h"
+#include "Quillon/Platform/TextMeasurer.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace quillon::testing {
+
+/// Settings that last as long as the object.
+class MemorySettings : public Settings {
+  public:
+    QVariant value(const QString& key) const override { return values.value(key); }
+    void setValue(const QString& key, const QVariant& value) override { values.insert(key, value); }
+
+  private:
+    QHash<QString, QVariant> values;
+};
+
+/// Panels that answer from a list; with none left, as a user who cancels.
+class ScriptedPanels : public Panels {
+  public:
+    std::optional<QString> fileToOpen(const QList<FileType>& types) override {
+        offeredTypes = types;
+        return nextAnswer();
+    }
+    std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) override {
+        offeredTypes = types;
+        proposedNames.append(proposedName);
+        return nextAnswer();
+    }
+
+    QStringList answers;
+    QStringList proposedNames;     ///< One for each question where to save.
+    QList<FileType> offeredTypes;  ///< In the last question.
+
+  private:
+    std::optional<QString> nextAnswer() {
+        return answers.isEmpty() ? std::nullopt : std::optional(answers.takeFirst());
+    }
+};
+
+/// Fonts in which each byte has the same width.
+class FixedMeasurer : public TextMeasurer {
+  public:
+    double width(MeasuredFont font, std::string_view text) const override {
+        if (font == MeasuredFont::cell) {
+            measuredCells.emplace_back(text);
+        }
+        return bytes.at(font) * static_cast<double>(text.size());
+    }
+
+    std::map<MeasuredFont, double> bytes = {
+        {MeasuredFont::cell, 7.3}, {MeasuredFont::label, 6}, {MeasuredFont::tag, 5}};
+    mutable std::vector<std::string> measuredCells;
+};
+
+}  // namespace quillon::testing
