@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Builds Quillon and opens its window on the given log or, without one, on an example. Where there is no display, the
+# window opens in a virtual one and a picture of it is left behind.
+#
+#     Scripts/run.sh [FILE...]
+set -euo pipefail
+top=$(cd "$(dirname "$0")/.." && pwd)
+
+"$top/Scripts/packages.sh"
+(cd "$top" && cmake --preset release >/dev/null && cmake --build --preset release --target Quillon)
+
+if [ $# = 0 ]; then
+    set -- "$top/Examples/jahreslog.adi"
+fi
+quillon=$top/build/release/Sources/Quillon/Quillon
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    exec "$quillon" "$@"
+fi
+picture=$top/build/quillon.png
+xvfb-run -a -s "-screen 0 1400x900x24" "$quillon" "$@" --grab "$picture"
+echo "There is no display here. A picture of the window is in $picture"
