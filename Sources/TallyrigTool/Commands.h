@@ -1,0 +1,24 @@
+#pragma once
+
+#include "TallyrigTool/Console.h"
+
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+namespace tallyrig::tool {
+
+/// One command of the tool: how it is called and what it does.
+struct Command {
+    const CLI::App* usage = nullptr;  ///< Has been parsed, when `run` is called, with this command chosen.
+    std::function<ExitStatus(Output&)> run;  ///< May throw a `Failure`.
+};
+
+/// Each adds its command to `program`, which must outlive it. One source file per command.
+Command dumpCommand(CLI::App& program);
+Command checkCommand(CLI::App& program);
+Command convertCommand(CLI::App& program);
+
+}  // namespace tallyrig::tool

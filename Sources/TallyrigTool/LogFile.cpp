@@ -1,0 +1,72 @@
+#include "TallyrigTool/LogFile.h"
+
+#include "Quillon/Platform/Files.h"
+#include "Tallyrig/Log/ADIFParser.h"
+#include "Tallyrig/Text/Decoding.h"
+#include "TallyrigTool/Console.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+#include <variant>
+
+namespace tallyrig::tool {
+
+namespace {
+
+std::string bytesOf(const std::string& argument) {
+    if (argument == "-") {
+        return readStandardInput();
+    }
+    std::variant<std::string, quillon::FileError> result = quillon::readFile(argument);
+    if (const auto* const error = std::get_if<quillon::FileError>(&result)) {
+        throw Failure{argument + ": " + error->message};
+    }
+    return std::get<std::string>(std::move(result));
+}
+
+struct FormatWords {
+    std::string_view name;
+    std::string_view title;
+};
+
+/// In the order of the cases.
+constexpr std::array<FormatWords, 4> formatWords = {
+    {{"adif", "ADIF"}, {"adx", "ADX"}, {"cabrillo", "Cabrillo"}, {"edi", "EDI"}}};
+
+}  // namespace
+
+std::string_view formatName(LogFormat format) {
+    return formatWords[static_cast<std::size_t>(format)].name;
+}
+
+std::string_view formatTitle(LogFormat format) {
+    return formatWords[static_cast<std::size_t>(format)].title;
+}
+
+std::string LogFile::fileName() const {
+    const std::size_t slash = argument.rfind('/');
+    return text::repaired(slash == std::string::npos ? argument : argument.substr(slash + 1));
+}
+
+LogFile readLog(const std::string& argument) {
+    const std::string bytes = bytesOf(argument);
+    const LogFormat format = LogFormatDetector::detect(bytes);
+    if (format != LogFormat::adif) {
+        throw Failure{argument + ": Logs im Format " + std::string(formatTitle(format)) +
+                      " kann diese Version noch nicht lesen."};
+    }
+    return {argument, format, ADIFParser::parse(bytes)};
+}
+
+void writeText(const std::string& argument, std::string_view text) {
+    if (argument.empty() || argument == "-") {
+        Output output;
+        output.write(text);
+        output.flush();
+    } else if (const auto error = quillon::replaceFile(argument, text)) {
+        throw Failure{argument + ": " + error->message};
+    }
+}
+
+}  // namespace tallyrig::tool

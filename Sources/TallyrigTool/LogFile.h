@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/LogFormat.h"
+
+#include <string>
+#include <string_view>
+
+namespace tallyrig::tool {
+
+/// A log as it was read for a command.
+struct LogFile {
+    std::string argument;  ///< As the command line names it; "-" is standard input.
+    LogFormat format = LogFormat::adif;
+    ADIFDocument document;
+
+    /// The last part of the path, as well-formed UTF-8.
+    std::string fileName() const;
+};
+
+/// The name of the case, such as "adif", and the format's own name, such as "ADIF".
+std::string_view formatName(LogFormat format);
+std::string_view formatTitle(LogFormat format);
+
+/// Reads the log, whatever its format. Throws a `Failure` if the file cannot be read or its format is none of
+/// those that this version reads.
+LogFile readLog(const std::string& argument);
+
+/// Makes `text` the whole of the file, or of standard output where `argument` is "-" or empty. Throws a
+/// `Failure`.
+void writeText(const std::string& argument, std::string_view text);
+
+}  // namespace tallyrig::tool

@@ -1,0 +1,118 @@
+#include "TallyrigTool/Usage.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tallyrig::tool {
+
+namespace {
+
+constexpr auto explanation =
+    "Beispiele:\n"
+    "  tallyrig dump --json Examples/vereinsabend.adi\n"
+    "  tallyrig check --no-duplicates Examples/befunde.adi\n"
+    "  tallyrig convert --to adi -o neu.adi Examples/vereinsabend.adi\n"
+    "\n"
+    "Mehr zu einem Befehl: tallyrig BEFEHL --help\n"
+    "\n"
+    "Das Format eines Logs wird am Inhalt erkannt, nicht am Dateinamen.\n"
+    "Rückgabewert: 0 nichts zu beanstanden, 1 Befunde, 2 falscher Aufruf, unlesbare Datei\n"
+    "oder misslungenes Schreiben.";
+
+/// Lays out the help pages, with the words that stand on each of them in German.
+class GermanFormatter : public CLI::Formatter {
+  public:
+    GermanFormatter() {
+        label("Usage", "Aufruf");
+        label("OPTIONS", "OPTIONEN");
+        label("Positionals", "Angaben");
+        label("REQUIRED", "");
+        label("TEXT", "");
+        column_width(24);
+    }
+
+    std::string make_usage(const CLI::App* app, std::string name) const override {
+        // A call without a command is for --help and --version only, which the parser's own line puts first.
+        return app->get_parent() == nullptr ? "Aufruf: tallyrig BEFEHL ...\n"
+                                            : CLI::Formatter::make_usage(app, std::move(name));
+    }
+};
+
+/// `text` up to `mark`, whole if that is not in it.
+std::string before(std::string_view mark, const std::string& text) {
+    return text.substr(0, text.find(mark));
+}
+
+/// `text` behind `mark`, whole if that is not in it.
+std::string behind(std::string_view mark, const std::string& text) {
+    const std::size_t found = text.find(mark);
+    return found == std::string::npos ? text : text.substr(found + mark.size());
+}
+
+/// The parser's own sentence is English. Its class says what is wrong and the sentence, of which it makes
+/// only a few, with what.
+std::string germanMessage(const CLI::ParseError& error) {
+    const std::string said = error.what();
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
+        return "Es fehlt: " + before(" is required", said);
+    }
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+        return "Unbekannte Angabe: " + behind("not expected: ", said);
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        return "Die Zahl der Werte stimmt nicht: " + before(":", said);
+    }
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) {
+        return "Ungültiger Wert: " + said;
+    }
+    // What remains comes from our own checks of values.
+    return said;
+}
+
+std::string withHint(const std::string& message, const CLI::App& program) {
+    const std::vector<CLI::App*> chosen = program.get_subcommands();
+    return message + " (Hilfe: tallyrig " + (chosen.empty() ? "" : chosen.front()->get_name() + " ") +
+           "--help)";
+}
+
+}  // namespace
+
+void describeProgram(CLI::App& program) {
+    program.name("tallyrig");
+    program.description("Liest, prüft und schreibt Logs des Amateurfunks.");
+    program.footer(explanation);
+    program.option_defaults()->group("Optionen");
+    program.set_help_flag("-h,--help", "Zeigt diese Hilfe")->group("Optionen");
+    program.set_version_flag("--version", "", "Zeigt die Version")->group("Optionen");
+    // At most one command, so that a file may be called as a command is. Words that are none are looked at by
+    // `missingCommandMessage`.
+    program.require_subcommand(0, 1);
+    program.allow_extras();
+
+    program.formatter(std::make_shared<GermanFormatter>());
+}
+
+CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& does,
+                     const std::string& example) {
+    CLI::App& command = *program.add_subcommand(name, does)->group("Befehle");
+    command.get_help_ptr()->group("Optionen");
+    command.allow_extras(false);
+    command.footer("Beispiel:\n  " + example);
+    return command;
+}
+
+std::string usageMessage(const CLI::App& program, const CLI::ParseError& error) {
+    return withHint(germanMessage(error), program);
+}
+
+std::string missingCommandMessage(const CLI::App& program) {
+    const std::vector<std::string> words = program.remaining();
+    return withHint(words.empty() ? "Es fehlt der Befehl" : "Unbekannter Befehl: " + words.front(), program);
+}
+
+}  // namespace tallyrig::tool

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+namespace CLI {
+class App;
+class ParseError;
+}  // namespace CLI
+
+namespace tallyrig::tool {
+
+/// Sets up the program itself: its help in German, for the commands added later too, and its version.
+void describeProgram(CLI::App& program);
+
+/// Adds a command with its help: what it does, and an example of its use.
+CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& does,
+                     const std::string& example);
+
+/// What is wrong with the call, in German and with a hint to the help.
+std::string usageMessage(const CLI::App& program, const CLI::ParseError& error);
+
+/// The same for a call that names no command of ours.
+std::string missingCommandMessage(const CLI::App& program);
+
+}  // namespace tallyrig::tool
