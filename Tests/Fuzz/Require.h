@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+
+/// Stops the fuzzer, which then keeps the input, unless `fact` holds.
+inline void require(bool fact, const char* claim) {
+    if (!fact) {
+        std::fprintf(stderr, "Does not hold: %s\n", claim);
+        std::abort();
+    }
+}
