@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,10 @@ std::string repaired(std::string_view bytes);
 
 /// `bytes` without the UTF-8 byte order mark at their head, if there is one: it is no text.
 std::string_view withoutByteOrderMark(std::string_view bytes);
+
+/// Text of UTF-16 bytes in the byte order of the mark at their head, without the mark. A lone surrogate and
+/// half a unit at the end become U+FFFD. Absent if there is no such mark.
+std::optional<std::string> fromUTF16(std::string_view bytes);
 
 /// Appends the code points of ISO 8859-1 `bytes` to `text` as UTF-8.
 void appendLatin1(std::string& text, std::string_view bytes);
