@@ -1,12 +1,12 @@
 #include "Tallyrig/Formats/LogLines.h"
 
+#include "Tallyrig/Formats/RecordValues.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 #include <utility>
 
 namespace tallyrig {
@@ -15,12 +15,8 @@ namespace {
 
 /// The number of bytes of the line break at the front of `text`, 0 if there is none.
 std::size_t lineBreakLength(std::string_view text) {
-    const auto first = static_cast<std::uint8_t>(text.front());
-    if (first >= '\n' && first <= '\r') {
+    if (text.front() >= '\n' && text.front() <= '\r') {
         return 1;
-    }
-    if (first < 0x80) {
-        return 0;
     }
     if (text.starts_with("\u0085")) {
         return 2;
@@ -28,9 +24,22 @@ std::size_t lineBreakLength(std::string_view text) {
     return text.starts_with("\u2028") || text.starts_with("\u2029") ? 3 : 0;
 }
 
+/// Whether a line may end at the byte `c`: nearly all bytes of a log are printable ASCII.
+bool mayBreakLine(char c) {
+    return static_cast<std::uint8_t>(c - 0x10) >= 0x70;
+}
+
+bool isBlankOrTab(char c) {
+    return c == ' ' || c == '\t';
+}
+
 /// In plain text every byte is a character.
 bool isPlain(std::string_view text) {
-    return text::isASCII(text) && text.find('\r') == std::string_view::npos;
+    bool plain = true;
+    for (const char c : text) {
+        plain &= static_cast<std::uint8_t>(c) < 0x80 && c != '\r';
+    }
+    return plain;
 }
 
 struct TimedRecord {
@@ -48,35 +57,52 @@ FileText::FileText(std::string_view bytes) : view(text::withoutByteOrderMark(byt
 }
 
 std::string_view takeLine(std::string_view& rest) {
-    std::size_t end = 0;
-    while (end < rest.size()) {
-        const std::size_t length = lineBreakLength(rest.substr(end));
+    const char* begin = rest.data();
+    const char* const end = begin + rest.size();
+    const auto textFrom = [&](const char* at) {
+        return std::string_view(at, static_cast<std::size_t>(end - at));
+    };
+    for (const char* at = begin; at != end;) {
+        const std::size_t length = mayBreakLine(*at) ? lineBreakLength(textFrom(at)) : 0;
         if (length == 0) {
-            ++end;
-        } else if (end == 0) {
-            rest.remove_prefix(length);
+            ++at;
+        } else if (at == begin) {
+            at += length;
+            begin = at;
         } else {
-            const std::string_view line = rest.substr(0, end);
-            rest.remove_prefix(end + length);
-            return line;
+            rest = textFrom(at + length);
+            return {begin, static_cast<std::size_t>(at - begin)};
         }
     }
-    return std::exchange(rest, {});
+    rest = {};
+    return textFrom(begin);
 }
 
 std::string_view takePiece(std::string_view& rest) {
-    const auto isSeparator = [](char c) { return c == ' ' || c == '\t'; };
-    const char* const limit = rest.data() + rest.size();
-    const char* const begin = std::find_if_not(rest.data(), limit, isSeparator);
-    const char* const end = std::find_if(begin, limit, isSeparator);
-    rest = {end, static_cast<std::size_t>(limit - end)};
-    return {begin, static_cast<std::size_t>(end - begin)};
+    const char* const end = rest.data() + rest.size();
+    const char* begin = rest.data();
+    while (begin != end && isBlankOrTab(*begin)) {
+        ++begin;
+    }
+    const char* at = begin;
+    while (at != end && (*at > ' ' || !isBlankOrTab(*at))) {
+        ++at;
+    }
+    rest = {at, static_cast<std::size_t>(end - at)};
+    return {begin, static_cast<std::size_t>(at - begin)};
+}
+
+bool hasLength(std::string_view text, std::size_t count) {
+    return (isPlain(text) ? text.size() : text::characterCount(text)) == count;
 }
 
 std::string numericCharacters(std::string_view text) {
     std::string result;
     if (text::isASCII(text)) {
-        std::ranges::copy_if(text, std::back_inserter(result), [](char c) { return c >= '0' && c <= '9'; });
+        result.resize(text.size());
+        const auto kept =
+            std::ranges::copy_if(text, result.begin(), [](char c) { return c >= '0' && c <= '9'; });
+        result.erase(kept.out, result.end());
         return result;
     }
     for (const std::string_view character : text::characters(text)) {
@@ -88,7 +114,8 @@ std::string numericCharacters(std::string_view text) {
 }
 
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
-    if (text.size() <= count || isPlain(text)) {
+    // A plain byte behind them cannot belong to the last of them.
+    if (text.size() <= count || isPlain(text.substr(0, count + 1))) {
         return text.substr(0, count);
     }
     const std::vector<std::string_view> characters = text::characters(text);
@@ -98,6 +125,11 @@ std::string_view firstCharacters(std::string_view text, std::size_t count) {
 }
 
 void appendColumn(std::string& line, std::string_view text, std::size_t width) {
+    if (isPlain(text)) {
+        line += text.substr(0, width);
+        line.append(width - std::min(width, text.size()), ' ');
+        return;
+    }
     const std::string_view shown = firstCharacters(text, width);
     line += shown;
     line.append(width - text::characterCount(shown), ' ');
@@ -106,9 +138,11 @@ void appendColumn(std::string& line, std::string_view text, std::size_t width) {
 std::vector<ADIFRecord> inTimeOrder(const ADIFRecordList& records) {
     std::vector<TimedRecord> timed;
     timed.reserve(records.size());
+    RecordValues values({"QSO_DATE", "TIME_ON"});
     for (const ADIFRecord& record : records) {
-        std::string time(record.valueOrEmpty("QSO_DATE"));
-        time += record.valueOrEmpty("TIME_ON");
+        values.read(record);
+        std::string time(values.valueOrEmpty(0));
+        time += values.valueOrEmpty(1);
         if (!text::isASCII(time)) {
             time = text::canonicalKey(time);
         }

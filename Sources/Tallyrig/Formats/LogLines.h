@@ -34,6 +34,9 @@ std::string_view takeLine(std::string_view& rest);
 /// Takes the next piece between blanks (U+0020) and tabs off the front of `rest`; empty when none is left.
 std::string_view takePiece(std::string_view& rest);
 
+/// Whether `text` is `count` characters long.
+bool hasLength(std::string_view text, std::size_t count);
+
 /// The numeric characters of `text`, of any script, without all others.
 std::string numericCharacters(std::string_view text);
 

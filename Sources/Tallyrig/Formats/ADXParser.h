@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFDocument.h"
+
+#include <string_view>
+
+namespace tallyrig {
+
+/// Reads ADX files (ADIF 3.1.7, section "ADX Files"), the XML form of ADIF, into the same fields as an ADI
+/// file of that content: application fields become `APP_<PROGRAM>_<FIELD>`, user-defined ones of the header
+/// `USERDEF<n>`. No state; each call is by itself.
+class ADXParser {
+  public:
+    /// The document in `data`, in any encoding that XML declares and expat knows: UTF-8, UTF-16, ISO 8859-1
+    /// and US-ASCII. The comment is always empty. What is no well-formed XML ends the reading: the records
+    /// closed before that place are kept. Entities declared in the file are replaced as long as they do not
+    /// swell it out of proportion, external ones are left out and never fetched.
+    static ADIFDocument parse(std::string_view data);
+};
+
+}  // namespace tallyrig

@@ -1,0 +1,287 @@
+#include "Tallyrig/Formats/CabrilloParser.h"
+
+#include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Log/ADIFRecordBuilder.h"
+#include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Numbers.h"
+#include "Tallyrig/Text/Text.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace tallyrig {
+
+namespace {
+
+struct BandRange {
+    std::int64_t lowKHz;
+    std::int64_t highKHz;
+    std::string_view band;
+};
+
+/// The bands as contest logs use them; those of ADIF reach further in some places.
+constexpr std::array<BandRange, 17> bandRanges = {{{1800, 2000, "160M"},
+                                                   {3500, 4000, "80M"},
+                                                   {5250, 5450, "60M"},
+                                                   {7000, 7300, "40M"},
+                                                   {10100, 10150, "30M"},
+                                                   {14000, 14350, "20M"},
+                                                   {18068, 18168, "17M"},
+                                                   {21000, 21450, "15M"},
+                                                   {24890, 24990, "12M"},
+                                                   {28000, 29700, "10M"},
+                                                   {50000, 54000, "6M"},
+                                                   {70000, 71000, "4M"},
+                                                   {144000, 148000, "2M"},
+                                                   {222000, 225000, "1.25M"},
+                                                   {420000, 450000, "70CM"},
+                                                   {902000, 928000, "33CM"},
+                                                   {1240000, 1300000, "23CM"}}};
+
+constexpr std::array<std::pair<std::int64_t, std::string_view>, 6> mhzDesignators = {
+    {{50, "6M"}, {70, "4M"}, {144, "2M"}, {222, "1.25M"}, {432, "70CM"}, {902, "33CM"}}};
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 8> ghzDesignators = {{{"1.2G", "23CM"},
+                                                                                          {"2.3G", "13CM"},
+                                                                                          {"3.4G", "9CM"},
+                                                                                          {"5.7G", "6CM"},
+                                                                                          {"10G", "3CM"},
+                                                                                          {"24G", "1.25CM"},
+                                                                                          {"47G", "6MM"},
+                                                                                          {"76G", "4MM"}}};
+
+/// "DG" and "FM" alike are taken for FT8.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 5> adifModes = {
+    {{"CW", "CW"}, {"PH", "SSB"}, {"RY", "RTTY"}, {"DG", "FT8"}, {"FM", "FT8"}}};
+
+/// The value of the pair with this key, empty if there is none.
+template <typename Pairs, typename Key>
+std::string_view valueFor(const Pairs& pairs, const Key& key) {
+    const auto* const found = std::ranges::find(pairs, key, &Pairs::value_type::first);
+    return found == pairs.end() ? std::string_view() : found->second;
+}
+
+/// `kHz`, at least 1000, in MHz.
+std::string megahertz(std::int64_t kHz) {
+    constexpr std::int64_t highest = 1'000'000'000;
+    if (kHz > highest) {
+        return CabrilloParser::trimFreq(static_cast<double>(kHz) / 1000);
+    }
+    // The same without the way through floating point, which would be the dearest step of all in a line.
+    std::string text = std::to_string(kHz);
+    text.insert(text.size() - 3, 1, '.');
+    text.resize(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) {
+        text.pop_back();
+    }
+    return text;
+}
+
+/// Whether the upper-cased line begins with `tag`.
+bool beginsWith(std::string_view line, std::string_view tag) {
+    for (std::size_t at = 0; at < tag.size() && at < line.size(); ++at) {
+        const char c = line[at];
+        if (static_cast<unsigned char>(c) >= 0x80) {
+            return text::upper(line).starts_with(tag);
+        }
+        if (c != tag[at] && (c < 'a' || c > 'z' || c - 'a' + 'A' != tag[at])) {
+            return false;
+        }
+    }
+    return line.size() >= tag.size();
+}
+
+/// What the header says of all QSOs.
+struct Station {
+    std::string callsign;
+    std::string contest;
+    std::string operators;
+    std::string gridLocator;
+};
+
+/// What `read` makes of a column, kept for the next lines: a station stays on its frequency for a while, and
+/// on most days there is more than one QSO.
+template <auto read>
+class Repeated {
+  public:
+    const auto& of(std::string_view nextColumn) {
+        if (nextColumn != column) {
+            value = read(nextColumn);
+            column = nextColumn;
+        }
+        return value;
+    }
+
+  private:
+    std::string_view column;
+    decltype(read(std::string_view())) value;
+};
+
+/// Makes the records of one log.
+class RecordMaker {
+  public:
+    /// The record of the line, absent if it has too few columns. The line stays until the next is read.
+    std::optional<ADIFRecord> record(std::string_view line, std::string_view myCall, std::string_view contest,
+                                     std::string_view operators, std::string_view grid) {
+        line.remove_prefix(firstCharacters(line, 4).size());
+        std::array<std::string_view, 10> columns;
+        for (std::string_view& column : columns) {
+            column = takePiece(line);
+        }
+        if (columns.back().empty()) {
+            return std::nullopt;
+        }
+        const CabrilloParser::FrequencyAndBand& place = places.of(columns[0]);
+        add(freq, place.freq);
+        add(band, place.band);
+        add(mode, modes.of(columns[1]));
+        add(qsoDate, dates.of(columns[2]));
+        add(timeOn, CabrilloParser::adifTime(columns[3]));
+        add(rstSent, columns[5]);
+        add(stxString, columns[6]);
+        add(call, text::upper(columns[7]));
+        add(rstRcvd, columns[8]);
+        add(srxString, columns[9]);
+        if (text::isAllNumeric(columns[9])) {
+            add(srx, std::to_string(text::integer(columns[9]).value_or(0)));
+        }
+        add(stationCallsign, myCall);
+        add(contestID, contest);
+        add(operatorCall, operators);
+        add(myGridsquare, grid);
+        return builder.takeRecord();
+    }
+
+  private:
+    void add(FieldTags::Number tag, std::string_view value) {
+        if (!value.empty()) {
+            builder.addField(tag, value);
+        }
+    }
+
+    Repeated<CabrilloParser::frequencyAndBand> places;
+    Repeated<CabrilloParser::adifMode> modes;
+    Repeated<CabrilloParser::adifDate> dates;
+    ADIFRecordBuilder builder;
+    FieldTags::Number freq = builder.tag("FREQ");
+    FieldTags::Number band = builder.tag("BAND");
+    FieldTags::Number mode = builder.tag("MODE");
+    FieldTags::Number qsoDate = builder.tag("QSO_DATE");
+    FieldTags::Number timeOn = builder.tag("TIME_ON");
+    FieldTags::Number rstSent = builder.tag("RST_SENT");
+    FieldTags::Number stxString = builder.tag("STX_STRING");
+    FieldTags::Number call = builder.tag("CALL");
+    FieldTags::Number rstRcvd = builder.tag("RST_RCVD");
+    FieldTags::Number srxString = builder.tag("SRX_STRING");
+    FieldTags::Number srx = builder.tag("SRX");
+    FieldTags::Number stationCallsign = builder.tag("STATION_CALLSIGN");
+    FieldTags::Number contestID = builder.tag("CONTEST_ID");
+    FieldTags::Number operatorCall = builder.tag("OPERATOR");
+    FieldTags::Number myGridsquare = builder.tag("MY_GRIDSQUARE");
+};
+
+/// Takes a header line; of a tag seen twice the later value holds.
+void readHeaderLine(std::string_view line, Station& station) {
+    const std::size_t colon = line.find(':');
+    if (colon == std::string_view::npos) {
+        return;
+    }
+    const std::string key = text::upper(text::trimmedOfBlanks(line.substr(0, colon)));
+    const std::string_view value = text::trimmedOfBlanks(line.substr(colon + 1));
+    if (key == "CALLSIGN") {
+        station.callsign = text::upper(value);
+    } else if (key == "CONTEST") {
+        station.contest = value;
+    } else if (key == "OPERATORS") {
+        station.operators = text::upper(value);
+    } else if (key == "GRID-LOCATOR") {
+        station.gridLocator = text::upper(value);
+    }
+}
+
+}  // namespace
+
+ADIFDocument CabrilloParser::parse(std::string_view data) {
+    const FileText file(data);
+    std::string_view rest = file.text();
+    Station station;
+    // The header may go on behind the QSOs, so that they wait until all of it is known.
+    std::vector<std::string_view> qsoLines;
+    for (std::string_view line = takeLine(rest); !line.empty(); line = takeLine(rest)) {
+        line = text::trimmedOfBlanks(line);
+        if (beginsWith(line, "QSO:")) {
+            qsoLines.push_back(line);
+        } else if (!beginsWith(line, "X-QSO:")) {
+            readHeaderLine(line, station);
+        }
+    }
+    RecordMaker maker;
+    ADIFRecordList records;
+    for (const std::string_view line : qsoLines) {
+        auto record =
+            maker.record(line, station.callsign, station.contest, station.operators, station.gridLocator);
+        if (record) {
+            records.append(*std::move(record));
+        }
+    }
+    return {std::string(), {}, std::move(records)};
+}
+
+std::optional<ADIFRecord> CabrilloParser::record(std::string_view line, std::string_view myCall,
+                                                 std::string_view contest, std::string_view operators,
+                                                 std::string_view grid) {
+    return RecordMaker().record(line, myCall, contest, operators, grid);
+}
+
+std::optional<std::string_view> CabrilloParser::bandForFrequency(std::int64_t kHz) {
+    const auto* const range = std::ranges::find_if(bandRanges, [&](const BandRange& candidate) {
+        return kHz >= candidate.lowKHz && kHz <= candidate.highKHz;
+    });
+    return range == bandRanges.end() ? std::nullopt : std::optional(range->band);
+}
+
+CabrilloParser::FrequencyAndBand CabrilloParser::frequencyAndBand(std::string_view column) {
+    const std::string_view trimmed = text::trimmedOfBlanks(column);
+    const std::optional<std::int64_t> number = text::integer(trimmed);
+    if (!number) {
+        return {std::string(), valueFor(ghzDesignators, text::upper(trimmed))};
+    }
+    if (*number < 1000) {
+        return {std::to_string(*number), valueFor(mhzDesignators, *number)};
+    }
+    return {megahertz(*number), bandForFrequency(*number).value_or(std::string_view())};
+}
+
+std::string CabrilloParser::trimFreq(double mhz) {
+    std::string text = fmt::format("{:.6f}", mhz);
+    text.resize(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) {
+        text.pop_back();
+    }
+    return text;
+}
+
+std::string CabrilloParser::adifMode(std::string_view column) {
+    std::string mode = text::upper(column);
+    const std::string_view known = valueFor(adifModes, mode);
+    return known.empty() ? mode : std::string(known);
+}
+
+std::string CabrilloParser::adifDate(std::string_view column) {
+    std::string digits = numericCharacters(column);
+    return hasLength(digits, 8) ? digits : std::string(column);
+}
+
+std::string CabrilloParser::adifTime(std::string_view column) {
+    std::string digits = numericCharacters(column);
+    if (hasLength(digits, 4)) {
+        digits += "00";
+    }
+    return digits;
+}
+
+}  // namespace tallyrig

@@ -1,0 +1,204 @@
+#include "Tallyrig/Formats/CabrilloParser.h"
+
+#include "Tallyrig/Log/LogSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+using testing::Pairs;
+using testing::pairs;
+
+/// A line whose other columns are in order.
+ADIFRecord withColumn(std::size_t index, const std::string& column) {
+    std::vector<std::string> columns = {"14074", "PH",  "2024-01-15", "1234", "DL1ABC",
+                                        "59",    "001", "K1XYZ",      "59",   "002"};
+    columns[index] = column;
+    std::string line = "QSO:";
+    for (const std::string& text : columns) {
+        line += ' ' + text;
+    }
+    return CabrilloParser::record(line, "", "", "", "").value_or(ADIFRecord());
+}
+
+TEST(CabrilloLog, GivesARecordForEachQSOLine) {
+    const ADIFDocument log = CabrilloParser::parse(
+        "START-OF-LOG: 3.0\r\nCALLSIGN: dl1abc\r\nCONTEST: cq-ww-SSB\r\nGRID-LOCATOR:jo62qm\r\n"
+        "OPERATORS: dl1abc, DL2XYZ \r\nSOAPBOX: QSO: none\r\n"
+        "qso: 14074 ph 2024-01-15 1234 dl1abc 59 001 k1xyz 59 002\r\n"
+        "X-QSO: 14074 PH 2024-01-15 1235 DL1ABC 59 002 K2XYZ 59 003\r\n"
+        "\tQSO:\t7001\tCW\t2024-01-15\t1236 DL1ABC 599 JO62 K3XYZ 599 4A 1 more\t\r\n"
+        "END-OF-LOG:\r\n");
+    EXPECT_EQ(log.headerComment(), "");
+    EXPECT_TRUE(log.headerFields().empty());
+    ASSERT_EQ(log.records().size(), 2U);
+    EXPECT_EQ(pairs(log.records()[0]), Pairs({{"FREQ", "14.074"},
+                                              {"BAND", "20M"},
+                                              {"MODE", "SSB"},
+                                              {"QSO_DATE", "20240115"},
+                                              {"TIME_ON", "123400"},
+                                              {"RST_SENT", "59"},
+                                              {"STX_STRING", "001"},
+                                              {"CALL", "K1XYZ"},
+                                              {"RST_RCVD", "59"},
+                                              {"SRX_STRING", "002"},
+                                              {"SRX", "2"},
+                                              {"STATION_CALLSIGN", "DL1ABC"},
+                                              {"CONTEST_ID", "cq-ww-SSB"},
+                                              {"OPERATOR", "DL1ABC, DL2XYZ"},
+                                              {"MY_GRIDSQUARE", "JO62QM"}}));
+    EXPECT_EQ(log.records()[1]["FREQ"], "7.001");
+    EXPECT_EQ(log.records()[1]["CALL"], "K3XYZ");
+    EXPECT_EQ(log.records()[1]["SRX_STRING"], "4A");
+    EXPECT_FALSE(log.records()[1].has("SRX"));
+    EXPECT_EQ(log.records()[1]["OPERATOR"], "DL1ABC, DL2XYZ");
+}
+
+TEST(CabrilloHeaderLine, HoldsForAllRecordsWhereverItStands) {
+    const std::string qso = "QSO: 1 CW 2 3 A 5 6 K1XYZ 8 9";
+    struct Case {
+        std::string lines;
+        std::string name;
+        std::optional<std::string_view> value;
+    };
+    const std::vector<Case> cases = {
+        {"CALLSIGN: A1A\n" + qso + "\ncallsign : b2b", "STATION_CALLSIGN", "B2B"},
+        {qso + "\u2028\u00A0Call\u017Fign:\u00A0ö\u00DF", "STATION_CALLSIGN", "ÖSS"},
+        {"CONTEST: a: b\rCONTEST\r" + qso, "CONTEST_ID", "a: b"},
+        {"CONTEST: a\nCONTEST:\n" + qso, "CONTEST_ID", std::nullopt},
+        {": a\n\n \n" + qso, "CONTEST_ID", std::nullopt},
+        {qso + "\nX-QSO: 1\nCONTEST-NAME: a\nX-CONTEST: b", "CONTEST_ID", std::nullopt},
+        {qso, "STATION_CALLSIGN", std::nullopt},
+    };
+    for (const Case& one : cases) {
+        const ADIFDocument log = CabrilloParser::parse(one.lines);
+        ASSERT_EQ(log.records().size(), 1U) << one.lines;
+        EXPECT_EQ(log.records()[0][one.name], one.value) << one.lines;
+    }
+}
+
+TEST(CabrilloLine, NeedsTenColumns) {
+    const std::vector<std::pair<std::string, std::size_t>> cases = {
+        {"QSO: 1 2 3 4 5 6 7 8 9", 0},
+        {"QSO: 1 2 3 4 5 6 7 8 9 10", 1},
+        {"QSO:1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30 31 32 33 34 "
+         "35 "
+         "36 37 38 39 40 41 42 43 44 45 46 47 48 49 50",
+         1},
+        {"Q\u017FO: 1 2 3 4 5 6 7 8 9 10", 1},
+        {"QSO : 1 2 3 4 5 6 7 8 9 10", 0},
+        {"QSO 1 2 3 4 5 6 7 8 9 10", 0},
+        {"QSO:", 0},
+        {"QSO", 0},
+        {"x-q\u017Fo: 1 2 3 4 5 6 7 8 9 10\nXQSO: 1 2 3 4 5 6 7 8 9 10", 0},
+        {"", 0},
+    };
+    for (const auto& [lines, count] : cases) {
+        EXPECT_EQ(CabrilloParser::parse(lines).records().size(), count) << lines;
+    }
+}
+
+TEST(CabrilloLine, MayBeLatin1) {
+    const ADIFDocument log = CabrilloParser::parse("QSO: 1 2 3 4 5 \xFC 7 k\xE4 9 10\nCONTEST: \xDF");
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records()[0]["RST_SENT"], "ü");
+    EXPECT_EQ(log.records()[0]["CALL"], "KÄ");
+    EXPECT_EQ(log.records()[0]["CONTEST_ID"], "ß");
+}
+
+TEST(FirstColumn, IsAFrequencyOrADesignator) {
+    struct Case {
+        std::string column;
+        std::optional<std::string_view> freq;
+        std::optional<std::string_view> band;
+    };
+    const std::vector<Case> cases = {
+        {"14000", "14", "20M"},
+        {"1800", "1.8", "160M"},
+        {"2000", "2", "160M"},
+        {"2001", "2.001", std::nullopt},
+        {"5300", "5.3", "60M"},
+        {"5100", "5.1", std::nullopt},
+        {"1300000", "1300", "23CM"},
+        {"1000", "1", std::nullopt},
+        {"999", "999", std::nullopt},
+        {"432", "432", "70CM"},
+        {"0144", "144", "2M"},
+        {"+50", "50", "6M"},
+        {"-14074", "-14074", std::nullopt},
+        {"1.2G", std::nullopt, "23CM"},
+        {"76g", std::nullopt, "4MM"},
+        {"\u00A010G\u00A0", std::nullopt, "3CM"},
+        {"1.3G", std::nullopt, std::nullopt},
+        {"14074.5", std::nullopt, std::nullopt},
+        {"LIGHT", std::nullopt, std::nullopt},
+        {"1000000001", "1000000.001", std::nullopt},
+        {"9223372036854775807", "9223372036854776", std::nullopt},
+        {"9223372036854775808", std::nullopt, std::nullopt},
+    };
+    for (const Case& one : cases) {
+        const ADIFRecord record = withColumn(0, one.column);
+        EXPECT_EQ(record["FREQ"], one.freq) << one.column;
+        EXPECT_EQ(record["BAND"], one.band) << one.column;
+    }
+    EXPECT_EQ(CabrilloParser::trimFreq(14.0740004), "14.074");
+    EXPECT_EQ(CabrilloParser::trimFreq(100), "100");
+    EXPECT_EQ(CabrilloParser::trimFreq(0), "0");
+}
+
+TEST(CabrilloColumn, BecomesItsField) {
+    struct Case {
+        std::size_t index;
+        std::string column;
+        std::string name;
+        std::optional<std::string_view> value;
+    };
+    const std::vector<Case> cases = {
+        {1, "RY", "MODE", "RTTY"},
+        {1, "dg", "MODE", "FT8"},
+        {1, "FM", "MODE", "FT8"},
+        {1, "ssb", "MODE", "SSB"},
+        {2, "20240115", "QSO_DATE", "20240115"},
+        {2, "15.01.2024", "QSO_DATE", "15012024"},
+        {2, "24-01-15", "QSO_DATE", "24-01-15"},
+        {2, "٢٠٢٤-٠١-١٥", "QSO_DATE", "٢٠٢٤٠١١٥"},
+        {3, "12:34", "TIME_ON", "123400"},
+        {3, "1234Z", "TIME_ON", "123400"},
+        {3, "123", "TIME_ON", "123"},
+        {3, "123456", "TIME_ON", "123456"},
+        {3, "----", "TIME_ON", std::nullopt},
+        {4, "OTHER", "STATION_CALLSIGN", std::nullopt},
+        {6, "7", "STX", std::nullopt},
+        {7, "k1xyz/p", "CALL", "K1XYZ/P"},
+        {9, "007", "SRX", "7"},
+        {9, "000", "SRX", "0"},
+        {9, "7A", "SRX", std::nullopt},
+        {9, "-7", "SRX", std::nullopt},
+        {9, "9223372036854775807", "SRX", "9223372036854775807"},
+        {9, "9223372036854775808", "SRX", "0"},
+        {9, "٠٧", "SRX", "0"},
+        {9, "½", "SRX", "0"},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(withColumn(one.index, one.column)[one.name], one.value) << one.column;
+    }
+}
+
+TEST(Band, IncludesItsEdges) {
+    EXPECT_EQ(CabrilloParser::bandForFrequency(5250), "60M");
+    EXPECT_EQ(CabrilloParser::bandForFrequency(5450), "60M");
+    EXPECT_EQ(CabrilloParser::bandForFrequency(5451), std::nullopt);
+    EXPECT_EQ(CabrilloParser::bandForFrequency(1800), "160M");
+    EXPECT_EQ(CabrilloParser::bandForFrequency(1799), std::nullopt);
+    EXPECT_EQ(CabrilloParser::bandForFrequency(1300001), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tallyrig

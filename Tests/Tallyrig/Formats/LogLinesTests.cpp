@@ -1,0 +1,108 @@
+#include "Tallyrig/Formats/LogLines.h"
+
+#include "Tallyrig/Log/LogSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+using testing::document;
+
+using Texts = std::vector<std::string_view>;
+
+Texts takenOff(std::string_view text, std::string_view (*take)(std::string_view&)) {
+    Texts result;
+    for (std::string_view one = take(text); !one.empty(); one = take(text)) {
+        result.push_back(one);
+    }
+    EXPECT_TRUE(text.empty());
+    return result;
+}
+
+TEST(Lines, EndAtEveryLineBreak) {
+    const std::vector<std::pair<std::string_view, Texts>> cases = {
+        {"a\nb\r\nc\rd\ve\ff\u0085g\u2028h\u2029i", {"a", "b", "c", "d", "e", "f", "g", "h", "i"}},
+        {"\n\r\n\u2028 \n\n\tx", {" ", "\tx"}},
+        {"\u0084\u2027\u202A\u00C2\u0305", {"\u0084\u2027\u202A\u00C2\u0305"}},
+        {"a\r\u0308b", {"a", "\u0308b"}},
+        {"\xE2\x80", {"\xE2\x80"}},
+        {"\x1C\x1D\x1E\x1F", {"\x1C\x1D\x1E\x1F"}},
+        {"", {}},
+        {"\n\u0085", {}},
+    };
+    for (const auto& [text, lines] : cases) {
+        EXPECT_EQ(takenOff(text, takeLine), lines) << text;
+    }
+}
+
+TEST(Pieces, StandBetweenBlanksAndTabs) {
+    const std::vector<std::pair<std::string_view, Texts>> cases = {
+        {" a\t b  c\t", {"a", "b", "c"}}, {"a\u00A0b\nc d", {"a\u00A0b\nc", "d"}}, {" \t", {}}, {"", {}}};
+    for (const auto& [text, pieces] : cases) {
+        EXPECT_EQ(takenOff(text, takePiece), pieces) << text;
+    }
+}
+
+TEST(FileText, IsUTF8OrElseLatin1) {
+    EXPECT_EQ(FileText("\xEF\xBB\xBFö").text(), "ö");
+    EXPECT_EQ(FileText("\xF6 \xC3\xB6").text(), "ö Ã¶");
+    EXPECT_EQ(FileText("").text(), "");
+}
+
+TEST(NumericCharacters, AreThoseOfAnyScript) {
+    EXPECT_EQ(numericCharacters("2024-01-15 x"), "20240115");
+    EXPECT_EQ(numericCharacters("٣-½Ⅳäx1"), "٣½Ⅳ1");
+    EXPECT_EQ(numericCharacters("1\u0308-2"), "1\u03082");
+}
+
+TEST(Columns, CountCharacters) {
+    struct Case {
+        std::string_view text;
+        std::string_view column;
+    };
+    const std::vector<Case> cases = {{"", "    "},          {"ab", "ab  "},
+                                     {"abcde", "abcd"},     {"—", "—   "},
+                                     {"äöüßé", "äöüß"},     {"abcd\u0308e", "abcd\u0308"},
+                                     {"a\r\nb", "a\r\nb "}, {"👨‍👩‍👧x", "👨‍👩‍👧x  "}};
+    for (const Case& one : cases) {
+        std::string line = "|";
+        appendColumn(line, one.text, 4);
+        EXPECT_EQ(line, "|" + std::string(one.column)) << one.text;
+    }
+    EXPECT_EQ(firstCharacters("abc\u0308d", 3), "abc\u0308");
+    EXPECT_TRUE(hasLength("a\r\nbc\u0308", 4));
+    EXPECT_FALSE(hasLength("a\r\nb", 4));
+}
+
+TEST(TimeOrder, IsThatOfTheTextsAndStable) {
+    const ADIFDocument log = document({{{"N", "1"}, {"QSO_DATE", "20240116"}},
+                                       {{"N", "2"}, {"QSO_DATE", "20240115"}, {"TIME_ON", "1200"}},
+                                       {{"N", "3"}, {"TIME_ON", "2024011512"}},
+                                       {{"N", "4"}, {"TIME_ON", "1200"}, {"QSO_DATE", "20240115"}},
+                                       {{"N", "5"}},
+                                       {{"N", "6"}, {"QSO_DATE", "2024011512"}},
+                                       {{"N", "7"}, {"QSO_DATE", "ö"}},
+                                       {{"N", "8"}, {"QSO_DATE", "o\u0308"}},
+                                       {{"N", "9"}, {"QSO_DATE", "z"}}});
+    std::string order;
+    for (const ADIFRecord& record : inTimeOrder(log.records())) {
+        order += record.valueOrEmpty("N");
+    }
+    EXPECT_EQ(order, "536241978");
+}
+
+TEST(FirstValue, IsSoughtRecordByRecord) {
+    const ADIFDocument log = document({{{"A", ""}, {"A", "hidden"}}, {{"B", "b"}}, {{"A", "a"}}});
+    EXPECT_EQ(firstValue(log, {"A", "B"}), "b");
+    EXPECT_EQ(firstValue(log, {"A"}), "a");
+    EXPECT_EQ(firstValue(log, {"C"}), "");
+}
+
+}  // namespace
+}  // namespace tallyrig
