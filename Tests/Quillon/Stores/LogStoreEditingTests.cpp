@@ -259,5 +259,15 @@ TEST_F(Undo, RestoresColumnsAndClearsWhatNoLongerFits) {
     EXPECT_EQ(selected(), "A");
 }
 
+TEST_F(Undo, KeepsSelectedWhatIsStillThere) {
+    for (const std::size_t size : {2U, 100U}) {
+        openLog(std::vector<std::string>(size, "CALL=A"));
+        store.addRecord();
+        store.setSelection({id(1), id(size)}, std::nullopt);
+        store.undo();
+        EXPECT_EQ(store.selection(), LogStore::Selection{id(1)}) << size;
+    }
+}
+
 }  // namespace
 }  // namespace quillon
