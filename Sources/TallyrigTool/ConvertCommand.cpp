@@ -91,8 +91,13 @@ Command convertCommand(CLI::App& program) {
                     "Zeitpunkt im Kopf als \"yyyyMMdd HHmmss\" in UTC, sonst jetzt")
         ->type_name("T")
         ->check(CLI::Validator(checkedTimestamp, ""));
-    return {&usage, [options](Output&) {
-                writeText(options->target, converted(*options, readLog(options->file).document));
+    return {&usage, [options](Output& output) {
+                const std::string text = converted(*options, readLog(options->file).document);
+                if (options->target.empty() || options->target == "-") {
+                    output.write(text);
+                } else {
+                    writeFile(options->target, text);
+                }
                 return ExitStatus::good;
             }};
 }

@@ -59,13 +59,9 @@ LogFile readLog(const std::string& argument) {
     return {argument, format, ADIFParser::parse(bytes)};
 }
 
-void writeText(const std::string& argument, std::string_view text) {
-    if (argument.empty() || argument == "-") {
-        Output output;
-        output.write(text);
-        output.flush();
-    } else if (const auto error = quillon::replaceFile(argument, text)) {
-        throw Failure{argument + ": " + error->message};
+void writeFile(const std::string& path, std::string_view text) {
+    if (const auto error = quillon::replaceFile(path, text)) {
+        throw Failure{path + ": " + error->message};
     }
 }
 

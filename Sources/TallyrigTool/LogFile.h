@@ -26,8 +26,7 @@ std::string_view formatTitle(LogFormat format);
 /// those that this version reads.
 LogFile readLog(const std::string& argument);
 
-/// Makes `text` the whole of the file, or of standard output where `argument` is "-" or empty. Throws a
-/// `Failure`.
-void writeText(const std::string& argument, std::string_view text);
+/// Makes `text` the whole of the file. Throws a `Failure`, and then leaves the file as it was.
+void writeFile(const std::string& path, std::string_view text);
 
 }  // namespace tallyrig::tool

@@ -57,7 +57,7 @@ std::string behind(std::string_view mark, const std::string& text) {
 /// The parser's own sentence is English. Its class says what is wrong and the sentence, of which it makes
 /// only a few, with what.
 std::string germanMessage(const CLI::ParseError& error) {
-    const std::string said = error.what();
+    std::string said = error.what();
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
         return "Es fehlt: " + before(" is required", said);
     }
