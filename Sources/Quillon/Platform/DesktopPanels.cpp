@@ -1,0 +1,87 @@
+#include "Quillon/Platform/DesktopPanels.h"
+
+#include "Quillon/Platform/BusyCursor.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace quillon {
+
+namespace {
+
+/// Such as "*.adi": desktops differ in whether a pattern minds the case, so that both cases are named.
+QStringList patterns(const FileType& type) {
+    QStringList result;
+    for (const QString& extension : type.extensions) {
+        result.append(QStringLiteral("*.") + extension);
+        result.append(QStringLiteral("*.") + extension.toUpper());
+    }
+    return result;
+}
+
+QString filter(const QString& label, const QStringList& patterns) {
+    return label + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
+/// What the panel shows at first are all files of `types`; then each kind by itself, and at last any file.
+QStringList nameFilters(const QList<FileType>& types) {
+    QStringList all;
+    QStringList single;
+    for (const FileType& type : types) {
+        if (!type.extensions.isEmpty()) {
+            all.append(patterns(type));
+            single.append(filter(type.label, patterns(type)));
+        }
+    }
+    QStringList result;
+    if (single.size() > 1) {
+        result.append(filter(QStringLiteral("Logdateien"), all));
+    }
+    result.append(single);
+    result.append(QStringLiteral("Alle Dateien (*)"));
+    return result;
+}
+
+QString firstExtension(const QList<FileType>& types) {
+    for (const FileType& type : types) {
+        if (!type.extensions.isEmpty()) {
+            return type.extensions.first();
+        }
+    }
+    return {};
+}
+
+std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    const QString path = dialog.selectedFiles().constFirst();
+    folder = QFileInfo(path).absolutePath();
+    // The store now reads or writes the file; it returns to the event loop when it is done.
+    showBusyCursorUntilIdle();
+    return path;
+}
+
+}  // namespace
+
+std::optional<QString> DesktopPanels::fileToOpen(const QList<FileType>& types) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Öffnen"), folder);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(nameFilters(types));
+    return choice(dialog, folder);
+}
+
+std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, const QList<FileType>& types) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Speichern unter"), folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilters(nameFilters(types));
+    dialog.setDefaultSuffix(firstExtension(types));
+    dialog.selectFile(proposedName);
+    return choice(dialog, folder);
+}
+
+}  // namespace quillon

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Quillon/Platform/Panels.h"
+
+namespace quillon {
+
+/// The file dialogs of the desktop, modal over the active window. They begin in the folder where the user was
+/// last.
+class DesktopPanels : public Panels {
+  public:
+    std::optional<QString> fileToOpen(const QList<FileType>& types) override;
+    /// A name without extension gets the first one of `types`.
+    std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) override;
+
+    /// The folder in which the next panel begins.
+    void setFolder(const QString& path) { folder = path; }
+
+  private:
+    QString folder;
+};
+
+}  // namespace quillon
