@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QIcon>
+#include <QWidget>
+
+class QLabel;
+
+namespace quillon {
+
+/// What a pane shows in place of content that is not there: an icon, a title and a sentence, in the middle.
+class EmptyState : public QWidget {
+    Q_OBJECT
+
+  public:
+    EmptyState(const QIcon& picture, const QString& title, const QString& text, QWidget* parent = nullptr);
+    /// With an icon of the theme.
+    EmptyState(const QString& iconName, const QString& title, const QString& text, QWidget* parent = nullptr);
+
+    void setTexts(const QString& title, const QString& text);
+
+  private:
+    QLabel* titleLabel;
+    QLabel* textLabel;
+};
+
+}  // namespace quillon

@@ -1,0 +1,90 @@
+#include "Quillon/Views/Labels.h"
+
+#include "Quillon/Platform/FontMeasurer.h"
+
+#include <QFrame>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+class PictureWidget : public QWidget {
+  public:
+    PictureWidget(QIcon icon, int sizePx, QWidget* parent) : QWidget(parent), picture(std::move(icon)) {
+        setFixedSize(sizePx, sizePx);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        picture.paint(&painter, rect());
+    }
+
+  private:
+    QIcon picture;
+};
+
+}  // namespace
+
+ElidedLabel::ElidedLabel(Qt::TextElideMode elideMode, QWidget* parent) : QLabel(parent), elide(elideMode) {
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize ElidedLabel::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(text()) + 1, QLabel::sizeHint().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    const int readable = fontMetrics().horizontalAdvance(QStringLiteral("mmm…"));
+    return {std::min(readable, sizeHint().width()), QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect area = contentsRect();
+    const int flags =
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextSingleLine;
+    style()->drawItemText(&painter, area, flags, palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), elide, area.width()), foregroundRole());
+}
+
+QLabel* headingLabel(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setFont(fontFor(MeasuredFont::label));
+    return label;
+}
+
+QLabel* noteLabel(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(smallFont());
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QWidget* horizontalLine(QWidget* parent) {
+    auto* line = new QFrame(parent);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
+    line->setFixedHeight(1);
+    return line;
+}
+
+QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
+    return new PictureWidget(picture, sizePx, parent);
+}
+
+QString plainToolTip(const QString& text) {
+    return text.isEmpty() ? QString()
+                          : QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
+}
+
+}  // namespace quillon

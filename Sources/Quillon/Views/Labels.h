@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QIcon>
+#include <QLabel>
+
+namespace quillon {
+
+/// A label on one line that takes what room there is and leaves out the part of its text that does not fit.
+class ElidedLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit ElidedLabel(Qt::TextElideMode elideMode, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    Qt::TextElideMode elide;
+};
+
+/// The heading of a section: bold, in the small size.
+QLabel* headingLabel(const QString& text, QWidget* parent = nullptr);
+
+/// A remark that explains what stands above it: small, in the secondary colour, on as many lines as it needs.
+QLabel* noteLabel(const QString& text, QWidget* parent = nullptr);
+
+/// A thin line between two parts of a window, from left to right.
+QWidget* horizontalLine(QWidget* parent = nullptr);
+
+/// A picture of this size on both sides, painted anew each time, so that it is crisp on any screen and
+/// follows the palette.
+QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent = nullptr);
+
+/// Text in plain letters for places that would take a "<" for the beginning of a tag; a long one is broken
+/// into lines.
+QString plainToolTip(const QString& text);
+
+}  // namespace quillon
