@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QWidget>
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class QStackedLayout;
+
+namespace quillon {
+
+class LogStore;
+
+/// The section of the sidebar that adds a field to the single selected QSO: one of the ADIF fields, or one of
+/// the user's own.
+class FieldAdder : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `logStore` outlives the section.
+    explicit FieldAdder(LogStore& logStore, QWidget* parent = nullptr);
+
+  signals:
+    /// A field was added; it is the last of the record.
+    void fieldAdded();
+
+  private:
+    void refresh();
+    void addOwnField();
+    void add(const QString& name);
+
+    LogStore& store;
+    QWidget* hint;
+    QWidget* form;
+    QLineEdit* newFieldName;
+    QPushButton* addButton;
+};
+
+}  // namespace quillon

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace quillon {
+
+class LogStore;
+
+/// Offers the ADIF fields that the single selected QSO does not have yet, each under its German name.
+///
+/// The list is long: it is made when it opens.
+class FieldPicker : public QComboBox {
+    Q_OBJECT
+
+  public:
+    /// `logStore` outlives the picker.
+    explicit FieldPicker(const LogStore& logStore, QWidget* parent = nullptr);
+
+    void showPopup() override;
+
+  signals:
+    /// The user chose the field of this name.
+    void picked(const QString& name);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    const LogStore& store;
+};
+
+}  // namespace quillon

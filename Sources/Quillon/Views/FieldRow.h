@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+
+#include <string_view>
+
+class QToolButton;
+
+namespace quillon {
+
+class ElidedLabel;
+
+/// A text field that shows a text of the log and writes each change to it at once. Undo and redo are the
+/// log's, not its own: there is one history, whatever way a text was changed.
+class LogTextField : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    explicit LogTextField(QWidget* parent = nullptr);
+
+    /// Shows `text` without moving the cursor of someone who is typing just that.
+    void showText(const QString& text);
+
+  protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// One field of a QSO in the detail pane: its name, its value to be edited, and a button to remove it.
+class FieldRow : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit FieldRow(QWidget* parent = nullptr);
+
+    /// `name` and `value` in UTF-8.
+    void show(std::string_view name, std::string_view value);
+    LogTextField& valueField() const { return *valueEdit; }
+    QToolButton& removeButton() const { return *remove; }
+
+  signals:
+    void valueEdited(const QString& text);
+    void removeClicked();
+
+  private:
+    ElidedLabel* label;
+    LogTextField* valueEdit;
+    QToolButton* remove;
+};
+
+}  // namespace quillon

@@ -1,0 +1,77 @@
+#include "Quillon/Views/IssueListModel.h"
+
+#include "Quillon/Catalogue/ADIFFieldCatalog.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Icons.h"
+#include "Quillon/Views/Labels.h"
+#include "Quillon/Views/Strings.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+QString lineText(const tallyrig::ValidationIssue& issue) {
+    return QStringLiteral("Zeile ") + QString::number(issue.recordIndex + 1);
+}
+
+QString messageText(const tallyrig::ValidationIssue& issue) {
+    return toQString(ADIFFieldCatalog::germanMessage(issue));
+}
+
+QString severityText(const tallyrig::ValidationIssue& issue) {
+    return issue.severity() == tallyrig::ValidationSeverity::error ? QStringLiteral("Fehler")
+                                                                   : QStringLiteral("Warnung");
+}
+
+}  // namespace
+
+IssueListModel::IssueListModel(const LogStore& logStore, QObject* parent)
+    : QAbstractListModel(parent), store(logStore), count(static_cast<int>(store.validationIssues().size())) {
+    connect(&store, &LogStore::checkResultsChanged, this, &IssueListModel::follow);
+}
+
+int IssueListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count;
+}
+
+QVariant IssueListModel::data(const QModelIndex& index, int role) const {
+    const auto& issues = store.validationIssues();
+    if (!index.isValid() || static_cast<std::size_t>(index.row()) >= issues.size()) {
+        return {};
+    }
+    const tallyrig::ValidationIssue& issue = issues[static_cast<std::size_t>(index.row())];
+    switch (role) {
+        case Qt::DecorationRole:
+            return severityIcon(issue.severity());
+        case Qt::DisplayRole:
+            return QString(lineText(issue) + QStringLiteral(": ") + messageText(issue));
+        case Qt::AccessibleTextRole:
+            return QString(severityText(issue) + QStringLiteral(", ") + lineText(issue) +
+                           QStringLiteral(": ") + messageText(issue));
+        case Qt::ToolTipRole:
+            return plainToolTip(messageText(issue));
+        case lineRole:
+            return lineText(issue);
+        case messageRole:
+            return messageText(issue);
+        case recordIndexRole:
+            return QVariant::fromValue(static_cast<qulonglong>(issue.recordIndex));
+        default:
+            return {};
+    }
+}
+
+QString IssueListModel::longestLine() const {
+    // The findings stand in the order of the records, and a later record has no shorter number.
+    return count == 0 ? QString() : lineText(store.validationIssues().back());
+}
+
+void IssueListModel::follow() {
+    beginResetModel();
+    count = static_cast<int>(store.validationIssues().size());
+    endResetModel();
+}
+
+}  // namespace quillon

@@ -1,0 +1,117 @@
+#include "Quillon/Views/RecordDetailView.h"
+
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/EmptyState.h"
+#include "Quillon/Views/FieldRow.h"
+#include "Quillon/Views/Labels.h"
+
+#include <QScrollArea>
+#include <QStackedLayout>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
+    : QWidget(parent),
+      store(logStore),
+      pages(new QStackedLayout(this)),
+      empty(new EmptyState(QStringLiteral("view-list-details"), QString(), QString(), this)),
+      list(new QScrollArea(this)) {
+    setAccessibleName(QStringLiteral("QSO-Details"));
+    list->setFrameShape(QFrame::NoFrame);
+    list->setWidgetResizable(true);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setFocusPolicy(Qt::NoFocus);
+
+    auto* content = new QWidget;
+    auto* outer = new QVBoxLayout(content);
+    outer->setContentsMargins(12, 12, 12, 12);
+    outer->setSpacing(10);
+    outer->addWidget(headingLabel(QStringLiteral("Felder"), content));
+    column = new QVBoxLayout;
+    column->setSpacing(8);
+    outer->addLayout(column);
+    outer->addStretch(1);
+    list->setWidget(content);
+    pages->addWidget(empty);
+    pages->addWidget(list);
+
+    connect(&store, &LogStore::selectionChanged, this, &RecordDetailView::refresh);
+    connect(&store, &LogStore::documentChanged, this, &RecordDetailView::refresh);
+    refresh();
+}
+
+void RecordDetailView::focusLastField() {
+    if (shown && !shown->fields().empty()) {
+        LogTextField& field = rows[shown->fields().size() - 1]->valueField();
+        field.setFocus(Qt::OtherFocusReason);
+        list->ensureWidgetVisible(&field);
+    }
+}
+
+void RecordDetailView::refresh() {
+    const tallyrig::ADIFRecord* record = store.selectedRecord();
+    if (record == nullptr) {
+        showNoRecord();
+    } else if (!shown || !shown->isSameAs(*record)) {
+        showRecord(*record);
+    }
+}
+
+void RecordDetailView::showRecord(const tallyrig::ADIFRecord& record) {
+    shown = record;
+    const auto fields = record.fields();
+    while (rows.size() < fields.size()) {
+        addRow();
+    }
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        if (index < fields.size()) {
+            rows[index]->show(fields[index].name, fields[index].value);
+        }
+        rows[index]->setVisible(index < fields.size());
+    }
+    pages->setCurrentWidget(list);
+}
+
+void RecordDetailView::showNoRecord() {
+    shown.reset();
+    const std::size_t count = store.selection().size();
+    if (count > 1) {
+        empty->setTexts(QString::number(count) + QStringLiteral(" QSOs ausgewählt"),
+                        QStringLiteral("Mehrfachbearbeitung folgt später."));
+    } else {
+        empty->setTexts(QStringLiteral("Kein QSO ausgewählt"),
+                        QStringLiteral("Wähle ein QSO in der Tabelle aus."));
+    }
+    pages->setCurrentWidget(empty);
+}
+
+void RecordDetailView::addRow() {
+    const std::size_t index = rows.size();
+    auto* row = new FieldRow(list->widget());
+    connect(row, &FieldRow::valueEdited, this, [this, index](const QString& text) { write(index, text); });
+    connect(row, &FieldRow::removeClicked, this, [this, index] { remove(index); });
+    column->addWidget(row);
+    rows.push_back(row);
+}
+
+void RecordDetailView::write(std::size_t index, const QString& text) {
+    if (shown) {
+        store.fieldBinding(shown->id(), index).write(text.toStdString());
+    }
+}
+
+void RecordDetailView::remove(std::size_t index) {
+    if (!shown) {
+        return;
+    }
+    store.removeField(shown->id(), index);
+    // The row at hand now shows the next field; behind the last one, the keyboard goes on with the field
+    // before.
+    if (shown && index > 0 && index == shown->fields().size()) {
+        rows[index - 1]->removeButton().setFocus();
+    }
+}
+
+}  // namespace quillon

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Quillon/Stores/AppMode.h"
+
+#include <QScrollArea>
+
+class QComboBox;
+class QVBoxLayout;
+
+namespace quillon {
+
+class LogStore;
+class Settings;
+
+/// The left column of the window: the choice of what is worked at, and below it the controls that set that
+/// up.
+class SidebarPane : public QScrollArea {
+    Q_OBJECT
+
+  public:
+    /// Both outlive the pane.
+    SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* parent = nullptr);
+
+  signals:
+    /// The user added a field to the selected QSO; it is the last of the record.
+    void fieldAdded();
+
+  private:
+    void showMode();
+
+    LogStore& store;
+    Settings& settings;
+    QComboBox* modePicker;
+    QVBoxLayout* column;
+    QWidget* sections = nullptr;  ///< Those of the mode.
+};
+
+}  // namespace quillon

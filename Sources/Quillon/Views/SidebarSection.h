@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace quillon {
+
+/// A group of controls in the sidebar, one under the other, under a heading.
+class SidebarSection : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// An empty `title` gives no heading.
+    explicit SidebarSection(const QString& title, QWidget* parent = nullptr);
+
+    void add(QWidget* control);
+    /// Moved to the right, as belonging to what stands above.
+    void addIndented(QWidget* control);
+    /// Under its own label, which belongs to it for the keyboard and for assistive technology.
+    void addLabelled(const QString& label, QWidget* control);
+    void addNote(const QString& text);
+
+  private:
+    QVBoxLayout* column;
+};
+
+}  // namespace quillon
