@@ -1,0 +1,327 @@
+#include "Quillon/Views/ContentView.h"
+
+#include "Quillon/Platform/BusyCursor.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/BulkEditSheet.h"
+#include "Quillon/Views/CheckResultsView.h"
+#include "Quillon/Views/Commands.h"
+#include "Quillon/Views/ErrorAlert.h"
+#include "Quillon/Views/Icons.h"
+#include "Quillon/Views/Labels.h"
+#include "Quillon/Views/PaneSplitter.h"
+#include "Quillon/Views/QSOTableView.h"
+#include "Quillon/Views/RecordDetailView.h"
+#include "Quillon/Views/SidebarPane.h"
+#include "Quillon/Views/StatusLine.h"
+#include "Quillon/Views/Strings.h"
+#include "Quillon/Views/TableQuestions.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QShortcut>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr QSize minimumWindowSize(1000, 480);
+constexpr QSize firstWindowSize(1280, 800);
+constexpr int searchFieldWidthPx = 200;
+constexpr int resultsHeightPx = 200;
+
+constexpr PaneWidths sidebarWidths = {.least = 220, .ideal = 250, .most = 320};
+constexpr PaneWidths tableWidths = {.least = 420, .ideal = 600};
+constexpr PaneWidths detailWidths = {.least = 260, .ideal = 300, .most = 400};
+
+/// The first local file among what is dragged; empty if there is none.
+QString draggedFile(const QMimeData& data) {
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+            return url.toLocalFile();
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList arguments, QWidget* parent)
+    : QMainWindow(parent),
+      logStore(store),
+      settings(userSettings),
+      startArguments(std::move(arguments)),
+      questions(std::make_unique<TableDialogs>()) {
+    setMinimumSize(minimumWindowSize);
+    resize(firstWindowSize);
+    setAcceptDrops(true);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    commandActions = new CommandActions(*this);
+    buildMenus();
+    buildPanes();
+    buildToolBar();
+    followStore();
+    new ErrorAlert(logStore, *this);
+}
+
+ContentView::~ContentView() = default;
+
+void ContentView::newLog() {
+    logStore.newLog();
+    focusTable();
+}
+
+void ContentView::openWithPanel() {
+    logStore.openWithPanel();
+    focusTable();
+}
+
+void ContentView::addRecord() {
+    logStore.addRecord();
+    if (const tallyrig::ADIFRecord* added = logStore.selectedRecord()) {
+        table->scrollToRecord(added->id());
+    }
+}
+
+void ContentView::copySelection() {
+    QApplication::clipboard()->setText(toQString(logStore.selectionAsADIF()));
+}
+
+void ContentView::focusSearch() {
+    searchField->setFocus(Qt::ShortcutFocusReason);
+    searchField->selectAll();
+}
+
+void ContentView::toggleFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void ContentView::showAbout() {
+    auto* box = new QMessageBox(this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(QStringLiteral("Über Quillon"));
+    box->setIconPixmap(applicationIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
+    box->setText(QStringLiteral("<b>Quillon ") + appVersion() +
+                 QStringLiteral(
+                     "</b><p>Logbücher des Amateurfunks ansehen, bearbeiten,<br>prüfen und auswerten.</p>"));
+    box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box->open();
+}
+
+void ContentView::commitEditing() {
+    table->commitEditing();
+}
+
+void ContentView::buildMenus() {
+    for (const CommandMenu menu : allCommandMenus) {
+        QMenu* entry = menuBar()->addMenu(title(menu));
+        connect(entry, &QMenu::aboutToShow, commandActions,
+                [this, menu] { commandActions->showIcons(menu); });
+        for (const Command& command : commands()) {
+            if (command.menu != menu) {
+                continue;
+            }
+            if (command.startsGroup) {
+                entry->addSeparator();
+            }
+            entry->addAction(commandActions->action(command.id));
+        }
+    }
+}
+
+void ContentView::buildPanes() {
+    auto* area = new QWidget(this);
+    auto* areaLayout = new QVBoxLayout(area);
+    areaLayout->setContentsMargins(0, 0, 0, 0);
+    areaLayout->setSpacing(0);
+    setCentralWidget(area);
+
+    auto* splitter = new PaneSplitter(area);
+    auto* sidebar = new SidebarPane(logStore, settings, splitter);
+    auto* work = new QWidget(splitter);
+    tableColumn = new QVBoxLayout(work);
+    tableColumn->setContentsMargins(0, 0, 0, 0);
+    tableColumn->setSpacing(0);
+    table = new QSOTableView(logStore, *questions, work);
+    tableColumn->addWidget(table, 1);
+    detail = new RecordDetailView(logStore, splitter);
+    splitter->addPane(sidebar, sidebarWidths);
+    splitter->addPane(work, tableWidths);
+    splitter->addPane(detail, detailWidths);
+    splitter->setRoomTaker(1);
+
+    areaLayout->addWidget(splitter, 1);
+    areaLayout->addWidget(horizontalLine(area));
+    areaLayout->addWidget(new StatusLine(logStore, area));
+
+    for (const Command& command : commands()) {
+        if (command.reach == ShortcutReach::table) {
+            table->addAction(commandActions->action(command.id));
+        }
+    }
+    connect(sidebar, &SidebarPane::fieldAdded, detail, &RecordDetailView::focusLastField);
+}
+
+void ContentView::buildToolBar() {
+    QToolBar* bar = addToolBar(QStringLiteral("Symbolleiste"));
+    bar->setMovable(false);
+    bar->setIconSize(QSize(22, 22));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const Command& command : commands()) {
+        if (command.toolBarTitle.isEmpty()) {
+            continue;
+        }
+        if (command.startsToolBarGroup) {
+            bar->addSeparator();
+        }
+        bar->addAction(commandActions->action(command.id));
+    }
+
+    auto* gap = new QWidget(bar);
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(gap);
+
+    searchField = new QLineEdit(bar);
+    searchField->setPlaceholderText(QStringLiteral("Suchen"));
+    searchField->setAccessibleName(QStringLiteral("Suchen"));
+    searchField->setToolTip(commandActions->action(CommandID::find)->toolTip());
+    searchField->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    searchField->setFixedWidth(searchFieldWidthPx);
+    searchField->setAcceptDrops(false);
+    bar->addWidget(searchField);
+    auto* margin = new QWidget(bar);
+    margin->setFixedWidth(6);
+    bar->addWidget(margin);
+
+    connect(searchField, &QLineEdit::textChanged, this, [this](const QString& text) {
+        searchField->setClearButtonEnabled(true);
+        logStore.setSearchText(text);
+    });
+    connect(searchField, &QLineEdit::returnPressed, this, &ContentView::focusTable);
+    new QShortcut(Qt::Key_Down, searchField, this, &ContentView::focusTable, Qt::WidgetShortcut);
+    new QShortcut(
+        Qt::Key_Escape, searchField, this,
+        [this] {
+            searchField->clear();
+            focusTable();
+        },
+        Qt::WidgetShortcut);
+}
+
+void ContentView::followStore() {
+    connect(&logStore, &LogStore::windowTitleChanged, this, &ContentView::showTitle);
+    connect(&logStore, &LogStore::showCheckResultsChanged, this, &ContentView::showResults);
+    connect(&logStore, &LogStore::bulkEditColumnChanged, this, &ContentView::showBulkEdit);
+    connect(&logStore, &LogStore::searchTextChanged, this, [this] {
+        if (searchField->text() != logStore.searchText()) {
+            searchField->setText(logStore.searchText());
+        }
+    });
+    searchField->setText(logStore.searchText());
+    showTitle();
+    showResults();
+    showBulkEdit();
+}
+
+void ContentView::comeUp() {
+    showBusyCursorUntilIdle();
+    logStore.openFromCommandLineIfNeeded(startArguments);
+    focusTable();
+    emit cameUp();
+}
+
+void ContentView::openFile(const QString& path) {
+    commitEditing();
+    showBusyCursorUntilIdle();
+    logStore.open(path);
+    focusTable();
+}
+
+void ContentView::focusTable() {
+    table->setFocus();
+}
+
+void ContentView::showResults() {
+    if (results == nullptr && logStore.showCheckResults()) {
+        results = new QWidget(this);
+        auto* layout = new QVBoxLayout(results);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+        auto* view = new CheckResultsView(logStore, results);
+        view->setFixedHeight(resultsHeightPx);
+        layout->addWidget(horizontalLine(results));
+        layout->addWidget(view);
+        tableColumn->addWidget(results);
+        connect(view, &CheckResultsView::recordChosen, table, &QSOTableView::scrollToRecord);
+        connect(view, &CheckResultsView::left, this, &ContentView::focusTable);
+    }
+    if (results != nullptr) {
+        results->setVisible(logStore.showCheckResults());
+    }
+}
+
+void ContentView::showBulkEdit() {
+    if (bulkEdit) {
+        disconnect(bulkEdit, nullptr, this, nullptr);
+        bulkEdit->close();
+    }
+    if (logStore.bulkEditColumn()) {
+        bulkEdit = new BulkEditSheet(logStore, *logStore.bulkEditColumn(), this);
+        bulkEdit->setAttribute(Qt::WA_DeleteOnClose);
+        connect(bulkEdit, &QDialog::finished, this, [this] {
+            bulkEdit.clear();
+            logStore.setBulkEditColumn(std::nullopt);
+        });
+        bulkEdit->open();
+    }
+}
+
+void ContentView::showTitle() {
+    // Qt takes "[*]" for the place of a mark; a file may be called so.
+    setWindowTitle(logStore.windowTitle().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+void ContentView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+        matchIconsToPalette();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void ContentView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedFile(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ContentView::dropEvent(QDropEvent* event) {
+    const QString path = draggedFile(*event->mimeData());
+    if (!path.isEmpty()) {
+        event->acceptProposedAction();
+        openFile(path);
+    }
+}
+
+void ContentView::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    // A long log is read when the user sees the window, not before.
+    if (!hasComeUp) {
+        hasComeUp = true;
+        QTimer::singleShot(0, this, &ContentView::comeUp);
+    }
+}
+
+}  // namespace quillon

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QStringList>
+
+#include <memory>
+
+class QBoxLayout;
+class QLineEdit;
+
+namespace quillon {
+
+class BulkEditSheet;
+class CommandActions;
+class LogStore;
+class QSOTableView;
+class RecordDetailView;
+class Settings;
+class TableQuestions;
+
+/// The one main window: sidebar, work area and detail pane side by side, menus and tool bar above them, the
+/// status line below. Shows the state of the store and turns what the user does into its operations.
+class ContentView : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    /// Store and settings outlive the window. A log that `arguments`, those of the program without its name,
+    /// ask for is opened when the window is on screen.
+    ContentView(LogStore& logStore, Settings& userSettings, QStringList arguments, QWidget* parent = nullptr);
+    ~ContentView() override;
+
+    LogStore& store() { return logStore; }
+    const CommandActions& actions() const { return *commandActions; }
+
+    // What the commands do beyond the store.
+    void newLog();
+    void openWithPanel();
+    void addRecord();
+    /// Puts the selected records on the clipboard, as ADI text.
+    void copySelection();
+    void focusSearch();
+    void toggleFullScreen();
+    void showAbout();
+    /// Ends typing in a cell, which writes what was typed.
+    void commitEditing();
+
+  signals:
+    /// The window is on screen and what the arguments ask for is open. Sent once, from the event loop.
+    void cameUp();
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void buildMenus();
+    void buildPanes();
+    void buildToolBar();
+    void followStore();
+    void comeUp();
+    void openFile(const QString& path);
+    void focusTable();
+    void showResults();
+    void showBulkEdit();
+    void showTitle();
+
+    LogStore& logStore;
+    Settings& settings;
+    QStringList startArguments;
+    std::unique_ptr<TableQuestions> questions;
+    CommandActions* commandActions = nullptr;
+    QLineEdit* searchField = nullptr;
+    QSOTableView* table = nullptr;
+    RecordDetailView* detail = nullptr;
+    QBoxLayout* tableColumn = nullptr;
+    QWidget* results = nullptr;  ///< Null until there are results to show.
+    QPointer<BulkEditSheet> bulkEdit;
+    bool hasComeUp = false;
+};
+
+}  // namespace quillon

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <optional>
+
+namespace quillon {
+
+class QuillonApp;
+
+/// A picture of the window for the documentation, asked for by arguments that are no part of the program's
+/// interface:
+///
+///     --grab FILE         opens what the other arguments ask for, writes a picture of the window and quits
+///     --grab-check        with the results of the check
+///     --grab-select N     with record N selected, counted from 1
+///     --grab-size WxH     with a window of this size in logical pixels
+///     --grab-dark         with a dark palette
+///
+/// Works without a screen too (`QT_QPA_PLATFORM=offscreen`); `QT_SCALE_FACTOR=2` gives twice the pixels.
+struct WindowPicture {
+    QString path;
+    bool withCheck = false;
+    std::optional<std::size_t> selectedRecord;  ///< From zero.
+    std::optional<QSize> size;
+    bool isDark = false;
+
+    /// Takes the arguments of this kind out of `arguments`; absent without `--grab`.
+    static std::optional<WindowPicture> takenFrom(QStringList& arguments);
+
+    /// Before the window is made.
+    void prepare() const;
+    /// Takes the picture when the window is up, then quits: with 0 if it is written, otherwise with 1.
+    void takeOf(QuillonApp& app) const;
+};
+
+}  // namespace quillon
