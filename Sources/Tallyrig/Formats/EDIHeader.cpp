@@ -2,7 +2,6 @@
 
 #include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Formats/LogLines.h"
-#include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -63,7 +62,7 @@ Days daysOf(const ADIFDocument& document) {
     Days days;
     for (const ADIFRecord& record : document.records()) {
         const std::string_view date = record.valueOrEmpty("QSO_DATE");
-        if (text::characterCount(date) != 8) {
+        if (!hasLength(date, 8)) {
             continue;
         }
         if (days.first.empty() || text::compare(date, days.first) < 0) {

@@ -69,8 +69,7 @@ class QSOReading {
     explicit QSOReading(const EDIParser::CommonValues& commonValues) : common(commonValues) {}
 
     std::optional<ADIFRecord> record(std::string_view line) {
-        Columns columns;
-        if (!split(line, columns)) {
+        if (!split(line)) {
             return std::nullopt;
         }
         addDate(columns[0]);
@@ -96,8 +95,8 @@ class QSOReading {
     /// follows, points and flags, is for the evaluator to find anew.
     using Columns = std::array<std::string_view, 10>;
 
-    /// The columns of `line`, trimmed; those behind its end are empty. False if there are too few.
-    static bool split(std::string_view line, Columns& columns) {
+    /// Finds the columns of `line`, trimmed; those behind its end are empty. False if there are too few.
+    bool split(std::string_view line) {
         constexpr std::size_t fewest = 4;
         const char* begin = line.data();
         const char* const end = begin + line.size();
@@ -111,6 +110,7 @@ class QSOReading {
                 break;
             }
         }
+        std::fill(columns.begin() + count, columns.end(), std::string_view());
         return count >= fewest;
     }
 
@@ -168,6 +168,7 @@ class QSOReading {
     }
 
     const EDIParser::CommonValues& common;
+    Columns columns;  ///< Of the line at hand.
     ADIFRecordBuilder builder;
     const FieldTags::Number qsoDate = builder.tag("QSO_DATE");
     const FieldTags::Number timeOn = builder.tag("TIME_ON");
@@ -246,7 +247,7 @@ std::string EDIParser::century(std::optional<std::string_view> fromTDate) {
 
 std::string EDIParser::adifDate(std::string_view ediDate, std::string_view century) {
     std::string digits = numericCharacters(ediDate);
-    if (text::characterCount(digits) == 6) {
+    if (hasLength(digits, 6)) {
         digits.insert(0, century);
     }
     return digits;
@@ -254,22 +255,19 @@ std::string EDIParser::adifDate(std::string_view ediDate, std::string_view centu
 
 std::string EDIParser::adifTime(std::string_view ediTime) {
     std::string digits = numericCharacters(ediTime);
-    if (text::characterCount(digits) == 4) {
+    if (hasLength(digits, 4)) {
         digits += "00";
     }
     return digits;
 }
 
 std::string_view EDIParser::adifMode(std::string_view code) {
-    struct Mode {
-        std::string_view code;
-        std::string_view adif;
-    };
-    // 3 and 4 are CW and SSB mixed; nobody can tell which way round it was.
-    constexpr std::array<Mode, 7> modes = {
-        {{"1", "SSB"}, {"2", "CW"}, {"5", "AM"}, {"6", "FM"}, {"7", "FT8"}, {"8", "RTTY"}, {"9", "SSTV"}}};
-    const auto* const known = std::ranges::find(modes, text::trimmedOfBlanks(code), &Mode::code);
-    return known == modes.end() ? "SSB" : known->adif;
+    // 0 is no mode, and 3 and 4 are another one for each direction: all three count as phone.
+    constexpr std::array<std::string_view, 10> modes = {"SSB", "SSB", "CW",  "SSB",  "SSB",
+                                                        "AM",  "FM",  "FT8", "RTTY", "SSTV"};
+    const std::string_view digit = text::trimmedOfBlanks(code);
+    return digit.size() == 1 && isDigit(digit.front()) ? modes[static_cast<std::size_t>(digit.front() - '0')]
+                                                       : "SSB";
 }
 
 }  // namespace tallyrig

@@ -1,6 +1,7 @@
 #include "Tallyrig/Formats/EDIWriter.h"
 
 #include "Tallyrig/Formats/EDIBands.h"
+#include "Tallyrig/Formats/EDIQSO.h"
 #include "Tallyrig/Formats/LogLines.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <iterator>
 #include <limits>
 #include <unordered_set>
@@ -18,12 +20,6 @@
 namespace tallyrig {
 
 namespace {
-
-/// A whole number in 64 bits; absent for infinity, not-a-number and what lies beyond.
-std::optional<std::int64_t> wholeNumber(double whole) {
-    constexpr double limit = 0x1p63;
-    return std::abs(whole) < limit ? std::optional(static_cast<std::int64_t>(whole)) : std::nullopt;
-}
 
 std::int64_t cappedSum(std::int64_t left, std::int64_t right) {
     using Limits = std::numeric_limits<std::int64_t>;
@@ -33,40 +29,63 @@ std::int64_t cappedSum(std::int64_t left, std::int64_t right) {
     return left < Limits::min() - right ? Limits::min() : left + right;
 }
 
-/// The distinct texts of a log that are not empty, whatever their case.
+/// The distinct texts among those given that are not empty.
 class DistinctTexts {
   public:
-    void add(std::string_view upperText) {
-        if (!upperText.empty()) {
-            texts.insert(text::canonicalKey(upperText));
+    void add(std::string_view text) {
+        if (text.empty() || texts.contains(text)) {
+            return;
         }
+        texts.insert(text::canonicalKey(text));
     }
     std::size_t size() const { return texts.size(); }
 
   private:
-    std::unordered_set<std::string> texts;
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+    };
+
+    std::unordered_set<std::string, Hash, std::equal_to<>> texts;
+};
+
+/// Remembers the QSOs by call and band.
+class SeenQSOs {
+  public:
+    /// Whether the like of `qso` was added before.
+    bool add(const EDIQSO& qso) {
+        std::string key = text::upper(qso.call());
+        key += '|';
+        key += qso.band();
+        return !keys.insert(text::canonicalKey(key)).second;
+    }
+
+  private:
+    std::unordered_set<std::string> keys;
 };
 
 /// The QSO lines of a file and what they add up to.
 class Claim {
   public:
-    Claim(const EDIHeader& fileHeader, std::string_view locator) : header(fileHeader), myLocator(locator) {}
+    explicit Claim(const EDIHeader& fileHeader)
+        : header(fileHeader), myPlace(maidenheadToCoordinate(fileHeader.locator)) {}
 
-    void add(const ADIFRecord& record, bool isDuplicate) {
-        const std::string rcvdWWL = text::upper(record.valueOrEmpty("GRIDSQUARE"));
+    void add(const ADIFRecord& record) {
+        qso.read(record);
+        const bool isDuplicate = seen.add(qso);
+        const std::string rcvdWWL = text::upper(qso.gridsquare());
         squares.add(firstCharacters(rcvdWWL, 4));
-        countries.add(text::upper(record.valueOrEmpty("COUNTRY")));
-        bands.add(text::upper(record.valueOrEmpty("BAND")));
-        const std::int64_t km = EDIWriter::qrbKm(record, myLocator);
+        countries.add(text::upper(qso.country()));
+        bands.add(text::upper(qso.band()));
+        const std::int64_t km = qso.km(myPlace);
         if (best ? km > best->km : km >= 0) {
-            best = {text::upper(record.valueOrEmpty("CALL")), rcvdWWL, km};
+            best = {text::upper(qso.call()), rcvdWWL, km};
         }
         const auto points = pointsOf(record, km, isDuplicate);
         if (points) {
             total = cappedSum(total.value_or(0), *points);
         }
-        qsoLines += EDIWriter::qsoLine(record, rcvdWWL, points ? std::to_string(*points) : "",
-                                       isDuplicate ? "D" : "");
+        qso.appendLine(qsoLines, rcvdWWL, points ? std::to_string(*points) : "", isDuplicate ? "D" : "");
         qsoLines += "\r\n";
         ++count;
     }
@@ -107,7 +126,9 @@ class Claim {
     }
 
     const EDIHeader& header;
-    std::string_view myLocator;
+    std::optional<Coordinate> myPlace;
+    EDIQSO qso;
+    SeenQSOs seen;
     DistinctTexts squares;
     DistinctTexts countries;
     DistinctTexts bands;
@@ -178,22 +199,6 @@ void appendClaim(std::string& text, const Claim& claim) {
     appendKey(text, "CODXC", claim.bestDistance());
 }
 
-/// The day without its century.
-std::string_view shortDate(std::string_view date) {
-    return text::characterCount(date) == 8 ? date.substr(firstCharacters(date, 2).size()) : date;
-}
-
-/// At least three digits; what is no number as it stands.
-std::string sentNumber(std::string_view serial) {
-    const auto number = text::integer(serial);
-    return number ? fmt::format("{:03}", *number) : std::string(serial);
-}
-
-/// The report, in every mode 59 where the log has none.
-std::string_view report(std::string_view logged) {
-    return logged.empty() ? "59" : logged;
-}
-
 }  // namespace
 
 std::string EDIWriter::write(const ADIFDocument& document) const {
@@ -203,11 +208,9 @@ std::string EDIWriter::write(const ADIFDocument& document) const {
         complete.callsign = complete.callsign.empty() ? suggested.callsign : complete.callsign;
         complete.locator = complete.locator.empty() ? suggested.locator : complete.locator;
     }
-    const std::vector<ADIFRecord> records = inTimeOrder(document.records());
-    const std::vector<bool> dupes = computeDupes(records);
-    Claim claim(complete, complete.locator);
-    for (std::size_t index = 0; index < records.size(); ++index) {
-        claim.add(records[index], dupes[index]);
+    Claim claim(complete);
+    for (const ADIFRecord& record : inTimeOrder(document.records())) {
+        claim.add(record);
     }
     std::string text = "[REG1TEST;1]\r\n";
     appendStation(text, complete);
@@ -225,13 +228,11 @@ std::string EDIWriter::write(const ADIFDocument& document) const {
 
 std::string EDIWriter::qsoLine(const ADIFRecord& record, std::string_view rcvdWWL, std::string_view points,
                                std::string_view dupl) {
-    const std::string_view exchange = record.valueOrEmpty("SRX_STRING");
-    return fmt::format(
-        "{};{};{};{};{};{};{};{};;{};{};;;;{}", shortDate(record.valueOrEmpty("QSO_DATE")),
-        firstCharacters(record.valueOrEmpty("TIME_ON"), 4), text::upper(record.valueOrEmpty("CALL")),
-        ediMode(record["MODE"]), report(record.valueOrEmpty("RST_SENT")),
-        sentNumber(record.valueOrEmpty("STX")), report(record.valueOrEmpty("RST_RCVD")),
-        serialFromExchange(exchange.empty() ? record.valueOrEmpty("SRX") : exchange), rcvdWWL, points, dupl);
+    EDIQSO qso;
+    qso.read(record);
+    std::string line;
+    qso.appendLine(line, rcvdWWL, points, dupl);
+    return line;
 }
 
 std::string_view EDIWriter::ediBand(std::string_view adifBand) {
@@ -267,13 +268,11 @@ std::string_view EDIWriter::ediMode(std::optional<std::string_view> mode) {
 std::vector<bool> EDIWriter::computeDupes(std::span<const ADIFRecord> records) {
     std::vector<bool> dupes;
     dupes.reserve(records.size());
-    std::unordered_set<std::string> seen;
-    seen.reserve(records.size());
+    EDIQSO qso;
+    SeenQSOs seen;
     for (const ADIFRecord& record : records) {
-        std::string key = text::upper(record.valueOrEmpty("CALL"));
-        key += '|';
-        key += record.valueOrEmpty("BAND");
-        dupes.push_back(!seen.insert(text::canonicalKey(key)).second);
+        qso.read(record);
+        dupes.push_back(seen.add(qso));
     }
     return dupes;
 }
@@ -292,12 +291,9 @@ std::string_view EDIWriter::serialFromExchange(std::optional<std::string_view> e
 }
 
 std::int64_t EDIWriter::qrbKm(const ADIFRecord& record, std::string_view myLocator) {
-    if (const auto distance = text::number(record.valueOrEmpty("DISTANCE"))) {
-        const auto km = wholeNumber(std::trunc(*distance));
-        return km ? *km + 1 : 0;
-    }
-    const auto km = tallyrig::greatCircleKm(myLocator, record.valueOrEmpty("GRIDSQUARE"));
-    return km ? static_cast<std::int64_t>(*km) + 1 : 0;
+    EDIQSO qso;
+    qso.read(record);
+    return qso.km(tallyrig::maidenheadToCoordinate(myLocator));
 }
 
 }  // namespace tallyrig

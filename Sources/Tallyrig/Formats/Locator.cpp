@@ -64,18 +64,19 @@ std::optional<Coordinate> maidenheadToCoordinate(std::string_view locator) {
     return Coordinate{corner.lat + 0.5, corner.lon + 1.0};
 }
 
+double greatCircleKm(const Coordinate& from, const Coordinate& to) {
+    const double sinLat = std::sin((radians(to.lat) - radians(from.lat)) / 2);
+    const double sinLon = std::sin((radians(to.lon) - radians(from.lon)) / 2);
+    const double a =
+        sinLat * sinLat + std::cos(radians(from.lat)) * std::cos(radians(to.lat)) * sinLon * sinLon;
+    // Between antipodes, rounding may take `a` a hair's breadth beyond 1.
+    return 2 * std::atan2(std::sqrt(a), std::sqrt(std::max(0.0, 1 - a))) * earthRadiusKm;
+}
+
 std::optional<double> greatCircleKm(std::string_view from, std::string_view to) {
     const auto start = maidenheadToCoordinate(from);
     const auto end = maidenheadToCoordinate(to);
-    if (!start || !end) {
-        return std::nullopt;
-    }
-    const double sinLat = std::sin((radians(end->lat) - radians(start->lat)) / 2);
-    const double sinLon = std::sin((radians(end->lon) - radians(start->lon)) / 2);
-    const double a =
-        sinLat * sinLat + std::cos(radians(start->lat)) * std::cos(radians(end->lat)) * sinLon * sinLon;
-    // Between antipodes, rounding may take `a` a hair's breadth beyond 1.
-    return 2 * std::atan2(std::sqrt(a), std::sqrt(std::max(0.0, 1 - a))) * earthRadiusKm;
+    return start && end ? std::optional(greatCircleKm(*start, *end)) : std::nullopt;
 }
 
 std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view to) {

@@ -20,11 +20,12 @@ struct Coordinate {
 /// behind the sixth character do not matter. Absent if the first four characters name no square.
 std::optional<Coordinate> maidenheadToCoordinate(std::string_view locator);
 
-/// The great-circle distance between the two centres on a sphere of radius 6371.0 km. Absent if either
-/// locator names no square.
+/// The great-circle distance on a sphere of radius 6371.0 km.
+double greatCircleKm(const Coordinate& from, const Coordinate& to);
+/// The same between the centres that the locators name; absent if either names none.
 std::optional<double> greatCircleKm(std::string_view from, std::string_view to);
 
-/// The same in whole kilometres, halves away from zero.
+/// The same between locators in whole kilometres, halves away from zero.
 std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view to);
 
 }  // namespace tallyrig
