@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/LogFormat.h"
+
+#include <string_view>
+
+namespace tallyrig {
+
+/// Reads a log of any format: the one place that chooses the reader.
+struct LogReader {
+    struct Log {
+        LogFormat format = LogFormat::adif;
+        ADIFDocument document;
+    };
+
+    /// The log in the bytes of a file, in the format that its content shows. UTF-16 with a byte order mark,
+    /// as editors save it, is read like the same text in UTF-8. Never fails.
+    static Log read(std::string_view bytes);
+};
+
+}  // namespace tallyrig

@@ -1,0 +1,60 @@
+#include "Tallyrig/Formats/LogReader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+/// ASCII text in UTF-16 with a byte order mark.
+std::string inUTF16(const std::string& text, bool isLittleEndian) {
+    std::string bytes = isLittleEndian ? "\xFF\xFE" : "\xFE\xFF";
+    for (const char c : text) {
+        bytes += isLittleEndian ? std::string{c, '\0'} : std::string{'\0', c};
+    }
+    return bytes;
+}
+
+TEST(LogReader, ReadsEachFormatInEachEncoding) {
+    struct Case {
+        LogFormat format;
+        std::string text;
+    };
+    const std::vector<Case> cases = {
+        {LogFormat::adif, "A log\n<EOH><CALL:5>DL1AB<EOR>"},
+        {LogFormat::adx, "<ADX><RECORDS><RECORD><CALL>DL1AB</CALL></RECORD></RECORDS></ADX>"},
+        {LogFormat::cabrillo,
+         "START-OF-LOG: 3.0\nQSO: 14000 CW 2024-03-02 1405 DL2AB 599 001 DL1AB 599 002\nEND-OF-LOG:\n"},
+        {LogFormat::edi, "[REG1TEST;1]\r\n[QSORecords;1]\r\n240302;1405;DL1AB;1\r\n[END]\r\n"},
+    };
+    for (const Case& c : cases) {
+        for (const std::string& bytes :
+             {c.text, "\xEF\xBB\xBF" + c.text, inUTF16(c.text, true), inUTF16(c.text, false)}) {
+            const LogReader::Log log = LogReader::read(bytes);
+            EXPECT_EQ(log.format, c.format) << c.text;
+            ASSERT_EQ(log.document.records().size(), 1U) << c.text;
+            EXPECT_EQ(log.document.records()[0]["CALL"], "DL1AB") << c.text;
+        }
+    }
+}
+
+TEST(LogReader, BelievesTheByteOrderMarkRatherThanTheXMLDeclaration) {
+    for (const char* encoding : {"UTF-16", "UTF-8", "ISO-8859-1"}) {
+        const std::string text = "<?xml version=\"1.0\" encoding=\"" + std::string(encoding) +
+                                 "\"?><ADX><RECORDS><RECORD><CALL>DL1AB</CALL></RECORD></RECORDS></ADX>";
+        EXPECT_EQ(LogReader::read(inUTF16(text, true)).document.records().size(), 1U) << encoding;
+    }
+}
+
+TEST(LogReader, TakesWhatIsNoLogForAnEmptyOne) {
+    for (const char* bytes : {"", "\xFF\xFE", "\xFE\xFF<", "no log"}) {
+        const LogReader::Log log = LogReader::read(bytes);
+        EXPECT_EQ(log.format, LogFormat::adif);
+        EXPECT_EQ(log.document, ADIFDocument());
+    }
+}
+
+}  // namespace
+}  // namespace tallyrig
