@@ -1,12 +1,14 @@
 // Reading and writing the other formats. Reading ADX stands beside expat with handlers that do nothing
-// ("expats"), all else beside a pass of memchr over the bytes of the file ("passes"); both are made in turns
-// with the work in one run.
+// ("expats"), EDI beside a pass of memchr from line to line ("linePasses"), all else beside a pass of memchr
+// over the bytes of the file ("passes"); each is made in turns with the work in one run.
 
 #include "Tallyrig/Formats/ADXParser.h"
 #include "Tallyrig/Formats/ADXWriter.h"
 #include "Tallyrig/Formats/CabrilloHeader.h"
 #include "Tallyrig/Formats/CabrilloParser.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
+#include "Tallyrig/Formats/EDIParser.h"
+#include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Timing.h"
 
@@ -14,6 +16,8 @@
 #include <expat.h>
 
 #include <cstddef>
+#include <cstring>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -75,6 +79,51 @@ void writingCabrillo(benchmark::State& state) {
     besideThePass(state, text, count, [&] { benchmark::DoNotOptimize(writer.write(document)); });
 }
 BENCHMARK(writingCabrillo)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// Looks at every line feed of `text`: the least that a reader of lines can do.
+void linePass(const std::string& text) {
+    std::size_t found = 0;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while ((at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)))) !=
+           nullptr) {
+        ++found;
+        ++at;
+    }
+    benchmark::DoNotOptimize(found);
+}
+
+void besideTheLinePass(benchmark::State& state, const std::string& text, std::size_t count,
+                       const std::function<void()>& work) {
+    inTurns(state, "linePasses", work, [&] { linePass(text); });
+    state.counters["nsPerQSO"] = state.counters["bestMs"] * 1e6 / static_cast<double>(count);
+    state.counters["megabytes"] = static_cast<double>(text.size()) / 1e6;
+}
+
+/// The generated log with serial numbers as EDI has them.
+ADIFDocument serialLog(std::size_t count) {
+    ADIFDocument document = ADIFParser::parse(logOf(count));
+    document.setColumn("STX", "42", ColumnTarget::allRecords);
+    document.setColumn("SRX", "815", ColumnTarget::allRecords);
+    return document;
+}
+
+void readingEDI(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const ADIFDocument document = serialLog(count);
+    const std::string text = EDIWriter{EDIHeader::suggested(document)}.write(document);
+    besideTheLinePass(state, text, count, [&] { benchmark::DoNotOptimize(EDIParser::parse(text)); });
+}
+BENCHMARK(readingEDI)->Arg(1'000)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void writingEDI(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const ADIFDocument document = serialLog(count);
+    const EDIWriter writer{EDIHeader::suggested(document)};
+    const std::string text = writer.write(document);
+    besideTheLinePass(state, text, count, [&] { benchmark::DoNotOptimize(writer.write(document)); });
+}
+BENCHMARK(writingEDI)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tallyrig::benchmarks
