@@ -74,6 +74,8 @@ void LogStore::announceChangesSince(const Observed& before) {
         Notice{before.mode != now.mode, &LogStore::modeChanged},
         Notice{before.checkResults != now.checkResults, &LogStore::checkResultsChanged},
         Notice{before.showCheckResults != now.showCheckResults, &LogStore::showCheckResultsChanged},
+        Notice{before.showCabrilloExport != now.showCabrilloExport, &LogStore::showCabrilloExportChanged},
+        Notice{before.showEDIExport != now.showEDIExport, &LogStore::showEDIExportChanged},
         Notice{before.bulkEditColumn != now.bulkEditColumn, &LogStore::bulkEditColumnChanged},
         Notice{before.errorMessage != now.errorMessage, &LogStore::errorMessageChanged},
     };

@@ -4,6 +4,8 @@
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
 #include "Quillon/Stores/AppMode.h"
+#include "Tallyrig/Formats/CabrilloHeader.h"
+#include "Tallyrig/Formats/EDIHeader.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/UUID.h"
 #include "Tallyrig/Validation/ValidationIssue.h"
@@ -84,6 +86,19 @@ class LogStore : public QObject {
     void openFromCommandLineIfNeeded(const QStringList& arguments);
     void save();
     void saveWithPanel();
+
+    // Other formats.
+    /// Asks for a place and makes the log an ADX file there.
+    void saveAsADX();
+    /// Writes the log to another file in the format of contest robots; it stays the log of its own file, and as changed
+    /// as it was.
+    void exportCabrillo(const tallyrig::CabrilloHeader& header);
+    void exportEDI(const tallyrig::EDIHeader& header);
+    /// Whether the sheet is wanted that asks for the header and then exports.
+    bool showCabrilloExport() const { return state.showCabrilloExport; }
+    void setShowCabrilloExport(bool show);
+    bool showEDIExport() const { return state.showEDIExport; }
+    void setShowEDIExport(bool show);
 
     // Undo.
     bool canUndo() const { return state.canUndo; }
@@ -211,6 +226,8 @@ class LogStore : public QObject {
     /// Findings, severities and messages, which change together.
     void checkResultsChanged();
     void showCheckResultsChanged();
+    void showCabrilloExportChanged();
+    void showEDIExportChanged();
     void bulkEditColumnChanged();
 
   private:
@@ -241,6 +258,8 @@ class LogStore : public QObject {
         std::map<std::string, double, std::less<>> columnWidths;  ///< By canonical key of the name.
         std::optional<std::string> sortColumn;
         bool sortAscending = true;
+        bool showCabrilloExport = false;
+        bool showEDIExport = false;
         std::optional<std::string> bulkEditColumn;
         std::optional<tallyrig::UUID> selectionAnchor;
         std::uint64_t selectionRevision = 0;  ///< Another one for each change of the selection.
@@ -261,6 +280,9 @@ class LogStore : public QObject {
     static QString windowTitleFor(const std::optional<QString>& fileURL, bool isDirty);
     void showLog(tallyrig::ADIFDocument document, std::optional<QString> path);
     void write(const QString& path);
+    /// `fileURL` without its extension, or "Logbuch", with this one.
+    QString proposedName(const QString& extension) const;
+    void exportText(const std::string& text, const FileType& type, const QString& failurePrefix);
 
     EditSnapshot currentSnapshot() const;
     /// Enters a snapshot, taken before the change, in the history.

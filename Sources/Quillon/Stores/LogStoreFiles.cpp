@@ -2,9 +2,11 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
 #include "Quillon/Stores/ValidationSettings.h"
-#include "Tallyrig/Log/ADIFParser.h"
+#include "Tallyrig/Formats/ADXWriter.h"
+#include "Tallyrig/Formats/CabrilloWriter.h"
+#include "Tallyrig/Formats/EDIWriter.h"
+#include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Log/ADIFWriter.h"
-#include "Tallyrig/Log/LogFormat.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <QFileInfo>
@@ -16,27 +18,18 @@ namespace quillon {
 namespace {
 
 using tallyrig::ADIFDocument;
-using tallyrig::LogFormat;
 
-ADIFDocument parsed(LogFormat format, std::string_view bytes) {
-    switch (format) {
-        case LogFormat::adif:
-        case LogFormat::adx:
-        case LogFormat::cabrillo:
-        case LogFormat::edi:
-            break;
+/// The log as it is saved at `path`, as the user set it up: ADX for that extension, ADI text for any other.
+std::string textFor(const QString& path, const ADIFDocument& document, const Settings& settings) {
+    const std::string stored = settings.string(setting::adifVersion).toStdString();
+    const bool isBlank = tallyrig::text::trimmedOfBlanks(stored).empty();
+    const std::string version = isBlank ? "3.1.7" : stored;
+    const bool writeHeader = settings.boolean(setting::writeHeaderOnSave, true);
+    const std::string programVersion = appVersion().toStdString();
+    if (QFileInfo(path).suffix().toLower() == QLatin1String("adx")) {
+        return tallyrig::ADXWriter{"Quillon", programVersion, version, writeHeader}.write(document);
     }
-    return tallyrig::ADIFParser::parse(bytes);
-}
-
-/// The writer as the user set it up.
-tallyrig::ADIFWriter writerFor(const Settings& settings) {
-    const std::string version = settings.string(setting::adifVersion).toStdString();
-    const bool isBlank = tallyrig::text::trimmedOfBlanks(version).empty();
-    return {.programID = "Quillon",
-            .programVersion = appVersion().toStdString(),
-            .adifVersion = isBlank ? "3.1.7" : version,
-            .writeHeader = settings.boolean(setting::writeHeaderOnSave, true)};
+    return tallyrig::ADIFWriter{"Quillon", programVersion, version, writeHeader}.write(document);
 }
 
 QString failure(const QString& what, const FileError& why) {
@@ -96,8 +89,7 @@ void LogStore::open(const QString& path) {
         state.errorMessage = failure(QStringLiteral("Datei konnte nicht geöffnet werden:"), *error);
         return;
     }
-    const auto& bytes = std::get<std::string>(content);
-    showLog(parsed(tallyrig::LogFormatDetector::detect(bytes), bytes), absolutePath);
+    showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, absolutePath);
     autoFitColumns();
 }
 
@@ -140,13 +132,61 @@ void LogStore::saveWithPanel() {
 void LogStore::write(const QString& path) {
     const Operation operation(*this);
     const QString absolutePath = QFileInfo(path).absoluteFilePath();
-    const std::string content = writerFor(settings).write(state.document);
+    const std::string content = textFor(absolutePath, state.document, settings);
     if (const auto error = replaceFile(absolutePath.toStdString(), content)) {
         state.errorMessage = failure(QStringLiteral("Speichern fehlgeschlagen:"), *error);
         return;
     }
     state.fileURL = absolutePath;
     state.isDirty = false;
+}
+
+QString LogStore::proposedName(const QString& extension) const {
+    const QString name = state.fileURL ? QFileInfo(*state.fileURL).completeBaseName() : QStringLiteral("Logbuch");
+    return name + QLatin1Char('.') + extension;
+}
+
+void LogStore::saveAsADX() {
+    const QString extension = QStringLiteral("adx");
+    if (const auto path = panels.fileToSave(proposedName(extension),
+                                            {{QStringLiteral("ADX-Dateien"), {extension}},
+                                             {QStringLiteral("XML-Dateien"), {QStringLiteral("xml")}}})) {
+        write(*path);
+    }
+}
+
+void LogStore::exportText(const std::string& text, const FileType& type, const QString& failurePrefix) {
+    const auto path = panels.fileToSave(proposedName(type.extensions.first()),
+                                        {type, {QStringLiteral("Textdateien"), {QStringLiteral("txt")}}});
+    if (!path) {
+        return;
+    }
+    const Operation operation(*this);
+    if (const auto error = replaceFile(QFileInfo(*path).absoluteFilePath().toStdString(), text)) {
+        state.errorMessage = failure(failurePrefix, *error);
+    }
+}
+
+void LogStore::exportCabrillo(const tallyrig::CabrilloHeader& header) {
+    exportText(tallyrig::CabrilloWriter{header}.write(state.document),
+               {QStringLiteral("Cabrillo-Dateien"), {QStringLiteral("cbr")}},
+               QStringLiteral("Cabrillo-Export fehlgeschlagen:"));
+}
+
+void LogStore::exportEDI(const tallyrig::EDIHeader& header) {
+    exportText(tallyrig::EDIWriter{header}.write(state.document),
+               {QStringLiteral("EDI-Dateien"), {QStringLiteral("edi")}},
+               QStringLiteral("EDI-Export fehlgeschlagen:"));
+}
+
+void LogStore::setShowCabrilloExport(bool show) {
+    const Operation operation(*this);
+    state.showCabrilloExport = show;
+}
+
+void LogStore::setShowEDIExport(bool show) {
+    const Operation operation(*this);
+    state.showEDIExport = show;
 }
 
 }  // namespace quillon
