@@ -86,10 +86,15 @@ SidebarSection* CheckSections::saving() {
 
 SidebarSection* CheckSections::exporting() {
     auto* section = new SidebarSection(QStringLiteral("Export"), this);
-    auto* adif =
-        new QPushButton(icon(QStringLiteral("document-export")), QStringLiteral("ADIF (.adi) …"), section);
-    connect(adif, &QPushButton::clicked, &store, &LogStore::saveWithPanel);
-    section->add(adif);
+    const auto add = [this, section](const QString& title, auto&& run) {
+        auto* button = new QPushButton(icon(QStringLiteral("document-export")), title, section);
+        connect(button, &QPushButton::clicked, &store, run);
+        section->add(button);
+    };
+    add(QStringLiteral("ADIF (.adi) …"), [this] { store.saveWithPanel(); });
+    add(QStringLiteral("ADX (.adx) …"), [this] { store.saveAsADX(); });
+    add(QStringLiteral("Cabrillo (.cbr) …"), [this] { store.setShowCabrilloExport(true); });
+    add(QStringLiteral("EDI (.edi) …"), [this] { store.setShowEDIExport(true); });
     return section;
 }
 

@@ -3,8 +3,10 @@
 #include "Quillon/Platform/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/BulkEditSheet.h"
+#include "Quillon/Views/CabrilloExportSheet.h"
 #include "Quillon/Views/CheckResultsView.h"
 #include "Quillon/Views/Commands.h"
+#include "Quillon/Views/EDIExportSheet.h"
 #include "Quillon/Views/ErrorAlert.h"
 #include "Quillon/Views/Icons.h"
 #include "Quillon/Views/Labels.h"
@@ -225,6 +227,8 @@ void ContentView::followStore() {
     connect(&logStore, &LogStore::windowTitleChanged, this, &ContentView::showTitle);
     connect(&logStore, &LogStore::showCheckResultsChanged, this, &ContentView::showResults);
     connect(&logStore, &LogStore::bulkEditColumnChanged, this, &ContentView::showBulkEdit);
+    connect(&logStore, &LogStore::showCabrilloExportChanged, this, &ContentView::showCabrilloExport);
+    connect(&logStore, &LogStore::showEDIExportChanged, this, &ContentView::showEDIExport);
     connect(&logStore, &LogStore::searchTextChanged, this, [this] {
         if (searchField->text() != logStore.searchText()) {
             searchField->setText(logStore.searchText());
@@ -286,6 +290,24 @@ void ContentView::showBulkEdit() {
             logStore.setBulkEditColumn(std::nullopt);
         });
         bulkEdit->open();
+    }
+}
+
+void ContentView::showCabrilloExport() {
+    if (logStore.showCabrilloExport()) {
+        auto* sheet = new CabrilloExportSheet(logStore, this);
+        sheet->setAttribute(Qt::WA_DeleteOnClose);
+        connect(sheet, &QDialog::finished, this, [this] { logStore.setShowCabrilloExport(false); });
+        sheet->open();
+    }
+}
+
+void ContentView::showEDIExport() {
+    if (logStore.showEDIExport()) {
+        auto* sheet = new EDIExportSheet(logStore, this);
+        sheet->setAttribute(Qt::WA_DeleteOnClose);
+        connect(sheet, &QDialog::finished, this, [this] { logStore.setShowEDIExport(false); });
+        sheet->open();
     }
 }
 

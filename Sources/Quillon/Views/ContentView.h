@@ -65,6 +65,8 @@ class ContentView : public QMainWindow {
     void focusTable();
     void showResults();
     void showBulkEdit();
+    void showCabrilloExport();
+    void showEDIExport();
     void showTitle();
 
     LogStore& logStore;

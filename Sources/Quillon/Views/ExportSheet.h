@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QDialog>
+#include <QString>
+#include <QStringList>
+
+#include <string>
+
+class QComboBox;
+class QFormLayout;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QVBoxLayout;
+
+namespace quillon {
+
+class LogStore;
+
+/// A sheet that collects the header of a file and then exports the log: a form in sections, the number of
+/// QSOs and the two buttons. Each control writes straight into the text it was made for.
+class ExportSheet : public QDialog {
+    Q_OBJECT
+
+  protected:
+    /// `logStore` outlives the sheet.
+    ExportSheet(LogStore& logStore, const QString& title, QWidget* parent);
+
+    /// A group of labelled controls under a heading, which may be empty.
+    QFormLayout* addSection(const QString& heading);
+    void addControl(QFormLayout* section, const QString& label, QWidget* control);
+    QLineEdit* addField(QFormLayout* section, const QString& label, std::string& text);
+    /// With a field of several lines; Tab leaves it.
+    QPlainTextEdit* addLongField(QFormLayout* section, const QString& label, std::string& text);
+    /// A picker over `choices`, of which the empty one reads "–". A text that is none of them shows as
+    /// nothing chosen.
+    QComboBox* addChoice(QFormLayout* section, const QString& label, const QStringList& choices,
+                         std::string& text);
+    /// To be called when the form stands: from then on the button follows `isComplete`.
+    void start();
+
+    /// Whether the header has what the file cannot do without.
+    virtual bool isComplete() const = 0;
+    virtual void exportLog() = 0;
+
+    LogStore& store;
+
+  private:
+    void refresh();
+
+    QWidget* form;
+    QVBoxLayout* sections;
+    QPushButton* exportButton;
+};
+
+}  // namespace quillon
