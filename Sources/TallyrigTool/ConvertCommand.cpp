@@ -1,3 +1,6 @@
+#include "Tallyrig/Formats/ADXWriter.h"
+#include "Tallyrig/Formats/CabrilloWriter.h"
+#include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 #include "Tallyrig/Text/Text.h"
 #include "TallyrigTool/Commands.h"
@@ -7,9 +10,12 @@
 #include <CLI/CLI.hpp>
 
 #include <chrono>
+#include <cstddef>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyrig::tool {
 
@@ -22,6 +28,7 @@ struct Options {
     bool hasNoHeader = false;
     std::string adifVersion = "3.1.7";
     std::string createdTimestamp;
+    std::vector<std::string> settings;  ///< Each "NAME=VALUE".
 };
 
 /// The number of the digits of `text`; negative if there is anything else in it.
@@ -55,44 +62,96 @@ std::string checkedTimestamp(const std::string& text) {
 }
 
 std::string checkedFormat(const std::string& format) {
-    if (format == "adx" || format == "cbr" || format == "edi") {
-        return "Das Format " + format + " kann diese Version noch nicht schreiben";
-    }
-    return format == "adi" ? std::string() : "Unbekanntes Format: " + format + " (möglich ist adi)";
+    const bool isKnown = format == "adi" || format == "adx" || format == "cbr" || format == "edi";
+    return isKnown ? "" : "Unbekanntes Format: " + format + " (möglich sind adi, adx, cbr, edi)";
 }
 
-std::string converted(const Options& options, const ADIFDocument& document) {
-    const ADIFWriter writer{"Quillon", TALLYRIG_VERSION,
-                            text::trimmed(options.adifVersion).empty() ? "3.1.7" : options.adifVersion,
-                            !options.hasNoHeader};
+std::string checkedSetting(const std::string& setting) {
+    return setting.find('=') != std::string::npos ? "" : setting + " hat nicht die Form NAME=WERT";
+}
+
+/// The header that the log suggests, with what the command line sets in it.
+template <typename Header>
+Header headerFor(const ADIFDocument& document, const Options& options) {
+    Header header = Header::suggested(document);
+    for (const std::string& setting : options.settings) {
+        const std::size_t equals = setting.find('=');
+        if (!header.setMember(setting.substr(0, equals), setting.substr(equals + 1))) {
+            throw Failure{"--set: " + setting + " passt zu keinem Feld im Kopf von " + options.format +
+                          " (Hilfe: tallyrig convert --help)"};
+        }
+    }
+    return header;
+}
+
+template <typename Writer>
+std::string writtenBy(const ADIFDocument& document, const Options& options) {
+    if (!options.settings.empty()) {
+        throw Failure{"--set gilt nur für cbr und edi (Hilfe: tallyrig convert --help)"};
+    }
+    const bool isBlank = text::trimmed(options.adifVersion).empty();
+    const Writer writer{"Quillon", TALLYRIG_VERSION, isBlank ? "3.1.7" : options.adifVersion,
+                        !options.hasNoHeader};
     return options.createdTimestamp.empty() ? writer.write(document)
                                             : writer.write(document, options.createdTimestamp);
+}
+
+std::string converted(const ADIFDocument& document, const Options& options) {
+    if (options.format == "cbr") {
+        return CabrilloWriter{headerFor<CabrilloHeader>(document, options)}.write(document);
+    }
+    if (options.format == "edi") {
+        return EDIWriter{headerFor<EDIHeader>(document, options)}.write(document);
+    }
+    return options.format == "adx" ? writtenBy<ADXWriter>(document, options)
+                                   : writtenBy<ADIFWriter>(document, options);
+}
+
+/// The names of header members, in lines of a help page.
+std::string lines(std::span<const std::string_view> names) {
+    constexpr std::size_t width = 76;
+    std::string text;
+    std::string line = " ";
+    for (const std::string_view name : names) {
+        if (line.size() + name.size() + 1 > width) {
+            text += line + "\n";
+            line = " ";
+        }
+        line += " " + std::string(name);
+    }
+    return text + line;
 }
 
 }  // namespace
 
 Command convertCommand(CLI::App& program) {
-    CLI::App& usage =
-        addCommand(program, "convert", "Schreibt ein Log neu, in ein anderes Format oder mit anderem Kopf.",
-                   "tallyrig convert --to adi -o neu.adi Examples/vereinsabend.adi");
+    CLI::App& usage = addCommand(
+        program, "convert", "Schreibt ein Log neu, in ein anderes Format oder mit anderem Kopf.",
+        "tallyrig convert --to cbr --set contest=WAG -o neu.cbr Examples/vereinsabend.adi\n\n"
+        "Die Köpfe von cbr und edi beginnen mit dem, was das Log nahelegt. NAME ist bei cbr\n" +
+            lines(CabrilloHeader::memberNames()) + "\nund bei edi\n" + lines(EDIHeader::memberNames()));
     const auto options = std::make_shared<Options>();
     usage.add_option("FILE", options->file, "Das Log; - liest die Standardeingabe")->required();
-    usage.add_option("--to", options->format, "Das neue Format, anzugeben in jedem Fall: adi")
+    usage.add_option("--to", options->format, "Das neue Format (nötig): adi, adx, cbr oder edi")
         ->required()
         ->type_name("FORMAT")
         ->check(CLI::Validator(checkedFormat, ""));
     usage.add_option("-o", options->target, "Die Datei, die geschrieben wird, sonst die Standardausgabe")
         ->type_name("OUT");
-    usage.add_flag("--no-header", options->hasNoHeader, "Lässt Kommentar und Kopf weg");
-    usage.add_option("--adif-version", options->adifVersion, "ADIF-Version im Kopf, sonst 3.1.7")
+    usage.add_flag("--no-header", options->hasNoHeader, "Lässt den Kopf weg (adi, adx)");
+    usage.add_option("--adif-version", options->adifVersion, "ADIF-Version im Kopf, sonst 3.1.7 (adi, adx)")
         ->type_name("V");
     usage
         .add_option("--timestamp", options->createdTimestamp,
-                    "Zeitpunkt im Kopf als \"yyyyMMdd HHmmss\" in UTC, sonst jetzt")
+                    "Zeitpunkt im Kopf als \"yyyyMMdd HHmmss\" in UTC, sonst jetzt (adi, adx)")
         ->type_name("T")
         ->check(CLI::Validator(checkedTimestamp, ""));
+    usage.add_option("--set", options->settings, "Setzt ein Feld im Kopf, auch mehrmals (cbr, edi)")
+        ->type_name("NAME=WERT")
+        ->allow_extra_args(false)
+        ->check(CLI::Validator(checkedSetting, ""));
     return {&usage, [options](Output& output) {
-                const std::string text = converted(*options, readLog(options->file).document);
+                const std::string text = converted(readLog(options->file).document, *options);
                 if (options->target.empty() || options->target == "-") {
                     output.write(text);
                 } else {

@@ -1,7 +1,7 @@
 #include "TallyrigTool/LogFile.h"
 
 #include "Quillon/Platform/Files.h"
-#include "Tallyrig/Log/ADIFParser.h"
+#include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "TallyrigTool/Console.h"
 
@@ -50,13 +50,8 @@ std::string LogFile::fileName() const {
 }
 
 LogFile readLog(const std::string& argument) {
-    const std::string bytes = bytesOf(argument);
-    const LogFormat format = LogFormatDetector::detect(bytes);
-    if (format != LogFormat::adif) {
-        throw Failure{argument + ": Logs im Format " + std::string(formatTitle(format)) +
-                      " kann diese Version noch nicht lesen."};
-    }
-    return {argument, format, ADIFParser::parse(bytes)};
+    LogReader::Log log = LogReader::read(bytesOf(argument));
+    return {argument, log.format, std::move(log.document)};
 }
 
 void writeFile(const std::string& path, std::string_view text) {

@@ -22,8 +22,7 @@ struct LogFile {
 std::string_view formatName(LogFormat format);
 std::string_view formatTitle(LogFormat format);
 
-/// Reads the log, whatever its format. Throws a `Failure` if the file cannot be read or its format is none of
-/// those that this version reads.
+/// Reads the log, whatever its format. Throws a `Failure` if the file cannot be read.
 LogFile readLog(const std::string& argument);
 
 /// Makes `text` the whole of the file. Throws a `Failure`, and then leaves the file as it was.

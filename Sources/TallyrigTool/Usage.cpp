@@ -20,7 +20,7 @@ constexpr auto explanation =
     "\n"
     "Mehr zu einem Befehl: tallyrig BEFEHL --help\n"
     "\n"
-    "Das Format eines Logs wird am Inhalt erkannt, nicht am Dateinamen.\n"
+    "Gelesen werden ADIF, ADX, Cabrillo und EDI, erkannt am Inhalt, nicht am Dateinamen.\n"
     "Rückgabewert: 0 nichts zu beanstanden, 1 Befunde, 2 falscher Aufruf, unlesbare Datei\n"
     "oder misslungenes Schreiben.";
 

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -125,6 +126,28 @@ TEST_F(Dump, TakesAnyBytesForALog) {
     EXPECT_EQ(ran.status, 0);
     EXPECT_EQ(nlohmann::json::parse(ran.output)["records"][0]["fields"][0]["value"],
               std::string("\xC3\xBE\0\x1B", 4));
+}
+
+TEST_F(Dump, ReadsEachFormatByItsContent) {
+    const struct {
+        std::string format;
+        std::string content;
+    } cases[] = {
+        {"adif", "<CALL:6>DL1QZA<EOR>"},
+        {"adx", "<?xml version=\"1.0\"?><ADX><RECORDS><RECORD><CALL>DL1QZA</CALL></RECORD></RECORDS></ADX>"},
+        {"cabrillo",
+         "START-OF-LOG: 3.0\nQSO: 14000 CW 2024-01-01 1200 DL0QLN 599 1 DL1QZA 599 2\nEND-OF-LOG:\n"},
+        {"edi", "[REG1TEST;1]\n[QSORecords;1]\n240101;1200;DL1QZA;1;59;001;59;002;;JO62QM;5;;;;\n"},
+    };
+    for (const auto& [format, content] : cases) {
+        const auto json = nlohmann::json::parse(run("tallyrig dump --json -", content).output);
+        EXPECT_EQ(json["format"], format);
+        ASSERT_EQ(json["records"].size(), 1) << format;
+        const auto& fields = json["records"][0]["fields"];
+        EXPECT_TRUE(std::ranges::any_of(fields, [](const auto& field) {
+            return field["name"] == "CALL" && field["value"] == "DL1QZA";
+        })) << format;
+    }
 }
 
 using Check = Tool;
@@ -254,6 +277,38 @@ TEST_F(Convert, WritesADIText) {
               std::string::npos);
 }
 
+TEST_F(Convert, WritesADX) {
+    const Ran ran = run("tallyrig convert --to adx --timestamp '20240229 235959' -", "<CALL:6>DL1QZA<EOR>");
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_NE(ran.output.find("<CREATED_TIMESTAMP>20240229 235959</CREATED_TIMESTAMP>"), std::string::npos);
+    EXPECT_NE(ran.output.find("<CALL>DL1QZA</CALL>"), std::string::npos);
+}
+
+TEST_F(Convert, StartsHeadersFromTheSuggestedOnesAndSetsWhatIsAsked) {
+    const std::string log =
+        "<CALL:6>DL1QZA<QSO_DATE:8>20240101<TIME_ON:4>1200<BAND:2>2m<MODE:2>CW<RST_SENT:3>599<RST_RCVD:3>579"
+        "<STX:1>1<SRX:1>2<STATION_CALLSIGN:6>DL0QLN<MY_GRIDSQUARE:6>JO40HA<GRIDSQUARE:6>JO62QM<EOR>";
+    const struct {
+        std::string arguments;
+        std::vector<std::string> lines;
+    } cases[] = {
+        {"--to cbr", {"CALLSIGN: DL0QLN", "CATEGORY-MODE: MIXED", "CONTEST: "}},
+        {"--to cbr --set contest=WAG --set soapbox=a=b --set callsign=DK0QLN",
+         {"CALLSIGN: DK0QLN", "CATEGORY-MODE: MIXED", "CONTEST: WAG", "SOAPBOX: a=b"}},
+        {"--to edi", {"PCall=DL0QLN", "PWWLo=JO40HA", "TDate=20240101;20240101", "TName="}},
+        {"--to edi --set contestName=Juli --set pointsMode=blank", {"PCall=DL0QLN", "TName=Juli", "CQSOP="}},
+    };
+    for (const auto& [arguments, lines] : cases) {
+        const Ran ran = run("tallyrig convert " + arguments + " - | tr -d '\\r'", log);
+        EXPECT_EQ(ran.complaint, "");
+        const std::vector<std::string> written = linesOf(ran.output);
+        for (const std::string& line : lines) {
+            EXPECT_EQ(std::ranges::count(written, line), 1) << arguments << ": " << line << "\n"
+                                                            << ran.output;
+        }
+    }
+}
+
 TEST_F(Convert, ReplacesTheTargetWholeOrNotAtAll) {
     write("log.adi", oddLog);
     EXPECT_EQ(run("tallyrig convert --to adi --no-header log.adi -o log.adi").status, 0);
@@ -288,7 +343,13 @@ TEST_F(Failure, NamesWhatIsWrongWithTheCall) {
         {"convert a", "Es fehlt: --to (Hilfe: tallyrig convert --help)"},
         {"convert a --to", "Die Zahl der Werte stimmt nicht: --to (Hilfe: tallyrig convert --help)"},
         {"convert a --to pdf",
-         "--to: Unbekanntes Format: pdf (möglich ist adi) (Hilfe: tallyrig convert --help)"},
+         "--to: Unbekanntes Format: pdf (möglich sind adi, adx, cbr, edi) (Hilfe: tallyrig convert --help)"},
+        {"convert --to cbr --set contest Examples/befunde.adi",
+         "--set: contest hat nicht die Form NAME=WERT (Hilfe: tallyrig convert --help)"},
+        {"convert --to cbr --set Contest=x Examples/befunde.adi",
+         "--set: Contest=x passt zu keinem Feld im Kopf von cbr (Hilfe: tallyrig convert --help)"},
+        {"convert --to adx --set callsign=x Examples/befunde.adi",
+         "--set gilt nur für cbr und edi (Hilfe: tallyrig convert --help)"},
         {"convert a --to adi --timestamp '20230229 000000'",
          "--timestamp: \"20230229 000000\" ist kein Zeitpunkt der Form \"yyyyMMdd HHmmss\" "
          "(Hilfe: tallyrig convert --help)"},
@@ -302,14 +363,12 @@ TEST_F(Failure, NamesWhatIsWrongWithTheCall) {
 }
 
 TEST_F(Failure, NamesWhyAFileCannotBeRead) {
-    write("log.adx", "<?xml version=\"1.0\"?><ADX></ADX>");
     const struct {
         std::string arguments;
         std::string complaint;
     } cases[] = {
         {"fehlt.adi", "fehlt.adi: Die Datei existiert nicht."},
         {"Examples", "Examples: Das ist ein Ordner und keine Datei."},
-        {"log.adx", "log.adx: Logs im Format ADX kann diese Version noch nicht lesen."},
         {"- <&-", "-: Die Standardeingabe konnte nicht gelesen werden: Sie ist geschlossen."},
         {"- <.", "-: Die Standardeingabe konnte nicht gelesen werden: Sie ist ein Ordner."},
         {"'\x1b[31m.adi'", "␛[31m.adi: Die Datei existiert nicht."},
@@ -389,7 +448,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 6);
+    EXPECT_EQ(commands, 7);
 }
 
 }  // namespace
