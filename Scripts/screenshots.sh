@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the documentation anew, from the real window in a virtual display of a fixed size.
+# Makes the pictures of the documentation anew, from the real window.
 #
 #     Scripts/screenshots.sh
 set -euo pipefail
@@ -9,6 +9,11 @@ Scripts/packages.sh
 cmake --preset release >/dev/null
 cmake --build --preset release --target Quillon
 
-mkdir -p Docs/pictures
-xvfb-run -a -s "-screen 0 1400x900x24" build/release/Sources/Quillon/Quillon \
-    Examples/vereinsabend.adi --grab Docs/pictures/quillon.png
+# The status bar shows where the log lies, which is to be the same on every machine.
+folder=/var/tmp/Logbuch
+mkdir -p Docs/pictures "$folder"
+cp Examples/befunde.adi "$folder"
+trap 'rm -r "$folder"' EXIT
+
+QT_QPA_PLATFORM=offscreen build/release/Sources/Quillon/Quillon "$folder/befunde.adi" \
+    --grab Docs/pictures/quillon.png --grab-size 1280x800 --grab-check --grab-select 15
