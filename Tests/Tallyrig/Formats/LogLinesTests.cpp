@@ -41,6 +41,16 @@ TEST(Lines, EndAtEveryLineBreak) {
     }
 }
 
+TEST(Lines, AreFoundAtEveryLength) {
+    for (std::size_t length = 1; length < 20; ++length) {
+        for (const std::string_view lineBreak : {"\n", "\r", "\u0085", "\u2029"}) {
+            const std::string line = std::string(length - 1, '~') + '\x10';
+            const std::string text = line + std::string(lineBreak) + "second line, not empty";
+            EXPECT_EQ(takenOff(text, takeLine), (Texts{line, "second line, not empty"})) << length;
+        }
+    }
+}
+
 TEST(Pieces, StandBetweenBlanksAndTabs) {
     const std::vector<std::pair<std::string_view, Texts>> cases = {
         {" a\t b  c\t", {"a", "b", "c"}}, {"a\u00A0b\nc d", {"a\u00A0b\nc", "d"}}, {" \t", {}}, {"", {}}};
