@@ -1,0 +1,14 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int count, char** arguments) {
+    ::testing::InitGoogleTest(&count, arguments);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // The style that is there on every machine, without the animations of a desktop.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication application(count, arguments);
+    return RUN_ALL_TESTS();
+}
