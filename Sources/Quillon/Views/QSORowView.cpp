@@ -1,0 +1,48 @@
+#include "Quillon/Views/QSORowView.h"
+
+#include "Quillon/Views/CellView.h"
+#include "Quillon/Views/Colors.h"
+#include "Quillon/Views/StatusGutterCell.h"
+
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace quillon {
+namespace {
+
+constexpr double selectedOpacity = 0.25;
+constexpr double oddRowOpacity = 0.04;
+constexpr double separatorOpacity = 0.08;
+
+}  // namespace
+
+void QSORowView::paint(QPainter& painter, QPointF origin, const QRectF& exposed,
+                       const TableGeometry& geometry, const QPalette& palette) const {
+    const QColor primary = palette.color(QPalette::Text);
+    // The ground goes on beyond the last column, to where the viewport ends.
+    const QRectF ground(exposed.left(), origin.y(), exposed.width(), TableGeometry::rowHeight);
+    if (isSelected) {
+        painter.fillRect(ground, withOpacity(palette.color(QPalette::Highlight), selectedOpacity));
+    } else if (rowIndex % 2 == 1) {
+        painter.fillRect(ground, withOpacity(primary, oddRowOpacity));
+    }
+    painter.fillRect(QRectF(ground.left(), ground.bottom() - TableGeometry::separatorHeight, ground.width(),
+                            TableGeometry::separatorHeight),
+                     withOpacity(primary, separatorOpacity));
+    const QPointF offset(origin.x(), origin.y() - geometry.rowRect(rowIndex).top());
+    if (geometry.hasGutter()) {
+        StatusGutterCell{severity, {}}.paint(painter, geometry.gutterRect(rowIndex).translated(offset));
+    }
+    const std::size_t shown = std::min(columns.size(), geometry.columnCount());
+    for (std::size_t column = geometry.columnIndex(exposed.left() - origin.x()); column < shown; ++column) {
+        const QRectF area = geometry.cellRect({rowIndex, column}).translated(offset);
+        if (area.left() >= exposed.right()) {
+            break;
+        }
+        CellView{record, columns[column]}.paint(painter, area, palette);
+    }
+}
+
+}  // namespace quillon
