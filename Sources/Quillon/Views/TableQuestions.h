@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+#include <optional>
+
+namespace quillon {
+
+/// What the table asks the user. The real ones are modal dialogs; tests answer by themselves.
+class TableQuestions {
+  public:
+    TableQuestions() = default;
+    TableQuestions(const TableQuestions&) = delete;
+    TableQuestions& operator=(const TableQuestions&) = delete;
+    virtual ~TableQuestions() = default;
+
+    /// Whether the official ADIF field `from`, which `recordCount` records hold, may be renamed to `to`.
+    virtual bool confirmRename(const QString& from, const QString& to, std::size_t recordCount) = 0;
+    /// The name of the field for a new column, as typed; absent if the user cancels.
+    virtual std::optional<QString> newColumnName() = 0;
+};
+
+/// The dialogs, modal over the active window.
+class TableDialogs : public TableQuestions {
+  public:
+    bool confirmRename(const QString& from, const QString& to, std::size_t recordCount) override;
+    std::optional<QString> newColumnName() override;
+};
+
+}  // namespace quillon
