@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace quillon {
+
+/// The text field that is put over a cell or a column's name while it is edited.
+///
+/// Return, Tab, a press of the mouse anywhere else in the application and losing the focus all commit. A
+/// press into the parent widget is the parent's to handle: it knows what lay under the pointer before the
+/// commit moved it.
+class InlineEditor : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    /// Where the focus is to go on leaving the field.
+    enum class Leave { stay, forward, backward };
+
+    /// What the Escape key does to what stands in the field.
+    enum class Escape { commits, drops };
+
+    InlineEditor(Escape escapeKey, QWidget* parent);
+
+    bool isOpen() const { return open; }
+    /// Shows the field with `draft`, all of it selected, and takes the focus; what stood in an open one is
+    /// committed first. The place is set with `setGeometry`.
+    void begin(const QString& draft);
+    /// Hides the field and then commits what stands in it; nothing happens if it is not open.
+    void commit(Leave leave = Leave::stay);
+    /// Hides the field without a word, as for a cell that is gone.
+    void dismiss();
+
+  signals:
+    /// The field is closed; `draft` is what stood in it.
+    void committed(const QString& draft, Leave leave);
+    /// The field stays open, but a shortcut such as the one for saving may be about to use what stands in it.
+    void draftWanted(const QString& draft);
+
+  protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    bool ownsPopup() const;
+
+    Escape escape;
+    bool open = false;
+};
+
+}  // namespace quillon

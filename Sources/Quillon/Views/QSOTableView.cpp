@@ -1,0 +1,84 @@
+#include "Quillon/Views/QSOTableView.h"
+
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/ColumnCommands.h"
+#include "Quillon/Views/ColumnToolbar.h"
+#include "Quillon/Views/FileInfoBar.h"
+#include "Quillon/Views/Labels.h"
+#include "Quillon/Views/TableBody.h"
+#include "Quillon/Views/TableHeader.h"
+#include "Quillon/Views/TableQuestions.h"
+#include "Quillon/Views/TableScroll.h"
+
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace quillon {
+
+QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, QWidget* parent)
+    : QWidget(parent),
+      store(logStore),
+      questions(tableQuestions),
+      infoBar(new FileInfoBar(store, this)),
+      toolbar(new ColumnToolbar(store, this)),
+      tableScroll(new TableScroll(this)),
+      headerRow(new TableHeader(store, questions, *tableScroll)),
+      rows(new TableBody(store, *tableScroll)) {
+    tableScroll->setContent(headerRow, rows);
+    setFocusProxy(rows);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(infoBar);
+    layout->addWidget(horizontalLine(this));
+    layout->addWidget(toolbar);
+    layout->addWidget(horizontalLine(this));
+    layout->addWidget(tableScroll, 1);
+
+    connect(toolbar, &ColumnToolbar::customFieldRequested, this, &QSOTableView::showAddColumn);
+    connect(&store, &LogStore::documentChanged, this, &QSOTableView::followDocument);
+    for (const auto signal : {&LogStore::displayedRecordsChanged, &LogStore::columnsChanged,
+                              &LogStore::columnWidthsChanged, &LogStore::checkResultsChanged}) {
+        connect(&store, signal, this, &QSOTableView::refreshGeometry);
+    }
+    refreshGeometry();
+}
+
+void QSOTableView::scrollToRecord(tallyrig::UUID id) {
+    rows->showRecord(id);
+}
+
+void QSOTableView::commitEditing() {
+    rows->commitEditing();
+}
+
+void QSOTableView::showAddColumn() {
+    if (const std::optional<QString> name = questions.newColumnName()) {
+        addCustomColumn(store, name->toStdString());
+    }
+}
+
+void QSOTableView::followDocument() {
+    // Every change of a log enters the history: one without history was just opened or begun.
+    if (!store.canUndo() && !store.canRedo()) {
+        rows->startOver();
+    }
+    refreshGeometry();
+}
+
+void QSOTableView::refreshGeometry() {
+    std::vector<double> widths;
+    widths.reserve(store.columns().size());
+    for (const std::string& column : store.columns()) {
+        widths.push_back(store.width(column));
+    }
+    const StatusGutter gutter = store.recordSeverities().empty() ? StatusGutter::hidden : StatusGutter::shown;
+    const TableGeometry geometry(widths, store.displayedCount(), gutter);
+    tableScroll->setContentSize({geometry.totalWidth(), geometry.contentHeight()});
+    headerRow->setTableGeometry(geometry);
+    rows->setTableGeometry(geometry);
+}
+
+}  // namespace quillon
