@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace quillon {
 
@@ -18,15 +19,29 @@ QFont fontFor(MeasuredFont font);
 QFont smallFont();
 
 /// Measures with the fonts of the desktop. Lives on the main thread, while there is an application.
+///
+/// A log has many thousand short texts of the same few letters, and shaping each one is what opening it would
+/// wait for. The width of an ASCII text is therefore put together from its letters and what each pair of
+/// neighbours takes or gives, both measured once.
 class FontMeasurer : public TextMeasurer {
   public:
     double width(MeasuredFont font, std::string_view text) const override;
 
   private:
-    const QFontMetricsF& metrics(MeasuredFont font) const;
+    struct FontWidths {
+        explicit FontWidths(const QFont& font);
 
-    mutable QFont desktopFont;  ///< The one that the metrics were made for.
-    mutable std::array<std::optional<QFontMetricsF>, 3> known;
+        double ofPrintableASCII(std::string_view text);
+
+        QFontMetricsF metrics;
+        std::vector<double> letters;   ///< By character; not a number until it was measured.
+        std::vector<double> kernings;  ///< What is added between two characters, by both; likewise.
+    };
+
+    FontWidths& widths(MeasuredFont font) const;
+
+    mutable QFont desktopFont;  ///< The one that the widths were measured for.
+    mutable std::array<std::optional<FontWidths>, 3> known;
 };
 
 }  // namespace quillon

@@ -6,11 +6,20 @@
 #include "Quillon/Views/Labels.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon {
+
+namespace {
+
+constexpr std::size_t rowsAtOnce = 100;
+
+}  // namespace
 
 RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
     : QWidget(parent),
@@ -37,6 +46,8 @@ RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
     pages->addWidget(empty);
     pages->addWidget(list);
 
+    connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &RecordDetailView::showMoreRowsNearEnd);
     connect(&store, &LogStore::selectionChanged, this, &RecordDetailView::refresh);
     connect(&store, &LogStore::documentChanged, this, &RecordDetailView::refresh);
     refresh();
@@ -44,6 +55,7 @@ RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
 
 void RecordDetailView::focusLastField() {
     if (shown && !shown->fields().empty()) {
+        showRows(shown->fields().size());
         LogTextField& field = rows[shown->fields().size() - 1]->valueField();
         field.setFocus(Qt::OtherFocusReason);
         list->ensureWidgetVisible(&field);
@@ -60,18 +72,31 @@ void RecordDetailView::refresh() {
 }
 
 void RecordDetailView::showRecord(const tallyrig::ADIFRecord& record) {
+    const bool isSameRecord = shown && shown->id() == record.id();
     shown = record;
-    const auto fields = record.fields();
-    while (rows.size() < fields.size()) {
+    showRows(isSameRecord ? std::max(shownRows, rowsAtOnce) : rowsAtOnce);
+    pages->setCurrentWidget(list);
+}
+
+void RecordDetailView::showRows(std::size_t count) {
+    const auto fields = shown->fields();
+    shownRows = std::min(count, fields.size());
+    while (rows.size() < shownRows) {
         addRow();
     }
     for (std::size_t index = 0; index < rows.size(); ++index) {
-        if (index < fields.size()) {
+        if (index < shownRows) {
             rows[index]->show(fields[index].name, fields[index].value);
         }
-        rows[index]->setVisible(index < fields.size());
+        rows[index]->setVisible(index < shownRows);
     }
-    pages->setCurrentWidget(list);
+}
+
+void RecordDetailView::showMoreRowsNearEnd() {
+    const QScrollBar* const bar = list->verticalScrollBar();
+    if (shown && shownRows < shown->fields().size() && bar->value() > bar->maximum() - 2 * bar->pageStep()) {
+        showRows(shownRows + rowsAtOnce);
+    }
 }
 
 void RecordDetailView::showNoRecord() {

@@ -19,6 +19,9 @@ class FieldRow;
 class LogStore;
 
 /// The selected QSO field by field, to be edited. With none or several selected it says so.
+///
+/// Records have a few dozen fields, and rarely some have thousands: rows are made a screenful or two ahead of
+/// where the user has scrolled to.
 class RecordDetailView : public QWidget {
     Q_OBJECT
 
@@ -33,6 +36,9 @@ class RecordDetailView : public QWidget {
     void refresh();
     void showRecord(const tallyrig::ADIFRecord& record);
     void showNoRecord();
+    /// Shows the fields up to `count`, at most as many as there are.
+    void showRows(std::size_t count);
+    void showMoreRowsNearEnd();
     void addRow();
     void write(std::size_t index, const QString& text);
     void remove(std::size_t index);
@@ -43,8 +49,8 @@ class RecordDetailView : public QWidget {
     EmptyState* empty;
     QScrollArea* list;
     QVBoxLayout* column;
-    std::vector<FieldRow*>
-        rows;  ///< As many as were ever needed at once; those beyond the record's are hidden.
+    std::vector<FieldRow*> rows;  ///< As many as were ever needed at once; the first `shownRows` are shown.
+    std::size_t shownRows = 0;
 };
 
 }  // namespace quillon

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QString>
+#include <QWidget>
+
+#include <string>
+#include <vector>
+
+namespace quillon::testing {
+
+/// Whether a person would see the child if its window were on screen.
+inline bool isShown(const QWidget& child, const QWidget& inside) {
+    return child.isVisibleTo(&inside);
+}
+
+/// The texts of the labels that are shown, in the order in which they were made, with a line break between.
+inline std::string shownTexts(const QWidget& inside) {
+    std::string texts;
+    for (const QLabel* label : inside.findChildren<QLabel*>()) {
+        if (isShown(*label, inside) && !label->text().isEmpty()) {
+            texts += (texts.empty() ? "" : "\n") + label->text().toStdString();
+        }
+    }
+    return texts;
+}
+
+/// The button with this text or, for one that shows an icon alone, this tool tip; null if none is shown.
+inline QAbstractButton* shownButton(const QWidget& inside, const QString& text) {
+    for (QAbstractButton* button : inside.findChildren<QAbstractButton*>()) {
+        if (isShown(*button, inside) && (button->text() == text || button->toolTip() == text)) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+/// The first child of this type that is shown, null if there is none.
+template <typename Child>
+Child* shownChild(const QWidget& inside) {
+    for (Child* child : inside.findChildren<Child*>()) {
+        if (isShown(*child, inside)) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace quillon::testing
