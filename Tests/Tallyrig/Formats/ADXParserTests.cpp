@@ -123,6 +123,7 @@ TEST(BrokenADX, KeepsTheRecordsBeforeTheBreak) {
         "",
         "<RECORD><CALL>B</CALL>",
         "<RECORD><CALL>B</CALL></RECORDS>",
+        "</RECORDS></ADX>text<RECORD><CALL>B</CALL></RECORD>",
         "<RECORD TYPE><CALL>B</CALL></RECORD>",
         "<RECORD x=1></RECORD>",
         "<RECORD><1A>B</1A></RECORD>",
@@ -148,7 +149,10 @@ TEST(ADXEncoding, IsWhatTheFileDeclares) {
     ASSERT_EQ(latin1.records().size(), 1U);
     EXPECT_EQ(latin1.records()[0]["NAME"], "Jö");
     EXPECT_TRUE(ADXParser::parse(record).records().empty()) << "without a declaration it is UTF-8";
-    EXPECT_TRUE(ADXParser::parse("<?xml version='1.0' encoding='EBCDIC'?>" + record).records().empty());
+    for (const std::string wrong : {"EBCDIC", "UTF-16", "", "UTF-8"}) {
+        const std::string declaration = "<?xml version='1.0' encoding='" + wrong + "'?>";
+        EXPECT_TRUE(ADXParser::parse(declaration + record).records().empty()) << wrong;
+    }
 
     std::string utf16 = "\xFF\xFE";
     for (const char c : std::string_view("<ADX><RECORD><A>\xF6</A></RECORD></ADX>")) {
