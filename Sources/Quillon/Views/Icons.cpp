@@ -1,8 +1,13 @@
 #include "Quillon/Views/Icons.h"
 
 #include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QStandardPaths>
+
+#include <utility>
 
 namespace quillon {
 
@@ -12,11 +17,73 @@ bool isDark(const QPalette& palette) {
     return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
 }
 
+bool isPaletteDark() {
+    return isDark(QGuiApplication::palette());
+}
+
+/// The file of a Breeze icon in one of its sizes; empty if the system has none.
+QString breezeFile(const QString& theme, const QString& name, int sizePx) {
+    for (const char* group : {"actions", "devices", "status"}) {
+        const QString file = QStandardPaths::locate(
+            QStandardPaths::GenericDataLocation,
+            QStringLiteral("icons/%1/%2/%3/%4.svg").arg(theme, QLatin1String(group)).arg(sizePx).arg(name));
+        if (!file.isEmpty()) {
+            return file;
+        }
+    }
+    return {};
+}
+
+QIcon breezeIcon(const QString& theme, const QString& name) {
+    QIcon found;
+    for (const int sizePx : {16, 22, 32}) {
+        const QString file = breezeFile(theme, name, sizePx);
+        if (!file.isEmpty()) {
+            found.addFile(file, QSize(sizePx, sizePx));
+        }
+    }
+    return found.isNull() ? QIcon::fromTheme(name) : found;
+}
+
+/// An icon that is looked for when it is painted, in the variant that the palette asks for at that moment.
+/// Qt's own look-up searches every folder of the theme for every icon as soon as it is named, most of the
+/// time that the window took to come up.
+class BreezeEngine : public QIconEngine {
+  public:
+    explicit BreezeEngine(QString breezeName) : name(std::move(breezeName)) {}
+
+    void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
+        current().paint(painter, area, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return current().pixmap(size, 1.0, mode, state);
+    }
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
+        return current().pixmap(size / scale, scale, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override { return size; }
+    bool isNull() override { return false; }
+    QIconEngine* clone() const override { return new BreezeEngine(*this); }
+
+  private:
+    const QIcon& current() {
+        const bool dark = isPaletteDark();
+        QIcon& variant = dark ? darkVariant : lightVariant;
+        if (variant.isNull()) {
+            variant = breezeIcon(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"), name);
+        }
+        return variant;
+    }
+
+    QString name;
+    QIcon lightVariant;
+    QIcon darkVariant;
+};
+
 }  // namespace
 
 QIcon icon(const QString& breezeName) {
-    matchIconsToPalette();
-    return QIcon::fromTheme(breezeName);
+    return breezeName.startsWith(QLatin1Char(':')) ? QIcon(breezeName) : QIcon(new BreezeEngine(breezeName));
 }
 
 QIcon severityIcon(tallyrig::ValidationSeverity severity) {
@@ -37,8 +104,7 @@ QIcon applicationIcon() {
 }
 
 void matchIconsToPalette() {
-    const QString wanted =
-        isDark(QGuiApplication::palette()) ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
+    const QString wanted = isPaletteDark() ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
     if (QIcon::themeName() == wanted) {
         return;
     }
