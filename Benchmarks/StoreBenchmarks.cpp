@@ -1,18 +1,13 @@
 // What the application's model of a log does at a keystroke or a click, beside reading the log.
 
 #include "MemoryCount.h"
-#include "Quillon/Platform/Panels.h"
-#include "Quillon/Platform/Settings.h"
-#include "Quillon/Platform/TextMeasurer.h"
-#include "Quillon/Stores/LogStore.h"
+#include "StoreStandIns.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Timing.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstddef>
@@ -27,51 +22,6 @@ using tallyrig::benchmarks::heapInUse;
 using tallyrig::benchmarks::inTurns;
 using tallyrig::benchmarks::logOf;
 using tallyrig::benchmarks::secondsOf;
-
-class NoSettings : public Settings {
-  public:
-    QVariant value(const QString&) const override { return {}; }
-    void setValue(const QString&, const QVariant&) override {}
-};
-
-class NoPanels : public Panels {
-  public:
-    std::optional<QString> fileToOpen(const QList<FileType>&) override { return std::nullopt; }
-    std::optional<QString> fileToSave(const QString&, const QList<FileType>&) override {
-        return std::nullopt;
-    }
-};
-
-class FixedWidths : public TextMeasurer {
-  public:
-    double width(MeasuredFont, std::string_view text) const override {
-        return 7.0 * static_cast<double>(text.size());
-    }
-};
-
-/// A store with a log of `count` QSOs in it.
-class OpenLog {
-  public:
-    explicit OpenLog(std::size_t count) : store(settings, panels, measurer) {
-        const QString path = folder.filePath(QStringLiteral("log.adi"));
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            const std::string& text = logOf(count);
-            file.write(text.data(), static_cast<qint64>(text.size()));
-            file.close();
-        }
-        store.open(path);
-    }
-
-    LogStore& log() { return store; }
-
-  private:
-    QTemporaryDir folder;
-    NoSettings settings;
-    NoPanels panels;
-    FixedWidths measurer;
-    LogStore store;
-};
 
 void besideReading(benchmark::State& state, std::size_t count, const std::function<void()>& work) {
     const std::string& text = logOf(count);

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Quillon/Platform/Panels.h"
+#include "Quillon/Platform/Settings.h"
+#include "Quillon/Platform/TextMeasurer.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Timing.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+class NoSettings : public Settings {
+  public:
+    QVariant value(const QString&) const override { return {}; }
+    void setValue(const QString&, const QVariant&) override {}
+};
+
+class NoPanels : public Panels {
+  public:
+    std::optional<QString> fileToOpen(const QList<FileType>&) override { return std::nullopt; }
+    std::optional<QString> fileToSave(const QString&, const QList<FileType>&) override {
+        return std::nullopt;
+    }
+};
+
+class FixedWidths : public TextMeasurer {
+  public:
+    double width(MeasuredFont, std::string_view text) const override {
+        return 7.0 * static_cast<double>(text.size());
+    }
+};
+
+/// A store with a log of `count` QSOs in it.
+class OpenLog {
+  public:
+    explicit OpenLog(std::size_t count) : store(settings, panels, measurer) {
+        const QString path = folder.filePath(QStringLiteral("log.adi"));
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly)) {
+            const std::string& text = tallyrig::benchmarks::logOf(count);
+            file.write(text.data(), static_cast<qint64>(text.size()));
+            file.close();
+        }
+        store.open(path);
+    }
+
+    LogStore& log() { return store; }
+
+  private:
+    QTemporaryDir folder;
+    NoSettings settings;
+    NoPanels panels;
+    FixedWidths measurer;
+    LogStore store;
+};
+
+}  // namespace quillon
