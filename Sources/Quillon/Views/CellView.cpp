@@ -3,6 +3,7 @@
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Views/BandDot.h"
 #include "Quillon/Views/Colors.h"
+#include "Quillon/Views/Hairline.h"
 #include "Quillon/Views/Strings.h"
 #include "Quillon/Views/TableGeometry.h"
 
@@ -51,8 +52,8 @@ QString CellView::text() const {
 }
 
 void CellView::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const {
-    const QRectF divider(area.right() - TableGeometry::dividerWidth, area.top(), TableGeometry::dividerWidth,
-                         area.height() - TableGeometry::separatorHeight);
+    const double line = hairlineWidth(painter);
+    const QRectF divider(area.right() - line, area.top(), line, area.height() - line);
     painter.fillRect(divider, withOpacity(palette.color(QPalette::Text), dividerOpacity));
     const QString full = text();
     if (full.isEmpty()) {

@@ -4,6 +4,7 @@
 #include "Quillon/Platform/FontMeasurer.h"
 #include "Quillon/Views/CellView.h"
 #include "Quillon/Views/Colors.h"
+#include "Quillon/Views/Hairline.h"
 #include "Quillon/Views/Strings.h"
 
 #include <QFontMetricsF>
@@ -92,7 +93,7 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
     paintChevron(painter, menu.center(), 6, 1.25, Points::down,
                  withOpacity(primary, isHoveringMenu ? 1 : tagOpacity));
 
-    const double handle = isHoveringHandle ? 2 : 1;
+    const double handle = isHoveringHandle ? 2 : hairlineWidth(painter);
     painter.fillRect(QRectF(area.right() - handle, area.top(), handle, area.height()),
                      isHoveringHandle ? accent : withOpacity(primary, handleOpacity));
     if (focused) {

@@ -2,6 +2,7 @@
 
 #include "Quillon/Views/CellView.h"
 #include "Quillon/Views/Colors.h"
+#include "Quillon/Views/Hairline.h"
 #include "Quillon/Views/StatusGutterCell.h"
 
 #include <QPainter>
@@ -28,8 +29,8 @@ void QSORowView::paint(QPainter& painter, QPointF origin, const QRectF& exposed,
     } else if (rowIndex % 2 == 1) {
         painter.fillRect(ground, withOpacity(primary, oddRowOpacity));
     }
-    painter.fillRect(QRectF(ground.left(), ground.bottom() - TableGeometry::separatorHeight, ground.width(),
-                            TableGeometry::separatorHeight),
+    const double line = hairlineWidth(painter);
+    painter.fillRect(QRectF(ground.left(), ground.bottom() - line, ground.width(), line),
                      withOpacity(primary, separatorOpacity));
     const QPointF offset(origin.x(), origin.y() - geometry.rowRect(rowIndex).top());
     if (geometry.hasGutter()) {
