@@ -46,6 +46,12 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
     refreshGeometry();
 }
 
+QSOTableView::~QSOTableView() {
+    // An editor that loses the focus on its way out would still write, into views that are half gone.
+    headerRow->dismissEditor();
+    rows->dismissEditor();
+}
+
 void QSOTableView::scrollToRecord(tallyrig::UUID id) {
     rows->showRecord(id);
 }

@@ -24,6 +24,9 @@ class QSOTableView : public QWidget {
   public:
     /// The two outlive the view.
     QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, QWidget* parent = nullptr);
+    /// What stands in an open editor is dropped: whoever ends the view by a command of the user commits
+    /// first.
+    ~QSOTableView() override;
 
     /// Makes the record's row the current one and brings it into view. Nothing happens if the search hides
     /// it.

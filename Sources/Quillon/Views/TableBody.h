@@ -55,6 +55,8 @@ class TableBody : public QWidget {
     void startEditing(CellPosition cell);
     const InlineEditor& editor() const { return *cellEditor; }
     void commitEditing() { cellEditor->commit(); }
+    /// Closes the editor without writing.
+    void dismissEditor() { cellEditor->dismiss(); }
 
     /// The selected records as ADIF text to the clipboard. Nothing happens without a selection.
     void copySelection() const;

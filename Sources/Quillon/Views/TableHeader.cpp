@@ -4,6 +4,7 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Colors.h"
 #include "Quillon/Views/ColumnCommands.h"
+#include "Quillon/Views/Hairline.h"
 #include "Quillon/Views/InlineEditor.h"
 #include "Quillon/Views/Strings.h"
 #include "Quillon/Views/TableScroll.h"
@@ -86,6 +87,10 @@ void TableHeader::startRename(const std::string& column) {
     placeEditor();
 }
 
+void TableHeader::dismissEditor() {
+    nameEditor->dismiss();
+}
+
 QRectF TableHeader::cellArea(std::size_t column) const {
     return {geometry.columnLeft(column) - scroll.scrollX(), 0, geometry.columnWidth(column),
             static_cast<double>(height())};
@@ -107,7 +112,8 @@ void TableHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Window));
     const QColor primary = palette().color(QPalette::WindowText);
-    painter.fillRect(QRect(0, height() - 1, width(), 1), withOpacity(primary, 0.22));
+    const double line = hairlineWidth(painter);
+    painter.fillRect(QRectF(0, height() - line, width(), line), withOpacity(primary, 0.22));
     if (geometry.hasGutter()) {
         paintCheckShield(painter, gutterArea().center(), primary);
     }

@@ -35,6 +35,8 @@ class TableHeader : public QWidget {
     /// Opens the editor of the column's name. Nothing happens if there is no such column.
     void startRename(const std::string& column);
     const InlineEditor& editor() const { return *nameEditor; }
+    /// Closes the editor without renaming.
+    void dismissEditor();
     /// The place of the column's cell in the coordinates of this widget.
     QRectF cellArea(std::size_t column) const;
     /// Where a column being dragged will stand: in front of this one. Absent while none is dragged to another

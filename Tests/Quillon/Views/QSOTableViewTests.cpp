@@ -148,6 +148,19 @@ TEST_F(CellEditor, HandsItsTextToAShortcutWithoutClosing) {
     EXPECT_EQ(editorText(), "DK5X");
 }
 
+TEST_F(CellEditor, GoesQuietlyWithItsWindow) {
+    showLog({"CALL=DL1A"});
+    {
+        QSOTableView other(store, questions);
+        other.show();
+        QApplication::setActiveWindow(&other);
+        other.body().startEditing({0, 0});
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("DK5X"));
+        ASSERT_EQ(other.body().editor().text(), "DK5X");
+    }
+    EXPECT_EQ(cell(0, "CALL"), "DL1A");
+}
+
 TEST_F(TableMouse, SelectsWithTheKeysHeldDown) {
     showLog(manyRecords(5));
     click(1, 0);
