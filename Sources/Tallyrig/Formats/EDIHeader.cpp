@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 
 namespace tallyrig {
 
@@ -65,10 +66,10 @@ Days daysOf(const ADIFDocument& document) {
         if (!hasLength(date, 8)) {
             continue;
         }
-        if (days.first.empty() || text::compare(date, days.first) < 0) {
+        if (days.first.empty() || std::is_lt(text::compare(date, days.first))) {
             days.first = date;
         }
-        if (days.last.empty() || text::compare(date, days.last) > 0) {
+        if (days.last.empty() || std::is_gt(text::compare(date, days.last))) {
             days.last = date;
         }
     }
