@@ -11,6 +11,8 @@ namespace quillon {
 namespace {
 
 constexpr int iconSizePx = 14;
+/// A record can be the duplicate of a hundred thousand others, which its message names one by one.
+constexpr int longestToolTip = 4000;
 
 }  // namespace
 
@@ -28,7 +30,8 @@ QString StatusGutterCell::toolTip() const {
     for (const std::string& message : messages) {
         lines.append(toQString(message));
     }
-    return lines.join(QLatin1Char('\n'));
+    const QString text = lines.join(QLatin1Char('\n'));
+    return text.size() > longestToolTip ? text.left(longestToolTip) + QStringLiteral("…") : text;
 }
 
 }  // namespace quillon

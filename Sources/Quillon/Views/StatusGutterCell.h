@@ -19,7 +19,7 @@ struct StatusGutterCell {
     std::vector<std::string> messages;                     ///< For the tool tip only; painting needs none.
 
     void paint(QPainter& painter, const QRectF& area) const;
-    /// The messages, one to a line; empty if there are none.
+    /// The messages, one to a line; empty if there are none, cut off where nobody would read on.
     QString toolTip() const;
 };
 

@@ -2,6 +2,7 @@
 
 #include "Quillon/Views/CellView.h"
 #include "Quillon/Views/EmptyState.h"
+#include "Quillon/Views/StatusGutterCell.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -316,6 +317,9 @@ TEST_F(TableRows, ShowTheirFindingsInAGutter) {
     EXPECT_EQ(QToolTip::text(), "<span>Unbekanntes Band: 21m<br>Unbekannter Modus: XY</span>");
     store.addRecord();
     EXPECT_EQ(body.cellArea({0, 0}).left(), before);
+
+    const StatusGutterCell endless{tallyrig::ValidationSeverity::warning, {std::string(500'000, '7')}};
+    EXPECT_EQ(endless.toolTip().size(), 4001);
 }
 
 TEST_F(TableRows, GiveWayToAWordInAnEmptyLogOnly) {
