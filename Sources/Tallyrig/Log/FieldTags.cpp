@@ -1,5 +1,7 @@
 #include "Tallyrig/Log/FieldTags.h"
 
+#include "Tallyrig/Text/Text.h"
+
 namespace tallyrig {
 
 namespace {
@@ -21,7 +23,8 @@ FieldTags::FieldTags(const FieldTags& other) : tags(other.tags), numbers(other.n
 FieldTags::Number FieldTags::add(std::string_view name, std::optional<std::string_view> type) {
     const auto [found, isNew] = numbers.try_emplace(key(name, type), static_cast<Number>(tags.size()));
     if (isNew) {
-        tags.push_back({std::string(name), type ? std::optional(std::string(*type)) : std::nullopt});
+        tags.push_back({std::string(name), type ? std::optional(std::string(*type)) : std::nullopt,
+                        text::isASCII(name)});
     }
     return found->second;
 }

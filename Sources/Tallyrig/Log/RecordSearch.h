@@ -11,8 +11,7 @@ namespace tallyrig {
 
 /// Whether the stored name of `tag` is `name`, which is in upper case already.
 inline bool isNamed(const FieldTag& tag, std::string_view name) {
-    return tag.name == name ||
-           (tag.name.size() != 0 && !text::isASCII(tag.name) && text::equal(tag.name, name));
+    return tag.name == name || (!tag.hasASCIIName && text::equal(tag.name, name));
 }
 
 /// The index of the first field called `name`, which is in upper case already; absent if there is none.
