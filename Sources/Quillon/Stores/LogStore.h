@@ -300,6 +300,7 @@ class LogStore : public QObject {
 
     /// The columns in which to show this log.
     static Columns columnsFor(const tallyrig::ADIFDocument& document);
+    std::vector<double> fittingWidths(const std::vector<std::string>& names) const;
     Columns::iterator findColumn(std::string_view upperName);
 
     void changeSelection(Selection selection);

@@ -2,9 +2,12 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
 #include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Validation/PerTag.h"
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace quillon {
@@ -26,6 +29,28 @@ bool isLetter(char c) {
 template <typename... Names>
 bool isOneOf(std::string_view upperName, Names... names) {
     return ((upperName == names) || ...);
+}
+
+/// What is gathered about one column to find out how wide it must be.
+struct FittedColumn {
+    std::string name;
+    std::size_t source = 0;  ///< The column that measures the values of this name.
+    std::size_t lastRecord = static_cast<std::size_t>(-1);
+    std::unordered_set<std::string> measured;
+    double content = 0;
+};
+
+/// As much of a text as can matter to a width that ends at 320: notes can be as long as a book.
+std::string_view beginningOf(std::string_view text) {
+    constexpr std::size_t mostBytes = 1024;
+    if (text.size() <= mostBytes) {
+        return text;
+    }
+    std::size_t end = mostBytes;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end);
 }
 
 }  // namespace
@@ -212,37 +237,70 @@ void LogStore::autoFitColumns() {
 
 void LogStore::autoFitColumns(const std::vector<std::string>& list) {
     const Operation operation(*this);
-    for (const std::string& name : list) {
-        state.columnWidths.insert_or_assign(widthKey(name), fittingWidth(name));
+    const std::vector<double> widths = fittingWidths(list);
+    for (std::size_t column = 0; column < list.size(); ++column) {
+        state.columnWidths.insert_or_assign(widthKey(list[column]), widths[column]);
     }
 }
 
 double LogStore::fittingWidth(std::string_view name) const {
+    return fittingWidths({std::string(name)}).front();
+}
+
+std::vector<double> LogStore::fittingWidths(const std::vector<std::string>& names) const {
     constexpr std::size_t mostMeasuredOneByOne = 5999;
     constexpr std::size_t sampleSize = 3000;
-    const std::string column = text::upper(name);
-    const tallyrig::ADIFRecordList& records = state.document.records();
-    const std::size_t step = records.size() <= mostMeasuredOneByOne ? 1 : records.size() / sampleSize;
-    const auto wholeWidth = [this](MeasuredFont font, std::string_view shown) {
-        return std::ceil(measurer.width(font, shown));
-    };
-    double content = 0;
-    std::unordered_set<std::string> measured;
-    for (std::size_t index = 0; index < records.size(); index += step) {
-        std::string shown = ADIFFieldCatalog::displayValue(records[index][column], column);
-        const auto [text, isNew] = measured.insert(std::move(shown));
-        if (isNew && !text->empty()) {
-            content = std::max(content, wholeWidth(MeasuredFont::cell, *text));
-        }
-    }
-    if (column == "BAND") {
-        content += 13;  // The coloured dot in front of the text.
-    }
-    const double label = wholeWidth(MeasuredFont::label, ADIFFieldCatalog::label(column)) + 12;
-    const double tag = wholeWidth(MeasuredFont::tag, "<" + column) + 22;
     constexpr double cellMargins = 16;
     constexpr double reserve = 6;
-    return std::clamp(std::max({content, label, tag}) + cellMargins + reserve, 60.0, 320.0);
+    const auto wholeWidth = [this](MeasuredFont font, std::string_view shown) {
+        return std::ceil(measurer.width(font, beginningOf(shown)));
+    };
+
+    std::vector<FittedColumn> fitted(names.size());
+    // Upper-cased names by canonical key; a name given twice shares the entry of the first.
+    std::unordered_map<std::string, std::size_t> places;
+    for (std::size_t column = 0; column < names.size(); ++column) {
+        fitted[column].name = text::upper(names[column]);
+        fitted[column].source =
+            places.try_emplace(text::canonicalKey(fitted[column].name), column).first->second;
+    }
+
+    // One walk over the fields of each sampled record, whatever the number of columns.
+    constexpr std::size_t noColumn = static_cast<std::size_t>(-1);
+    tallyrig::PerTag<std::size_t> columnOfTag;
+    const tallyrig::ADIFRecordList& records = state.document.records();
+    const std::size_t step = records.size() <= mostMeasuredOneByOne ? 1 : records.size() / sampleSize;
+    for (std::size_t index = 0; index < records.size(); index += step) {
+        const tallyrig::RecordStorage& record = records[index].stored();
+        const std::size_t* const columns = columnOfTag.of(record.tags(), [&](const tallyrig::FieldTag& tag) {
+            const auto found = places.find(text::canonicalKey(tag.name));
+            return found == places.end() ? noColumn : found->second;
+        });
+        for (std::size_t field = 0; field < record.fieldCount(); ++field) {
+            const std::size_t place = columns[record.tagNumber(field)];
+            if (place == noColumn || fitted[place].lastRecord == index) {
+                continue;
+            }
+            FittedColumn& column = fitted[place];
+            column.lastRecord = index;  // Of several fields of a name, the first is shown.
+            const auto [shown, isNew] = column.measured.insert(
+                ADIFFieldCatalog::displayValue(beginningOf(record.value(field)), column.name));
+            if (isNew && !shown->empty()) {
+                column.content = std::max(column.content, wholeWidth(MeasuredFont::cell, *shown));
+            }
+        }
+    }
+
+    std::vector<double> widths;
+    widths.reserve(names.size());
+    for (const FittedColumn& column : fitted) {
+        const double dot = column.name == "BAND" ? 13 : 0;  // The coloured one in front of the text.
+        const double label = wholeWidth(MeasuredFont::label, ADIFFieldCatalog::label(column.name)) + 12;
+        const double tag = wholeWidth(MeasuredFont::tag, "<" + column.name) + 22;
+        const double content = fitted[column.source].content + dot;
+        widths.push_back(std::clamp(std::max({content, label, tag}) + cellMargins + reserve, 60.0, 320.0));
+    }
+    return widths;
 }
 
 }  // namespace quillon
