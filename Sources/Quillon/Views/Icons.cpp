@@ -7,6 +7,9 @@
 #include <QPixmap>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <utility>
 
 namespace quillon {
@@ -34,15 +37,24 @@ QString breezeFile(const QString& theme, const QString& name, int sizePx) {
     return {};
 }
 
-QIcon breezeIcon(const QString& theme, const QString& name) {
-    QIcon found;
-    for (const int sizePx : {16, 22, 32}) {
-        const QString file = breezeFile(theme, name, sizePx);
+/// The sizes in which Breeze draws its icons: the smaller ones are no scaled copies but have thinner detail.
+constexpr std::array breezeSizes = {16, 22, 32};
+
+/// The position in `breezeSizes` of the drawing that is meant for `sizePx`.
+std::size_t breezeSizeFor(int sizePx) {
+    return sizePx <= 18 ? 0 : sizePx <= 26 ? 1 : 2;
+}
+
+/// The drawing for that size, or the nearest smaller or else larger one that there is.
+QIcon breezeIcon(const QString& theme, const QString& name, std::size_t size) {
+    for (const std::size_t candidate : {size, size > 0 ? size - 1 : 1, size > 1 ? 0 : std::size_t{2}}) {
+        // An icon of its own for each file: Qt keeps but one vector file in an icon.
+        const QString file = breezeFile(theme, name, breezeSizes[candidate]);
         if (!file.isEmpty()) {
-            found.addFile(file, QSize(sizePx, sizePx));
+            return QIcon(file);
         }
     }
-    return found.isNull() ? QIcon::fromTheme(name) : found;
+    return QIcon::fromTheme(name);
 }
 
 /// An icon that is looked for when it is painted, in the variant that the palette asks for at that moment.
@@ -53,31 +65,33 @@ class BreezeEngine : public QIconEngine {
     explicit BreezeEngine(QString breezeName) : name(std::move(breezeName)) {}
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
-        current().paint(painter, area, Qt::AlignCenter, mode, state);
+        current(std::min(area.width(), area.height())).paint(painter, area, Qt::AlignCenter, mode, state);
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return current().pixmap(size, 1.0, mode, state);
+        return scaledPixmap(size, mode, state, 1.0);
     }
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
-        return current().pixmap(size / scale, scale, mode, state);
+        const QSize logical = size / scale;
+        return current(std::min(logical.width(), logical.height())).pixmap(logical, scale, mode, state);
     }
     QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override { return size; }
     bool isNull() override { return false; }
     QIconEngine* clone() const override { return new BreezeEngine(*this); }
 
   private:
-    const QIcon& current() {
+    const QIcon& current(int sizePx) {
         const bool dark = isPaletteDark();
-        QIcon& variant = dark ? darkVariant : lightVariant;
-        if (variant.isNull()) {
-            variant = breezeIcon(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"), name);
+        const std::size_t size = breezeSizeFor(sizePx);
+        QIcon& found = (dark ? darkVariants : lightVariants)[size];
+        if (found.isNull()) {
+            found = breezeIcon(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"), name, size);
         }
-        return variant;
+        return found;
     }
 
     QString name;
-    QIcon lightVariant;
-    QIcon darkVariant;
+    std::array<QIcon, breezeSizes.size()> lightVariants;
+    std::array<QIcon, breezeSizes.size()> darkVariants;
 };
 
 }  // namespace
