@@ -50,6 +50,10 @@ CheckResultsView::CheckResultsView(LogStore& logStore, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    // Made first, so that the tab key comes to the findings before it comes to the buttons.
+    QWidget* const findings = makeList();
+    setFocusProxy(list);
+    setFocusPolicy(list->focusPolicy());
     layout->addWidget(makeHead());
     layout->addWidget(horizontalLine(this));
 
@@ -57,7 +61,7 @@ CheckResultsView::CheckResultsView(LogStore& logStore, QWidget* parent)
         new EmptyState(checkIcon(), QStringLiteral("Keine Probleme gefunden"),
                        QStringLiteral("Pflichtfelder, Formate und Dubletten sind in Ordnung."), this);
     body = new QStackedLayout;
-    body->addWidget(makeList());
+    body->addWidget(findings);
     body->addWidget(nothingFound);
     layout->addLayout(body, 1);
 

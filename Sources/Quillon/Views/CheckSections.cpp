@@ -5,13 +5,13 @@
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
+#include "Quillon/Views/CalmComboBox.h"
 #include "Quillon/Views/FieldAdder.h"
 #include "Quillon/Views/Icons.h"
 #include "Quillon/Views/SidebarSection.h"
 #include "Quillon/Views/Strings.h"
 #include "Quillon/Views/WrappingCheckBox.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -50,8 +50,7 @@ SidebarSection* CheckSections::checks() {
         "bleiben erlaubt). Teil der Formatprüfung."));
     addSwitch(*section, QStringLiteral("Dubletten"), setting::checkDuplicates);
 
-    auto* criterion = new QComboBox(section);
-    criterion->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto* criterion = new CalmComboBox(section);
     for (const DuplicateCriterion offered : duplicateCriteria) {
         criterion->addItem(toQString(label(offered)), toQString(storedValue(offered)));
     }

@@ -241,6 +241,7 @@ void ContentView::followStore() {
 }
 
 void ContentView::comeUp() {
+    matchIconsToPalette();
     showBusyCursorUntilIdle();
     logStore.openFromCommandLineIfNeeded(startArguments);
     focusTable();
@@ -269,6 +270,7 @@ void ContentView::showResults() {
         layout->addWidget(horizontalLine(results));
         layout->addWidget(view);
         tableColumn->addWidget(results);
+        setTabOrder(table->focusProxy(), view);
         connect(view, &CheckResultsView::recordChosen, table, &QSOTableView::scrollToRecord);
         connect(view, &CheckResultsView::left, this, &ContentView::focusTable);
     }

@@ -19,9 +19,9 @@ FieldAdder::FieldAdder(LogStore& logStore, QWidget* parent)
       store(logStore),
       hint(noteLabel(QStringLiteral("Einzelnes QSO auswählen, um Felder hinzuzufügen."), this)),
       form(new QWidget(this)),
+      picker(new FieldPicker(store, form)),
       newFieldName(new QLineEdit(form)),
       addButton(new QPushButton(icon(QStringLiteral("list-add")), QString(), form)) {
-    auto* picker = new FieldPicker(store, form);
     newFieldName->setPlaceholderText(QStringLiteral("z. B. SOTA_REF"));
     newFieldName->setAcceptDrops(false);
     addButton->setToolTip(QStringLiteral("Feld hinzufügen"));

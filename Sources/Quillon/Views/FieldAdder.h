@@ -2,13 +2,12 @@
 
 #include <QWidget>
 
-class QComboBox;
 class QLineEdit;
 class QPushButton;
-class QStackedLayout;
 
 namespace quillon {
 
+class FieldPicker;
 class LogStore;
 
 /// The section of the sidebar that adds a field to the single selected QSO: one of the ADIF fields, or one of
@@ -32,6 +31,7 @@ class FieldAdder : public QWidget {
     LogStore& store;
     QWidget* hint;
     QWidget* form;
+    FieldPicker* picker;
     QLineEdit* newFieldName;
     QPushButton* addButton;
 };

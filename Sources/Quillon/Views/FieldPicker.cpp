@@ -8,7 +8,6 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLocale>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
@@ -54,8 +53,7 @@ std::vector<Choice> choicesFor(const tallyrig::ADIFRecord& record) {
 
 }  // namespace
 
-FieldPicker::FieldPicker(const LogStore& logStore, QWidget* parent) : QComboBox(parent), store(logStore) {
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+FieldPicker::FieldPicker(const LogStore& logStore, QWidget* parent) : CalmComboBox(parent), store(logStore) {
     setPlaceholderText(QStringLiteral("Feld wählen …"));
     setMaxVisibleItems(20);
     connect(this, &QComboBox::activated, this, [this](int index) {
@@ -92,10 +90,6 @@ void FieldPicker::keyPressEvent(QKeyEvent* event) {
         default:
             event->ignore();
     }
-}
-
-void FieldPicker::wheelEvent(QWheelEvent* event) {
-    event->ignore();
 }
 
 }  // namespace quillon

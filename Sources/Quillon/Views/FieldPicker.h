@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QComboBox>
+#include "Quillon/Views/CalmComboBox.h"
 
 namespace quillon {
 
@@ -9,7 +9,7 @@ class LogStore;
 /// Offers the ADIF fields that the single selected QSO does not have yet, each under its German name.
 ///
 /// The list is long: it is made when it opens.
-class FieldPicker : public QComboBox {
+class FieldPicker : public CalmComboBox {
     Q_OBJECT
 
   public:
@@ -24,7 +24,6 @@ class FieldPicker : public QComboBox {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
   private:
     const LogStore& store;

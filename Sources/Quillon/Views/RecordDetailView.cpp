@@ -33,7 +33,7 @@ RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setFocusPolicy(Qt::NoFocus);
 
-    auto* content = new QWidget;
+    auto* content = new QWidget(list->viewport());
     auto* outer = new QVBoxLayout(content);
     outer->setContentsMargins(12, 12, 12, 12);
     outer->setSpacing(10);
@@ -45,6 +45,9 @@ RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
     list->setWidget(content);
     pages->addWidget(empty);
     pages->addWidget(list);
+    // The first row holds the place of all of them among what the tab key goes through.
+    addRow();
+    rows.front()->hide();
 
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this,
             &RecordDetailView::showMoreRowsNearEnd);
@@ -118,6 +121,10 @@ void RecordDetailView::addRow() {
     connect(row, &FieldRow::valueEdited, this, [this, index](const QString& text) { write(index, text); });
     connect(row, &FieldRow::removeClicked, this, [this, index] { remove(index); });
     column->addWidget(row);
+    if (!rows.empty()) {
+        setTabOrder(&rows.back()->removeButton(), &row->valueField());
+        setTabOrder(&row->valueField(), &row->removeButton());
+    }
     rows.push_back(row);
 }
 

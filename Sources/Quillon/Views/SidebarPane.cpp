@@ -1,10 +1,10 @@
 #include "Quillon/Views/SidebarPane.h"
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/CalmComboBox.h"
 #include "Quillon/Views/CheckSections.h"
 #include "Quillon/Views/SidebarSection.h"
 
-#include <QComboBox>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -24,20 +24,21 @@ std::vector<OfferedMode> offeredModes() {
 }  // namespace
 
 SidebarPane::SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* parent)
-    : QScrollArea(parent), store(logStore), settings(userSettings), modePicker(new QComboBox) {
+    : QScrollArea(parent), store(logStore), settings(userSettings) {
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAccessibleName(QStringLiteral("Seitenleiste"));
 
-    auto* content = new QWidget;
+    auto* content = new QWidget(viewport());
     column = new QVBoxLayout(content);
     column->setContentsMargins(12, 12, 12, 12);
     column->setSpacing(18);
     setWidget(content);
 
     auto* view = new SidebarSection(QStringLiteral("Ansicht"), content);
-    modePicker->setParent(view);
+    modePicker = new CalmComboBox(view);
     modePicker->setAccessibleName(QStringLiteral("Ansicht"));
     for (const OfferedMode& offered : offeredModes()) {
         modePicker->addItem(offered.label, QVariant::fromValue(static_cast<int>(offered.mode)));

@@ -30,8 +30,8 @@ class SidebarPane : public QScrollArea {
 
     LogStore& store;
     Settings& settings;
-    QComboBox* modePicker;
-    QVBoxLayout* column;
+    QComboBox* modePicker = nullptr;
+    QVBoxLayout* column = nullptr;
     QWidget* sections = nullptr;  ///< Those of the mode.
 };
 

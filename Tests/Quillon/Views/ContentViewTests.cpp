@@ -186,6 +186,21 @@ TEST_F(Window, CopiesTheSelectedRecords) {
     EXPECT_NE(QApplication::clipboard()->text().indexOf(QStringLiteral("DL2ABC")), -1);
 }
 
+TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
+    openLog({"CALL=DL1ABC NAME=Anna"});
+    show();
+    store.runCheck();
+    select({0});
+    std::string names;
+    for (int step = 0; step < 8; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        names += QApplication::focusWidget()->accessibleName().toStdString() + "\n";
+    }
+    EXPECT_EQ(names,
+              "Befunde\nErneut prüfen\nErgebnisleiste schließen\nRufzeichen\nFeld entfernen: Rufzeichen\n"
+              "Name\nFeld entfernen: Name\nSuchen\n");
+}
+
 TEST_F(Window, HearsTheKeysOfTheLogFromTheDetailPane) {
     openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
     show();
