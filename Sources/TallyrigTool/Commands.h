@@ -20,5 +20,6 @@ struct Command {
 Command dumpCommand(CLI::App& program);
 Command checkCommand(CLI::App& program);
 Command convertCommand(CLI::App& program);
+Command distanceCommand(CLI::App& program);
 
 }  // namespace tallyrig::tool

@@ -25,7 +25,7 @@ ExitStatus run(int count, const char* const* arguments) {
     CLI::App program;
     describeProgram(program);
     const std::vector<Command> commands = {dumpCommand(program), checkCommand(program),
-                                           convertCommand(program)};
+                                           convertCommand(program), distanceCommand(program)};
     try {
         program.parse(count, arguments);
     } catch (const CLI::CallForHelp&) {

@@ -327,6 +327,37 @@ TEST_F(Convert, ReplacesTheTargetWholeOrNotAtAll) {
 
 using Failure = Tool;
 
+TEST_F(Convert, GaveTheExamplesOfOneContestTheirFourFormats) {
+    const auto callsOf = [&](const std::string& file) {
+        const auto document = nlohmann::json::parse(run("tallyrig dump --json Examples/" + file).output);
+        std::string calls;
+        for (const auto& record : document["records"]) {
+            for (const auto& field : record["fields"]) {
+                calls += field["name"] == "CALL" ? field["value"].get<std::string>() + " " : "";
+            }
+        }
+        return calls;
+    };
+    const std::string calls = callsOf("maerzcontest.adi");
+    EXPECT_EQ(std::ranges::count(calls, ' '), 24);
+    for (const char* file : {"maerzcontest.adx", "maerzcontest.cbr", "maerzcontest.edi"}) {
+        EXPECT_EQ(callsOf(file), calls) << file;
+    }
+}
+
+using Distance = Tool;
+
+TEST_F(Distance, IsThatOfTheCentresOfTheLocators) {
+    EXPECT_EQ(run("tallyrig distance jo62qm JN58").output, "478 km\n");
+    const Ran sameSquare = run("tallyrig distance JO62 JO62 --json");
+    EXPECT_EQ(nlohmann::json::parse(sameSquare.output),
+              (nlohmann::json{{"greatCircleKm", 0}, {"distanceKm", 0}}));
+    const Ran bad = run("tallyrig distance JO62 Berlin");
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_EQ(bad.output, "");
+    EXPECT_NE(bad.complaint.find("Berlin"), std::string::npos) << bad.complaint;
+}
+
 TEST_F(Failure, NamesWhatIsWrongWithTheCall) {
     const struct {
         std::string call;
@@ -407,7 +438,7 @@ using Help = Tool;
 
 TEST_F(Help, ShowsExamplesThatRun) {
     std::size_t examples = 0;
-    for (const std::string page : {"", "dump ", "check ", "convert "}) {
+    for (const std::string page : {"", "dump ", "check ", "convert ", "distance "}) {
         const Ran help = run("tallyrig " + page + "--help");
         EXPECT_EQ(help.status, 0) << page;
         EXPECT_EQ(help.complaint, "") << page;
@@ -418,7 +449,7 @@ TEST_F(Help, ShowsExamplesThatRun) {
             }
         }
     }
-    EXPECT_EQ(examples, 6);
+    EXPECT_EQ(examples, 7);
 }
 
 TEST_F(Help, NamesTheVersion) {
