@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHash>
 #include <QStringList>
 
 namespace quillon {
@@ -28,19 +29,26 @@ QString filter(const QString& label, const QStringList& patterns) {
 
 /// What the panel shows at first are all files of `types`; then each kind by itself, and at last any file.
 QStringList nameFilters(const QList<FileType>& types) {
+    QStringList labels;
+    QHash<QString, QStringList> byLabel;
     QStringList all;
-    QStringList single;
     for (const FileType& type : types) {
-        if (!type.extensions.isEmpty()) {
-            all.append(patterns(type));
-            single.append(filter(type.label, patterns(type)));
+        if (type.extensions.isEmpty()) {
+            continue;
         }
+        if (!labels.contains(type.label)) {
+            labels.append(type.label);
+        }
+        byLabel[type.label] += patterns(type);
+        all += patterns(type);
     }
     QStringList result;
-    if (single.size() > 1) {
+    if (labels.size() > 1) {
         result.append(filter(QStringLiteral("Logdateien"), all));
     }
-    result.append(single);
+    for (const QString& label : labels) {
+        result.append(filter(label, byLabel[label]));
+    }
     result.append(QStringLiteral("Alle Dateien (*)"));
     return result;
 }
@@ -70,6 +78,7 @@ std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
 std::optional<QString> DesktopPanels::fileToOpen(const QList<FileType>& types) {
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Öffnen"), folder);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(types));
     return choice(dialog, folder);
 }
@@ -78,6 +87,7 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Speichern unter"), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(types));
     dialog.setDefaultSuffix(firstExtension(types));
     dialog.selectFile(proposedName);
