@@ -479,7 +479,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 7);
+    EXPECT_EQ(commands, 9);
 }
 
 }  // namespace
