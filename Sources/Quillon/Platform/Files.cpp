@@ -147,18 +147,25 @@ int createBeside(const std::string& folder, mode_t mode, std::string& path) {
     }
 }
 
-/// Makes the new file as accessible as the one it replaces. The owner is kept where the system allows it.
+/// Makes the new file as accessible as the one it replaces, as far as the system allows it: not every one may
+/// give a file away, and not every file system knows owners and permissions. That is no reason not to save.
 bool takeOver(int descriptor, const struct stat& old) {
     struct stat created = {};
     if (::fstat(descriptor, &created) != 0) {
         return false;
     }
-    if ((created.st_uid != old.st_uid || created.st_gid != old.st_gid) &&
-        ::fchown(descriptor, old.st_uid, old.st_gid) != 0 && errno != EPERM) {
-        return false;
+    mode_t mode = old.st_mode & 07777U;
+    if (created.st_uid != old.st_uid && ::fchown(descriptor, old.st_uid, old.st_gid) == 0) {
+        created.st_gid = old.st_gid;
     }
-    const mode_t mode = old.st_mode & 07777U;
-    return (created.st_mode & 07777U) == mode || ::fchmod(descriptor, mode) == 0;
+    if (created.st_gid != old.st_gid && ::fchown(descriptor, static_cast<uid_t>(-1), old.st_gid) != 0) {
+        // Another group must not get the rights of the old one.
+        mode &= ~static_cast<mode_t>(S_IRWXG);
+    }
+    if ((created.st_mode & 07777U) != mode) {
+        static_cast<void>(::fchmod(descriptor, mode));
+    }
+    return true;
 }
 
 /// All bytes up to the end. `expected` is their number as far as it is known: files of the kernel say 0, and
