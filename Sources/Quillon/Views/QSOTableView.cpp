@@ -69,6 +69,8 @@ void QSOTableView::showAddColumn() {
 void QSOTableView::followDocument() {
     // Every change of a log enters the history: one without history was just opened or begun.
     if (!store.canUndo() && !store.canRedo()) {
+        // A name typed for a column of the last log is not for this one.
+        headerRow->dismissEditor();
         rows->startOver();
     }
     refreshGeometry();

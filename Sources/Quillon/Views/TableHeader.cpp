@@ -206,8 +206,10 @@ void TableHeader::placeEditor() {
         return;
     }
     const auto position = std::find(store.columns().begin(), store.columns().end(), renamedColumn);
-    if (position != store.columns().end()) {
-        const QRectF area = cellArea(static_cast<std::size_t>(position - store.columns().begin()));
+    const auto column = static_cast<std::size_t>(position - store.columns().begin());
+    // While the columns change, the geometry may still be that of fewer.
+    if (position != store.columns().end() && column < geometry.columnCount()) {
+        const QRectF area = cellArea(column);
         nameEditor->setGeometry(qRound(area.left()), 0, std::max(smallestEditorPx, qRound(area.width())),
                                 height());
     }
