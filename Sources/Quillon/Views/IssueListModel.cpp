@@ -65,7 +65,7 @@ QVariant IssueListModel::data(const QModelIndex& index, int role) const {
 
 QString IssueListModel::longestLine() const {
     // The findings stand in the order of the records, and a later record has no shorter number.
-    return count == 0 ? QString() : lineText(store.validationIssues().back());
+    return store.validationIssues().empty() ? QString() : lineText(store.validationIssues().back());
 }
 
 void IssueListModel::follow() {
