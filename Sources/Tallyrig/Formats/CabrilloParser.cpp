@@ -1,7 +1,7 @@
 #include "Tallyrig/Formats/CabrilloParser.h"
 
+#include "Tallyrig/Formats/ColumnRecordBuilder.h"
 #include "Tallyrig/Formats/LogLines.h"
-#include "Tallyrig/Log/ADIFRecordBuilder.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
@@ -103,70 +103,55 @@ struct Station {
     std::string gridLocator;
 };
 
-/// What `read` makes of a column, kept for the next lines: a station stays on its frequency for a while, and
-/// on most days there is more than one QSO.
-template <auto read>
-class Repeated {
-  public:
-    const auto& of(std::string_view nextColumn) {
-        if (nextColumn != column) {
-            value = read(nextColumn);
-            column = nextColumn;
-        }
-        return value;
-    }
-
-  private:
-    std::string_view column;
-    decltype(read(std::string_view())) value;
-};
-
-/// Makes the records of one log.
+/// Makes the records of one log, whose text stays meanwhile.
 class RecordMaker {
   public:
-    /// The record of the line, absent if it has too few columns. The line stays until the next is read.
-    std::optional<ADIFRecord> record(std::string_view line, std::string_view myCall, std::string_view contest,
-                                     std::string_view operators, std::string_view grid) {
+    explicit RecordMaker(const Station& headerValues) : station(headerValues) {}
+
+    /// The record of the line, absent if it has too few columns.
+    std::optional<ADIFRecord> record(std::string_view line) {
         line.remove_prefix(firstCharacters(line, 4).size());
-        std::array<std::string_view, 10> columns;
-        for (std::string_view& column : columns) {
-            column = takePiece(line);
-        }
-        if (columns.back().empty()) {
+        if (!splitAtBlanks(line, columns)) {
             return std::nullopt;
         }
-        const CabrilloParser::FrequencyAndBand& place = places.of(columns[0]);
-        add(freq, place.freq);
-        add(band, place.band);
-        add(mode, modes.of(columns[1]));
-        add(qsoDate, dates.of(columns[2]));
-        add(timeOn, CabrilloParser::adifTime(columns[3]));
-        add(rstSent, columns[5]);
-        add(stxString, columns[6]);
-        add(call, text::upper(columns[7]));
-        add(rstRcvd, columns[8]);
-        add(srxString, columns[9]);
+        places.addTo(builder, columns[0], [this](std::string_view column) {
+            const CabrilloParser::FrequencyAndBand place = CabrilloParser::frequencyAndBand(column);
+            builder.addColumn(freq, place.freq);
+            builder.addColumn(band, place.band);
+        });
+        modes.addTo(builder, columns[1], [this](std::string_view column) {
+            builder.addColumn(mode, CabrilloParser::adifMode(column));
+        });
+        dates.addTo(builder, columns[2], [this](std::string_view column) {
+            builder.addColumn(qsoDate, CabrilloParser::adifDate(column));
+        });
+        builder.addTime(timeOn, columns[3]);
+        builder.addColumn(rstSent, columns[5]);
+        builder.addColumn(stxString, columns[6]);
+        builder.addUpper(call, columns[7]);
+        builder.addColumn(rstRcvd, columns[8]);
+        builder.addColumn(srxString, columns[9]);
         if (text::isAllNumeric(columns[9])) {
-            add(srx, std::to_string(text::integer(columns[9]).value_or(0)));
+            builder.addSerial(srx, columns[9]);
         }
-        add(stationCallsign, myCall);
-        add(contestID, contest);
-        add(operatorCall, operators);
-        add(myGridsquare, grid);
+        // One and the same column in all lines.
+        stationFields.addTo(builder, {}, [this](std::string_view) {
+            builder.addColumn(stationCallsign, station.callsign);
+            builder.addColumn(contestID, station.contest);
+            builder.addColumn(operatorCall, station.operators);
+            builder.addColumn(myGridsquare, station.gridLocator);
+        });
         return builder.takeRecord();
     }
 
   private:
-    void add(FieldTags::Number tag, std::string_view value) {
-        if (!value.empty()) {
-            builder.addField(tag, value);
-        }
-    }
-
-    Repeated<CabrilloParser::frequencyAndBand> places;
-    Repeated<CabrilloParser::adifMode> modes;
-    Repeated<CabrilloParser::adifDate> dates;
-    ADIFRecordBuilder builder;
+    const Station& station;
+    std::array<std::string_view, 10> columns;  ///< Of the line at hand.
+    RepeatedColumn places;
+    RepeatedColumn modes;
+    RepeatedColumn dates;
+    RepeatedColumn stationFields;
+    ColumnRecordBuilder builder;
     FieldTags::Number freq = builder.tag("FREQ");
     FieldTags::Number band = builder.tag("BAND");
     FieldTags::Number mode = builder.tag("MODE");
@@ -219,12 +204,10 @@ ADIFDocument CabrilloParser::parse(std::string_view data) {
             readHeaderLine(line, station);
         }
     }
-    RecordMaker maker;
+    RecordMaker maker(station);
     ADIFRecordList records;
     for (const std::string_view line : qsoLines) {
-        auto record =
-            maker.record(line, station.callsign, station.contest, station.operators, station.gridLocator);
-        if (record) {
+        if (auto record = maker.record(line)) {
             records.append(*std::move(record));
         }
     }
@@ -234,7 +217,9 @@ ADIFDocument CabrilloParser::parse(std::string_view data) {
 std::optional<ADIFRecord> CabrilloParser::record(std::string_view line, std::string_view myCall,
                                                  std::string_view contest, std::string_view operators,
                                                  std::string_view grid) {
-    return RecordMaker().record(line, myCall, contest, operators, grid);
+    const Station station{std::string(myCall), std::string(contest), std::string(operators),
+                          std::string(grid)};
+    return RecordMaker(station).record(line);
 }
 
 std::optional<std::string_view> CabrilloParser::bandForFrequency(std::int64_t kHz) {
@@ -277,11 +262,7 @@ std::string CabrilloParser::adifDate(std::string_view column) {
 }
 
 std::string CabrilloParser::adifTime(std::string_view column) {
-    std::string digits = numericCharacters(column);
-    if (hasLength(digits, 4)) {
-        digits += "00";
-    }
-    return digits;
+    return timeOfColumn(column);
 }
 
 }  // namespace tallyrig

@@ -1,8 +1,8 @@
 #include "Tallyrig/Formats/EDIParser.h"
 
+#include "Tallyrig/Formats/ColumnRecordBuilder.h"
 #include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/LogLines.h"
-#include "Tallyrig/Log/ADIFRecordBuilder.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
@@ -62,8 +62,7 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Makes the records of one file. Nearly every column is plain ASCII of a few characters, so each has a short
-/// way that asks nobody and gives the same as the long one.
+/// Makes the records of one file, whose text stays meanwhile.
 class QSOReading {
   public:
     explicit QSOReading(const EDIParser::CommonValues& commonValues) : common(commonValues) {}
@@ -73,19 +72,15 @@ class QSOReading {
             return std::nullopt;
         }
         addDate(columns[0]);
-        addTime(columns[1]);
-        addUpper(call, columns[2]);
-        add(mode, EDIParser::adifMode(columns[3]));
-        add(rstSent, columns[4]);
-        addSerial(stx, columns[5]);
-        add(rstRcvd, columns[6]);
-        addSerial(srx, columns[7]);
-        addUpper(gridsquare, columns[9]);
-        add(band, common.band);
-        add(stationCallsign, common.myCall);
-        add(myGridsquare, common.myLoc);
-        add(contestID, common.contest);
-        add(operatorField, common.operators);
+        builder.addTime(timeOn, columns[1]);
+        builder.addUpper(call, columns[2]);
+        builder.addColumn(mode, EDIParser::adifMode(columns[3]));
+        builder.addColumn(rstSent, columns[4]);
+        builder.addSerial(stx, columns[5]);
+        builder.addColumn(rstRcvd, columns[6]);
+        builder.addSerial(srx, columns[7]);
+        builder.addUpper(gridsquare, columns[9]);
+        addCommonValues();
         // Never without fields: a mode is always there.
         return builder.takeRecord();
     }
@@ -121,55 +116,28 @@ class QSOReading {
                    : text::trimmedOfBlanks(column);
     }
 
-    void add(FieldTags::Number tag, std::string_view value) {
-        if (!value.empty()) {
-            builder.addField(tag, value);
-        }
-    }
-
     void addDate(std::string_view date) {
-        if (date.size() == 6 && std::ranges::all_of(date, isDigit)) {
-            std::string full = common.century;
-            full += date;
-            builder.addField(qsoDate, full);
-        } else {
-            add(qsoDate, EDIParser::adifDate(date, common.century));
-        }
+        dates.addTo(builder, date, [this](std::string_view column) {
+            builder.addColumn(qsoDate, EDIParser::adifDate(column, common.century));
+        });
     }
 
-    void addTime(std::string_view time) {
-        if (time.size() == 4 && std::ranges::all_of(time, isDigit)) {
-            const std::array<char, 6> full = {time[0], time[1], time[2], time[3], '0', '0'};
-            builder.addField(timeOn, {full.data(), full.size()});
-        } else {
-            add(timeOn, EDIParser::adifTime(time));
-        }
-    }
-
-    void addUpper(FieldTags::Number tag, std::string_view value) {
-        const bool isUpper = std::ranges::all_of(
-            value, [](char c) { return static_cast<unsigned char>(c) < 0x80 && !(c >= 'a' && c <= 'z'); });
-        if (isUpper) {
-            add(tag, value);
-        } else {
-            add(tag, text::upper(value));
-        }
-    }
-
-    /// A serial number without its leading zeros; 0 for what is none.
-    void addSerial(FieldTags::Number tag, std::string_view number) {
-        constexpr std::size_t mostDigits = 18;
-        if (number.size() <= mostDigits && std::ranges::all_of(number, isDigit)) {
-            const std::size_t zeros = std::min(number.find_first_not_of('0'), number.size());
-            add(tag, zeros == number.size() && zeros > 0 ? "0" : number.substr(zeros));
-        } else {
-            add(tag, std::to_string(text::integer(number).value_or(0)));
-        }
+    void addCommonValues() {
+        // One and the same column in all lines.
+        commonFields.addTo(builder, {}, [this](std::string_view) {
+            builder.addColumn(band, common.band);
+            builder.addColumn(stationCallsign, common.myCall);
+            builder.addColumn(myGridsquare, common.myLoc);
+            builder.addColumn(contestID, common.contest);
+            builder.addColumn(operatorField, common.operators);
+        });
     }
 
     const EDIParser::CommonValues& common;
     Columns columns;  ///< Of the line at hand.
-    ADIFRecordBuilder builder;
+    RepeatedColumn dates;
+    RepeatedColumn commonFields;
+    ColumnRecordBuilder builder;
     const FieldTags::Number qsoDate = builder.tag("QSO_DATE");
     const FieldTags::Number timeOn = builder.tag("TIME_ON");
     const FieldTags::Number call = builder.tag("CALL");
@@ -254,11 +222,7 @@ std::string EDIParser::adifDate(std::string_view ediDate, std::string_view centu
 }
 
 std::string EDIParser::adifTime(std::string_view ediTime) {
-    std::string digits = numericCharacters(ediTime);
-    if (hasLength(digits, 4)) {
-        digits += "00";
-    }
-    return digits;
+    return timeOfColumn(ediTime);
 }
 
 std::string_view EDIParser::adifMode(std::string_view code) {

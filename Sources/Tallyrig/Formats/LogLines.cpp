@@ -89,18 +89,21 @@ std::string_view takeLine(std::string_view& rest) {
     return textFrom(begin);
 }
 
-std::string_view takePiece(std::string_view& rest) {
-    const char* const end = rest.data() + rest.size();
-    const char* begin = rest.data();
-    while (begin != end && isBlankOrTab(*begin)) {
-        ++begin;
+bool splitAtBlanks(std::string_view line, std::span<std::string_view> pieces) {
+    const char* at = line.data();
+    const char* const end = at + line.size();
+    for (std::string_view& piece : pieces) {
+        while (at != end && isBlankOrTab(*at)) {
+            ++at;
+        }
+        const char* const begin = at;
+        at = std::find_if(at, end, isBlankOrTab);
+        if (at == begin) {
+            return false;
+        }
+        piece = {begin, static_cast<std::size_t>(at - begin)};
     }
-    const char* at = begin;
-    while (at != end && (*at > ' ' || !isBlankOrTab(*at))) {
-        ++at;
-    }
-    rest = {at, static_cast<std::size_t>(end - at)};
-    return {begin, static_cast<std::size_t>(at - begin)};
+    return true;
 }
 
 bool hasLength(std::string_view text, std::size_t count) {
@@ -122,6 +125,14 @@ std::string numericCharacters(std::string_view text) {
         }
     }
     return result;
+}
+
+std::string timeOfColumn(std::string_view column) {
+    std::string digits = numericCharacters(column);
+    if (hasLength(digits, 4)) {
+        digits += "00";
+    }
+    return digits;
 }
 
 std::string_view firstCharacters(std::string_view text, std::size_t count) {

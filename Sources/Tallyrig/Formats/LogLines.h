@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,14 +32,18 @@ class FileText {
 /// LF, VT, FF, CR, U+0085, U+2028 and U+2029. Empty lines are passed over, and with them the LF of a CR LF.
 std::string_view takeLine(std::string_view& rest);
 
-/// Takes the next piece between blanks (U+0020) and tabs off the front of `rest`; empty when none is left.
-std::string_view takePiece(std::string_view& rest);
+/// Finds the first pieces of `line` between blanks (U+0020) and tabs, as many as there is room for in
+/// `pieces`. False if there are fewer.
+bool splitAtBlanks(std::string_view line, std::span<std::string_view> pieces);
 
 /// Whether `text` is `count` characters long.
 bool hasLength(std::string_view text, std::size_t count);
 
 /// The numeric characters of `text`, of any script, without all others.
 std::string numericCharacters(std::string_view text);
+
+/// The digits of a time column, with the seconds "00" behind four.
+std::string timeOfColumn(std::string_view column);
 
 /// The front of `text`, `count` characters long, or all of it where it is shorter.
 std::string_view firstCharacters(std::string_view text, std::size_t count);

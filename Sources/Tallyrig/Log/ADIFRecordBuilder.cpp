@@ -3,16 +3,9 @@
 #include "Tallyrig/Text/Decoding.h"
 #include "Tallyrig/Text/Text.h"
 
-#include <limits>
 #include <utility>
 
 namespace tallyrig {
-
-namespace {
-
-constexpr std::size_t longestValues = std::numeric_limits<std::uint32_t>::max();
-
-}  // namespace
 
 ADIFRecordBuilder::ADIFRecordBuilder() : tags(std::make_shared<FieldTags>()) {}
 
@@ -20,10 +13,29 @@ FieldTags::Number ADIFRecordBuilder::tag(std::string_view name, std::optional<st
     return tags->add(text::upper(name), type);
 }
 
-void ADIFRecordBuilder::addField(FieldTags::Number tag, std::string_view value) {
-    values.append(value.substr(0, longestValues - values.size()));
-    tagNumbers.push_back(tag);
-    valueEnds.push_back(static_cast<std::uint32_t>(values.size()));
+void ADIFRecordBuilder::copyFields(std::size_t firstField, Run& run) const {
+    const std::uint32_t begin = firstField == 0 ? 0 : entries[firstField - 1].end;
+    run.values.assign(values, begin);
+    run.entries.assign(entries.begin() + static_cast<std::ptrdiff_t>(firstField), entries.end());
+    for (RecordStorage::Entry& entry : run.entries) {
+        entry.end -= begin;
+    }
+}
+
+void ADIFRecordBuilder::addRun(const Run& run) {
+    if (run.values.size() > longestValues - values.size()) {
+        std::uint32_t begin = 0;
+        for (const RecordStorage::Entry& entry : run.entries) {
+            addField(entry.tag, {run.values.data() + begin, entry.end - begin});
+            begin = entry.end;
+        }
+        return;
+    }
+    const auto before = static_cast<std::uint32_t>(values.size());
+    for (const RecordStorage::Entry& entry : run.entries) {
+        entries.push_back({entry.tag, before + entry.end});
+    }
+    values += run.values;
 }
 
 ADIFRecord ADIFRecordBuilder::takeRecord() {
@@ -31,8 +43,8 @@ ADIFRecord ADIFRecordBuilder::takeRecord() {
     if (!text::isASCII(values)) {
         decodeValues();
     }
-    const UUID id = UUID::freshRun(tagNumbers.size() + 1);
-    ADIFRecord record(allocator.allocate(id, tagNumbers, valueEnds, values, tags));
+    const UUID id = UUID::freshRun(entries.size() + 1);
+    ADIFRecord record(allocator.allocate(id, entries, values, tags));
     clear();
     return record;
 }
@@ -49,20 +61,19 @@ std::vector<ADIFField> ADIFRecordBuilder::takeFields() {
 void ADIFRecordBuilder::decodeValues() {
     const std::string bytes = std::exchange(values, {});
     std::size_t begin = 0;
-    for (std::uint32_t& end : valueEnds) {
-        const std::string_view value(bytes.data() + begin, end - begin);
-        begin = end;
+    for (RecordStorage::Entry& entry : entries) {
+        const std::string_view value(bytes.data() + begin, entry.end - begin);
+        begin = entry.end;
         values += text::decoded(value);
         if (values.size() > longestValues) {
             values.resize(longestValues);
         }
-        end = static_cast<std::uint32_t>(values.size());
+        entry.end = static_cast<std::uint32_t>(values.size());
     }
 }
 
 void ADIFRecordBuilder::clear() {
-    tagNumbers.clear();
-    valueEnds.clear();
+    entries.clear();
     values.clear();
 }
 

@@ -5,7 +5,9 @@
 #include "Tallyrig/Log/FieldTags.h"
 #include "Tallyrig/Log/RecordStorage.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,28 +27,42 @@ class ADIFRecordBuilder {
     FieldTags::Number tag(std::string_view name, std::optional<std::string_view> type = std::nullopt);
 
     /// Adds a field to the record at hand. A value that is no well-formed UTF-8 is taken as ISO 8859-1.
-    void addField(FieldTags::Number tag, std::string_view value);
+    void addField(FieldTags::Number tag, std::string_view value) {
+        values.append(value.substr(0, longestValues - values.size()));
+        entries.push_back({tag, static_cast<std::uint32_t>(values.size())});
+    }
     void addField(std::string_view name, std::string_view value,
                   std::optional<std::string_view> type = std::nullopt) {
         addField(tag(name, type), value);
     }
 
+    /// Neighbouring fields that come again in other records of the same log.
+    struct Run {
+        std::vector<RecordStorage::Entry> entries;
+        std::string values;
+    };
+    /// Makes `run` the fields of the record at hand from the one at `firstField` on, at most `fieldCount()`.
+    void copyFields(std::size_t firstField, Run& run) const;
+    /// Adds all fields of a run of this builder. Cheaper than one by one.
+    void addRun(const Run& run);
+
     /// Whether the record at hand has no fields.
-    bool isEmpty() const { return tagNumbers.empty(); }
-    std::size_t fieldCount() const { return tagNumbers.size(); }
+    bool isEmpty() const { return entries.empty(); }
+    std::size_t fieldCount() const { return entries.size(); }
     /// The record of the fields added since the last one, with fresh ids; the next begins without fields.
     ADIFRecord takeRecord();
     /// The same fields standing on their own, for a header.
     std::vector<ADIFField> takeFields();
 
   private:
+    static constexpr std::size_t longestValues = std::numeric_limits<std::uint32_t>::max();
+
     void decodeValues();
     void clear();
 
     std::shared_ptr<FieldTags> tags;
     RecordAllocator allocator;
-    std::vector<FieldTags::Number> tagNumbers;
-    std::vector<std::uint32_t> valueEnds;
+    std::vector<RecordStorage::Entry> entries;
     std::string values;
 };
 

@@ -113,20 +113,17 @@ RecordReference RecordAllocator::allocate(UUID id, std::span<const FieldDraft> f
     return RecordReference(record);
 }
 
-RecordReference RecordAllocator::allocate(UUID id, std::span<const FieldTags::Number> tagNumbers,
-                                          std::span<const std::uint32_t> valueEnds, std::string_view values,
+RecordReference RecordAllocator::allocate(UUID id, std::span<const RecordStorage::Entry> entries,
+                                          std::string_view values,
                                           const std::shared_ptr<const FieldTags>& tags) {
-    const std::size_t size =
-        sizeof(RecordStorage) + tagNumbers.size() * sizeof(RecordStorage::Entry) + values.size();
+    const std::size_t size = sizeof(RecordStorage) + entries.size_bytes() + values.size();
     RecordStorage* const record = reserve(aligned(size), tags);
     record->identity = id;
-    record->entryCount = static_cast<std::uint32_t>(tagNumbers.size());
-    auto* const entries = reinterpret_cast<RecordStorage::Entry*>(record + 1);
-    for (std::size_t index = 0; index < tagNumbers.size(); ++index) {
-        new (entries + index) RecordStorage::Entry{tagNumbers[index], valueEnds[index]};
-    }
+    record->entryCount = static_cast<std::uint32_t>(entries.size());
+    auto* const stored = reinterpret_cast<RecordStorage::Entry*>(record + 1);
+    std::uninitialized_copy(entries.begin(), entries.end(), stored);
     if (!values.empty()) {
-        std::memcpy(entries + tagNumbers.size(), values.data(), values.size());
+        std::memcpy(stored + entries.size(), values.data(), values.size());
     }
     return RecordReference(record);
 }

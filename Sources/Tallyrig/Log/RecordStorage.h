@@ -31,6 +31,11 @@ struct FieldDraft {
 /// them.
 class RecordStorage {
   public:
+    struct Entry {
+        FieldTags::Number tag;
+        std::uint32_t end;  ///< Where the value ends, in bytes behind the start of the values.
+    };
+
     UUID id() const { return identity; }
     std::size_t fieldCount() const { return entryCount; }
     /// `index` is below `fieldCount()`, here and below.
@@ -53,10 +58,6 @@ class RecordStorage {
     friend class RecordAllocator;
     friend class RecordReference;
 
-    struct Entry {
-        FieldTags::Number tag;
-        std::uint32_t end;  ///< Where the value ends, in bytes behind the start of the values.
-    };
     struct Run {
         UUID first;
         std::uint64_t start;  ///< The index of the first field of the run.
@@ -135,9 +136,8 @@ class RecordAllocator {
     RecordReference allocate(UUID id, std::span<const FieldDraft> fields,
                              const std::shared_ptr<const FieldTags>& tags);
 
-    /// A record whose field ids follow on `id`. `valueEnds[i]` is the end of field i in `values`, ascending.
-    RecordReference allocate(UUID id, std::span<const FieldTags::Number> tagNumbers,
-                             std::span<const std::uint32_t> valueEnds, std::string_view values,
+    /// A record whose field ids follow on `id`. The ends of `entries` ascend.
+    RecordReference allocate(UUID id, std::span<const RecordStorage::Entry> entries, std::string_view values,
                              const std::shared_ptr<const FieldTags>& tags);
 
   private:

@@ -105,6 +105,26 @@ TEST(CabrilloLine, NeedsTenColumns) {
     }
 }
 
+TEST(CabrilloLine, ReadsTheSameAmongOthers) {
+    std::vector<std::string> lines;
+    for (const std::string place : {"7001", "7001", "none", "10G", "none", "7001"}) {
+        for (const std::string mode : {"CW", "CW", "\u00FC", "PH"}) {
+            lines.push_back("QSO: " + place + ' ' + mode + " 2024-01-15 1234 A 59 1 B 59 2");
+            lines.push_back("QSO: " + place + ' ' + mode + " 24-01-15 1234 A 59 1 B 59 2");
+        }
+    }
+    std::string text = "CALLSIGN: A\nCONTEST: \u00D6\n";
+    for (const std::string& line : lines) {
+        text += line + '\n';
+    }
+    const ADIFDocument log = CabrilloParser::parse(text);
+    ASSERT_EQ(log.records().size(), lines.size());
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        EXPECT_EQ(log.records()[index], CabrilloParser::record(lines[index], "A", "\u00D6", "", ""))
+            << lines[index];
+    }
+}
+
 TEST(CabrilloLine, MayBeLatin1) {
     const ADIFDocument log = CabrilloParser::parse("QSO: 1 2 3 4 5 \xFC 7 k\xE4 9 10\nCONTEST: \xDF");
     ASSERT_EQ(log.records().size(), 1U);

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,10 +17,10 @@ using testing::document;
 
 using Texts = std::vector<std::string_view>;
 
-Texts takenOff(std::string_view text, std::string_view (*take)(std::string_view&)) {
+Texts linesOf(std::string_view text) {
     Texts result;
-    for (std::string_view one = take(text); !one.empty(); one = take(text)) {
-        result.push_back(one);
+    for (std::string_view line = takeLine(text); !line.empty(); line = takeLine(text)) {
+        result.push_back(line);
     }
     EXPECT_TRUE(text.empty());
     return result;
@@ -37,7 +38,7 @@ TEST(Lines, EndAtEveryLineBreak) {
         {"\n\u0085", {}},
     };
     for (const auto& [text, lines] : cases) {
-        EXPECT_EQ(takenOff(text, takeLine), lines) << text;
+        EXPECT_EQ(linesOf(text), lines) << text;
     }
 }
 
@@ -46,16 +47,19 @@ TEST(Lines, AreFoundAtEveryLength) {
         for (const std::string_view lineBreak : {"\n", "\r", "\u0085", "\u2029"}) {
             const std::string line = std::string(length - 1, '~') + '\x10';
             const std::string text = line + std::string(lineBreak) + "second line, not empty";
-            EXPECT_EQ(takenOff(text, takeLine), (Texts{line, "second line, not empty"})) << length;
+            EXPECT_EQ(linesOf(text), (Texts{line, "second line, not empty"})) << length;
         }
     }
 }
 
 TEST(Pieces, StandBetweenBlanksAndTabs) {
-    const std::vector<std::pair<std::string_view, Texts>> cases = {
-        {" a\t b  c\t", {"a", "b", "c"}}, {"a\u00A0b\nc d", {"a\u00A0b\nc", "d"}}, {" \t", {}}, {"", {}}};
-    for (const auto& [text, pieces] : cases) {
-        EXPECT_EQ(takenOff(text, takePiece), pieces) << text;
+    std::array<std::string_view, 2> pieces;
+    EXPECT_TRUE(splitAtBlanks(" a\t b  c\t", pieces));
+    EXPECT_EQ(Texts(pieces.begin(), pieces.end()), (Texts{"a", "b"}));
+    EXPECT_TRUE(splitAtBlanks("a\u00A0b\nc d", pieces));
+    EXPECT_EQ(Texts(pieces.begin(), pieces.end()), (Texts{"a\u00A0b\nc", "d"}));
+    for (const std::string_view tooFew : {" a ", " \t", ""}) {
+        EXPECT_FALSE(splitAtBlanks(tooFew, pieces)) << tooFew;
     }
 }
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Tallyrig/Log/ADIFRecordBuilder.h"
+
+#include <string_view>
+
+namespace tallyrig {
+
+/// Makes the records of a contest log from the columns of its lines; an empty column makes no field. Nearly
+/// every column is plain ASCII of a few characters, so each has a short way that asks nobody and gives the
+/// same as the long one.
+class ColumnRecordBuilder : public ADIFRecordBuilder {
+  public:
+    void addColumn(FieldTags::Number tag, std::string_view column) {
+        if (!column.empty()) {
+            addField(tag, column);
+        }
+    }
+    void addUpper(FieldTags::Number tag, std::string_view column);
+    /// As `timeOfColumn` has it.
+    void addTime(FieldTags::Number tag, std::string_view column);
+    /// A number without its leading zeros; 0 for what is no integer of 64 bits.
+    void addSerial(FieldTags::Number tag, std::string_view column);
+};
+
+/// The fields made of one column, kept for the next lines: a station stays on its frequency for a while, and
+/// on most days it makes more than one QSO.
+class RepeatedColumn {
+  public:
+    /// Adds to `builder`, always the same, what `add` adds to it for `column`, or added when it was last
+    /// called if that was for an equal column. `column` stays until the next call.
+    template <typename Add>
+    void addTo(ColumnRecordBuilder& builder, std::string_view column, const Add& add) {
+        if (isFilled && column == lastColumn) {
+            builder.addRun(fields);
+            return;
+        }
+        const std::size_t firstField = builder.fieldCount();
+        add(column);
+        builder.copyFields(firstField, fields);
+        lastColumn = column;
+        isFilled = true;
+    }
+
+  private:
+    bool isFilled = false;
+    std::string_view lastColumn;
+    ADIFRecordBuilder::Run fields;
+};
+
+}  // namespace tallyrig
