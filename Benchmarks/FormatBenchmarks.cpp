@@ -2,6 +2,7 @@
 // ("expats"), writing it beside a pass of memchr from tag to tag ("passes"), Cabrillo and EDI beside one from
 // line to line ("linePasses"); each is made in turns with the work in one run.
 
+#include "GeneratedLog.h"
 #include "Tallyrig/Formats/ADXParser.h"
 #include "Tallyrig/Formats/ADXWriter.h"
 #include "Tallyrig/Formats/CabrilloHeader.h"
@@ -71,12 +72,8 @@ void besideTheLinePass(benchmark::State& state, const std::string& text, std::si
     state.counters["megabytes"] = static_cast<double>(text.size()) / 1e6;
 }
 
-/// The generated log as a contest log with a serial number in each exchange, the case of most contests.
 ADIFDocument contestLog(std::size_t count) {
-    ADIFDocument document = ADIFParser::parse(logOf(count));
-    document.setColumn("STX_STRING", "0042", ColumnTarget::allRecords);
-    document.setColumn("SRX_STRING", "0815", ColumnTarget::allRecords);
-    return document;
+    return ADIFParser::parse(generatedContestLog(count));
 }
 
 CabrilloWriter cabrilloWriter(const ADIFDocument& document) {
@@ -100,17 +97,9 @@ void writingCabrillo(benchmark::State& state) {
 }
 BENCHMARK(writingCabrillo)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-/// The generated log with serial numbers as EDI has them.
-ADIFDocument serialLog(std::size_t count) {
-    ADIFDocument document = ADIFParser::parse(logOf(count));
-    document.setColumn("STX", "42", ColumnTarget::allRecords);
-    document.setColumn("SRX", "815", ColumnTarget::allRecords);
-    return document;
-}
-
 void readingEDI(benchmark::State& state) {
     const auto count = static_cast<std::size_t>(state.range(0));
-    const ADIFDocument document = serialLog(count);
+    const ADIFDocument document = contestLog(count);
     const std::string text = EDIWriter{EDIHeader::suggested(document)}.write(document);
     besideTheLinePass(state, text, count, [&] { benchmark::DoNotOptimize(EDIParser::parse(text)); });
 }
@@ -118,7 +107,7 @@ BENCHMARK(readingEDI)->Arg(1'000)->Arg(100'000)->UseManualTime()->Unit(benchmark
 
 void writingEDI(benchmark::State& state) {
     const auto count = static_cast<std::size_t>(state.range(0));
-    const ADIFDocument document = serialLog(count);
+    const ADIFDocument document = contestLog(count);
     const EDIWriter writer{EDIHeader::suggested(document)};
     const std::string text = writer.write(document);
     besideTheLinePass(state, text, count, [&] { benchmark::DoNotOptimize(writer.write(document)); });

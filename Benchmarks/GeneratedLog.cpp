@@ -49,6 +49,15 @@ constexpr std::array<std::string_view, 10> countries = {
 constexpr std::array<std::string_view, 10> operators = {"Jörg", "Anna", "Peter", "Karl", "Maria",
                                                         "Hans", "Eva",  "Paul",  "Otto", "Klaus"};
 
+std::string randomCall(Numbers& random, std::uint32_t country) {
+    const std::uint32_t digit = random.below(10);
+    std::string call = fmt::format("{}{}", prefixes[country], digit);
+    for (int letter = 0; letter < 3; ++letter) {
+        call += static_cast<char>('A' + random.below(26));
+    }
+    return call;
+}
+
 }  // namespace
 
 std::string generatedLog(std::size_t count) {
@@ -58,9 +67,7 @@ std::string generatedLog(std::size_t count) {
     for (std::size_t qso = 0; qso < count; ++qso) {
         const std::uint32_t country = random.below(10);
         const BandPlace& place = bands[random.below(8)];
-        const std::string call = fmt::format(
-            "{}{}{}{}{}", prefixes[country], random.below(10), static_cast<char>('A' + random.below(26)),
-            static_cast<char>('A' + random.below(26)), static_cast<char>('A' + random.below(26)));
+        const std::string call = randomCall(random, country);
         const std::string time =
             fmt::format("{:02}{:02}{:02}", random.below(24), random.below(60), random.below(60));
         append(text, "CALL", call);
@@ -84,6 +91,46 @@ std::string generatedLog(std::size_t count) {
         append(text, "STATION_CALLSIGN", "DL1ABC");
         append(text, "MY_GRIDSQUARE", "JO62qm");
         append(text, "QSL_SENT", "N");
+        text += "<EOR>\n";
+    }
+    return text;
+}
+
+std::string generatedContestLog(std::size_t count) {
+    constexpr std::size_t secondsOfDay = 86400;
+    Numbers random;
+    std::string text = "<ADIF_VER:5>3.1.7 <EOH>\n";
+    const BandPlace* place = nullptr;
+    std::string frequency;
+    std::string_view mode;
+    for (std::size_t qso = 0; qso < count; ++qso) {
+        if (place == nullptr || random.below(8) == 0) {
+            place = &bands[random.below(bands.size())];
+            frequency = fmt::format("{:.3f}", place->frequency + random.below(90) / 1000.0);
+            mode = random.below(4) == 0 ? "SSB" : "CW";
+        }
+        const std::string_view report = mode == "CW" ? "599" : "59";
+        const std::string sent = fmt::format("{:04}", qso + 1);
+        const std::string received = fmt::format("{:04}", 1 + random.below(3000));
+        const std::size_t second = qso * 2 * secondsOfDay / count;
+        append(text, "CALL", randomCall(random, random.below(10)));
+        append(text, "QSO_DATE", second < secondsOfDay ? "20240323" : "20240324");
+        append(text, "TIME_ON",
+               fmt::format("{:02}{:02}{:02}", second / 3600 % 24, second / 60 % 60, second % 60));
+        append(text, "BAND", place->band);
+        append(text, "FREQ", frequency);
+        append(text, "MODE", mode);
+        append(text, "RST_SENT", report);
+        append(text, "STX", std::to_string(qso + 1));
+        append(text, "STX_STRING", sent);
+        append(text, "RST_RCVD", report);
+        append(text, "SRX", std::to_string(std::stoi(received)));
+        append(text, "SRX_STRING", received);
+        append(text, "GRIDSQUARE", fmt::format("JO{}{}qm", random.below(10), random.below(10)));
+        append(text, "CONTEST_ID", "EXAMPLE-CONTEST");
+        append(text, "OPERATOR", "DL1ABC");
+        append(text, "STATION_CALLSIGN", "DL0ABC");
+        append(text, "MY_GRIDSQUARE", "JO62qm");
         text += "<EOR>\n";
     }
     return text;

@@ -9,4 +9,9 @@ namespace tallyrig::benchmarks {
 /// every tenth name with an umlaut. The same text on every run and machine.
 std::string generatedLog(std::size_t count);
 
+/// The log of one station in a contest of two days: `count` QSOs in the order of time, in CW and at times in
+/// SSB, a few one after the other on one frequency, with serial numbers both ways. The same text on every run
+/// and machine.
+std::string generatedContestLog(std::size_t count);
+
 }  // namespace tallyrig::benchmarks
