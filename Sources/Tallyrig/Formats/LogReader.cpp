@@ -6,6 +6,10 @@
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Text/Decoding.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 namespace tallyrig {
 
 namespace {
@@ -31,15 +35,39 @@ std::string_view withoutXMLDeclaration(std::string_view text) {
     return end == std::string_view::npos ? text : text.substr(end + 2);
 }
 
+/// Whether `text` has the first line of a Cabrillo log anywhere, in either case.
+bool hasStartOfLog(std::string_view text) {
+    constexpr std::string_view marker = "START-OF-LOG";
+    const auto found = std::ranges::search(
+        text, marker, [](char c, char m) { return c == m || (m != '-' && c == m - 'A' + 'a'); });
+    return !found.empty();
+}
+
+bool hasCalls(const ADIFDocument& document) {
+    return std::ranges::any_of(document.records(),
+                               [](const ADIFRecord& record) { return !record.valueOrEmpty("CALL").empty(); });
+}
+
+LogReader::Log logIn(std::string_view data, std::string_view dataForXML) {
+    const LogFormat format = LogFormatDetector::detect(data);
+    LogReader::Log log{format, parsed(format == LogFormat::adx ? dataForXML : data, format)};
+    if (format != LogFormat::cabrillo && !hasCalls(log.document) && hasStartOfLog(data)) {
+        // A log saved from a web page, whose tags make a record of their own, or with notes in front of it.
+        ADIFDocument wrapped = CabrilloParser::parse(data);
+        if (!wrapped.records().empty()) {
+            return {LogFormat::cabrillo, std::move(wrapped)};
+        }
+    }
+    return log;
+}
+
 }  // namespace
 
 LogReader::Log LogReader::read(std::string_view bytes) {
     if (const auto converted = text::fromUTF16(bytes)) {
-        const LogFormat format = LogFormatDetector::detect(*converted);
-        return {format, parsed(withoutXMLDeclaration(*converted), format)};
+        return logIn(*converted, withoutXMLDeclaration(*converted));
     }
-    const LogFormat format = LogFormatDetector::detect(bytes);
-    return {format, parsed(bytes, format)};
+    return logIn(bytes, bytes);
 }
 
 }  // namespace tallyrig
