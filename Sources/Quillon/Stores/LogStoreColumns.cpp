@@ -1,8 +1,8 @@
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
+#include "Tallyrig/Log/PerTag.h"
 #include "Tallyrig/Text/Text.h"
-#include "Tallyrig/Validation/PerTag.h"
 
 #include <algorithm>
 #include <cmath>

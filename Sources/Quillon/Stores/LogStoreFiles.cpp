@@ -142,7 +142,8 @@ void LogStore::write(const QString& path) {
 }
 
 QString LogStore::proposedName(const QString& extension) const {
-    const QString name = state.fileURL ? QFileInfo(*state.fileURL).completeBaseName() : QStringLiteral("Logbuch");
+    const QString name =
+        state.fileURL ? QFileInfo(*state.fileURL).completeBaseName() : QStringLiteral("Logbuch");
     return name + QLatin1Char('.') + extension;
 }
 

@@ -1,7 +1,7 @@
 #include "Quillon/Stores/RecordFilter.h"
 
+#include "Tallyrig/Log/PerTag.h"
 #include "Tallyrig/Text/Text.h"
-#include "Tallyrig/Validation/PerTag.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #include "Quillon/Stores/RecordOrder.h"
 
 #include "Quillon/Platform/NaturalOrder.h"
+#include "Tallyrig/Log/PerTag.h"
 #include "Tallyrig/Log/RecordSearch.h"
-#include "Tallyrig/Validation/PerTag.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "Tallyrig/Formats/CabrilloWriter.h"
 
 #include "Tallyrig/Formats/LogLines.h"
-#include "Tallyrig/Formats/RecordValues.h"
+#include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 

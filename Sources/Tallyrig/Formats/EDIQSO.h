@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Tallyrig/Formats/Locator.h"
-#include "Tallyrig/Formats/RecordValues.h"
 #include "Tallyrig/Log/ADIFRecord.h"
+#include "Tallyrig/Log/RecordValues.h"
 
 #include <cstdint>
 #include <optional>

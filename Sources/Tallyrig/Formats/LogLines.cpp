@@ -1,6 +1,6 @@
 #include "Tallyrig/Formats/LogLines.h"
 
-#include "Tallyrig/Formats/RecordValues.h"
+#include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "Tallyrig/Text/Text.h"

@@ -1,7 +1,7 @@
 #include "Tallyrig/Validation/DuplicateGroups.h"
 
+#include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Text/Text.h"
-#include "Tallyrig/Validation/RecordColumns.h"
 
 #include <bit>
 #include <cstdint>
@@ -21,16 +21,16 @@ class KeyReader {
   public:
     explicit KeyReader(const std::vector<std::string>& keyFields) {
         for (const std::string& field : keyFields) {
-            parts.push_back(columns.add(field));
+            parts.push_back(values.add(field));
         }
     }
 
     /// Whether the record has a key, which then is `key`.
     bool read(const ADIFRecord& record) {
-        columns.read(record);
+        values.read(record);
         key.clear();
         for (const std::size_t part : parts) {
-            const std::string_view value = columns.value(part);
+            const std::string_view value = values.trimmed(part);
             if (value.empty()) {
                 return false;
             }
@@ -43,7 +43,7 @@ class KeyReader {
     std::string key;
 
   private:
-    RecordColumns columns;
+    RecordValues values;
     std::vector<std::size_t> parts;
 };
 

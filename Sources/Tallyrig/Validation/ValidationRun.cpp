@@ -62,11 +62,11 @@ bool hasForm(ValueForm form, std::string_view value) {
 ValidationRun::ValidationRun(const ADIFValidator& settings, const ADIFRecordList& log)
     : validator(settings),
       records(log),
-      callColumn(columns.add("CALL")),
-      bandColumn(columns.add("BAND")),
-      frequencyColumn(columns.add("FREQ")) {
+      callColumn(values.add("CALL")),
+      bandColumn(values.add("BAND")),
+      frequencyColumn(values.add("FREQ")) {
     for (const std::string& field : validator.requiredFields) {
-        requiredColumns.push_back(columns.add(field));
+        requiredColumns.push_back(values.add(field));
     }
 }
 
@@ -76,7 +76,7 @@ std::vector<ValidationIssue> ValidationRun::issues() {
     }
     for (const ADIFRecord& record : records) {
         const std::size_t begin = found.size();
-        columns.read(record);
+        values.read(record);
         if (validator.checksRequiredFields) {
             checkRequiredFields();
         }
@@ -94,7 +94,7 @@ std::vector<ValidationIssue> ValidationRun::issues() {
 
 void ValidationRun::checkRequiredFields() {
     for (std::size_t position = 0; position < requiredColumns.size(); ++position) {
-        if (columns.value(requiredColumns[position]).empty()) {
+        if (values.trimmed(requiredColumns[position]).empty()) {
             add(finding::MissingRequiredField{validator.requiredFields[position]});
         }
     }
@@ -162,19 +162,19 @@ void ValidationRun::checkMembership(const FieldRule& rule, std::string_view valu
 }
 
 void ValidationRun::checkCallsign() {
-    const std::string_view call = columns.value(callColumn);
+    const std::string_view call = values.trimmed(callColumn);
     if (!call.empty() && !ADIFValidator::isPlausibleCallsign(call)) {
         add(finding::ImplausibleCallsign{std::string(call)});
     }
 }
 
 void ValidationRun::checkFrequency() {
-    const std::string_view frequency = columns.value(frequencyColumn);
+    const std::string_view frequency = values.trimmed(frequencyColumn);
     const auto megahertz = text::number(frequency);
     if (!megahertz) {
         return;
     }
-    const std::string_view band = columns.value(bandColumn);
+    const std::string_view band = values.trimmed(bandColumn);
     const BandRange* const range = ADIFSpec::bandFrequencies().find(text::upper(band));
     // Not a number is neither below nor above a band.
     if (range != nullptr && (*megahertz < range->lower || *megahertz > range->upper)) {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Tallyrig/Log/ADIFRecordList.h"
+#include "Tallyrig/Log/PerTag.h"
+#include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
 #include "Tallyrig/Validation/FieldRule.h"
-#include "Tallyrig/Validation/PerTag.h"
-#include "Tallyrig/Validation/RecordColumns.h"
 
 #include <cstddef>
 #include <memory>
@@ -47,7 +47,7 @@ class ValidationRun {
 
     const ADIFValidator& validator;
     const ADIFRecordList& records;
-    RecordColumns columns;
+    RecordValues values;
     std::vector<std::size_t> requiredColumns;  ///< By position in the required fields.
     std::size_t callColumn;
     std::size_t bandColumn;

@@ -1,4 +1,4 @@
-#include "Tallyrig/Formats/RecordValues.h"
+#include "Tallyrig/Log/RecordValues.h"
 
 #include "Tallyrig/Log/RecordSearch.h"
 
@@ -6,8 +6,23 @@
 
 namespace tallyrig {
 
-RecordValues::RecordValues(std::initializer_list<std::string_view> upperNames)
-    : names(upperNames), values(upperNames.size()) {}
+RecordValues::RecordValues(std::initializer_list<std::string_view> fieldNames) {
+    for (const std::string_view name : fieldNames) {
+        add(name);
+    }
+}
+
+std::size_t RecordValues::add(std::string_view name) {
+    const std::string upperName = text::upper(name);
+    const auto known =
+        std::ranges::find_if(names, [&](const std::string& other) { return text::equal(other, upperName); });
+    const auto index = static_cast<std::size_t>(known - names.begin());
+    if (known == names.end()) {
+        names.push_back(upperName);
+        values.emplace_back();
+    }
+    return index;
+}
 
 void RecordValues::read(const ADIFRecord& record) {
     std::ranges::fill(values, std::nullopt);
@@ -23,7 +38,8 @@ void RecordValues::read(const ADIFRecord& record) {
 }
 
 std::size_t RecordValues::indexOf(const FieldTag& tag) const {
-    const auto found = std::ranges::find_if(names, [&](std::string_view name) { return isNamed(tag, name); });
+    const auto found =
+        std::ranges::find_if(names, [&](const std::string& name) { return isNamed(tag, name); });
     return static_cast<std::size_t>(found - names.begin());
 }
 
