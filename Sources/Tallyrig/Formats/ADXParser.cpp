@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -53,13 +54,10 @@ using Elements = std::unordered_map<std::string, Element, SpellingHash, std::equ
 /// The attributes of one element.
 class Attributes {
   public:
-    /// Names and values in turns, behind them a null pointer.
-    void assign(const XML_Char** namesAndValues) {
-        count = 0;
-        for (; namesAndValues[0] != nullptr; namesAndValues += 2, ++count) {
-            if (count == entries.size()) {
-                entries.emplace_back();
-            }
+    /// `namesAndValues` holds `pairs` names and values in turns.
+    void assign(const XML_Char** namesAndValues, std::size_t pairs) {
+        entries.resize(std::max(entries.size(), pairs));
+        for (count = 0; count < pairs; ++count, namesAndValues += 2) {
             entries[count].name = namesAndValues[0];
             entries[count].value = namesAndValues[1];
         }
@@ -95,7 +93,8 @@ class Attributes {
 /// The state of one reading: outside, in the header or in a record. Nesting is not checked.
 class Builder {
   public:
-    void open(std::string_view name, const XML_Char** attributes) {
+    /// `attributes` holds `attributeCount` names and values in turns.
+    void open(std::string_view name, const XML_Char** attributes, std::size_t attributeCount) {
         buffer.clear();
         const Element& element = opened(name);
         switch (element.kind) {
@@ -104,14 +103,14 @@ class Builder {
                 break;
             case ElementKind::record:
                 inRecord = true;
-                dropFields();
+                record.dropFields();
                 break;
             case ElementKind::frame:
                 break;
             case ElementKind::application:
             case ElementKind::userDefined:
             case ElementKind::field:
-                leafAttributes.assign(attributes);
+                leafAttributes.assign(attributes, attributeCount);
                 break;
         }
     }
@@ -152,12 +151,6 @@ class Builder {
             latest = &*found;
         }
         return latest->second;
-    }
-
-    void dropFields() {
-        if (!record.isEmpty()) {
-            record.takeRecord();
-        }
     }
 
     void appendLeaf(std::string_view name, Element& element) {
@@ -225,43 +218,76 @@ class Builder {
     Elements::value_type* latest = nullptr;
 };
 
-void openElement(void* builder, const XML_Char* name, const XML_Char** attributes) {
-    static_cast<Builder*>(builder)->open(name, attributes);
-}
+/// One run of expat, which ends at the first thing that is no part of a log.
+class Run {
+  public:
+    Run() : parser(XML_ParserCreate(nullptr), XML_ParserFree) {
+        if (parser == nullptr) {
+            throw std::bad_alloc();
+        }
+        XML_SetUserData(parser.get(), this);
+        XML_SetElementHandler(parser.get(), openElement, closeElement);
+        XML_SetCharacterDataHandler(parser.get(), [](void* run, const XML_Char* characters, int size) {
+            static_cast<Run*>(run)->builder.take({characters, static_cast<std::size_t>(size)});
+        });
+        XML_SetEntityDeclHandler(
+            parser.get(),
+            [](void* run, const XML_Char*, int, const XML_Char*, int, const XML_Char*, const XML_Char*,
+               const XML_Char*, const XML_Char*) { static_cast<Run*>(run)->countDeclaration(); });
+        XML_SetAttlistDeclHandler(
+            parser.get(), [](void* run, const XML_Char*, const XML_Char*, const XML_Char*, const XML_Char*,
+                             int) { static_cast<Run*>(run)->countDeclaration(); });
+        XML_SetSkippedEntityHandler(parser.get(),
+                                    [](void* run, const XML_Char*, int) { static_cast<Run*>(run)->stop(); });
+    }
 
-void takeCharacters(void* builder, const XML_Char* characters, int size) {
-    static_cast<Builder*>(builder)->take({characters, static_cast<std::size_t>(size)});
-}
+    ADIFDocument documentOf(std::string_view data) {
+        // Expat counts bytes in an int.
+        constexpr std::size_t largestPiece = std::size_t{1} << 30;
+        bool isLast = false;
+        while (!isLast) {
+            const std::string_view piece = data.substr(0, largestPiece);
+            data.remove_prefix(piece.size());
+            isLast = data.empty();
+            if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()),
+                          isLast ? XML_TRUE : XML_FALSE) != XML_STATUS_OK) {
+                break;
+            }
+        }
+        return builder.document();
+    }
 
-void closeElement(void* builder, const XML_Char* name) {
-    static_cast<Builder*>(builder)->close(name);
-}
+  private:
+    static void openElement(void* data, const XML_Char* name, const XML_Char** attributes) {
+        auto* const run = static_cast<Run*>(data);
+        // Attributes that only a DTD has come behind those of the element: they could be any number for each.
+        const auto written = static_cast<std::size_t>(XML_GetSpecifiedAttributeCount(run->parser.get()));
+        run->builder.open(name, attributes, written / 2);
+    }
+
+    static void closeElement(void* data, const XML_Char* name) {
+        static_cast<Run*>(data)->builder.close(name);
+    }
+
+    /// Expat resolves entities within entities by calling itself, so that enough of them exhaust the stack.
+    void countDeclaration() {
+        constexpr std::size_t mostDeclarations = 500;
+        if (++declarations > mostDeclarations) {
+            stop();
+        }
+    }
+
+    void stop() { XML_StopParser(parser.get(), XML_FALSE); }
+
+    std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
+    Builder builder;
+    std::size_t declarations = 0;
+};
 
 }  // namespace
 
 ADIFDocument ADXParser::parse(std::string_view data) {
-    const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate(nullptr),
-                                                                              XML_ParserFree);
-    if (parser == nullptr) {
-        return {};
-    }
-    Builder builder;
-    XML_SetUserData(parser.get(), &builder);
-    XML_SetElementHandler(parser.get(), openElement, closeElement);
-    XML_SetCharacterDataHandler(parser.get(), takeCharacters);
-    // Expat counts bytes in an int.
-    constexpr std::size_t largestPiece = std::size_t{1} << 30;
-    bool isLast = false;
-    while (!isLast) {
-        const std::string_view piece = data.substr(0, largestPiece);
-        data.remove_prefix(piece.size());
-        isLast = data.empty();
-        if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()),
-                      isLast ? XML_TRUE : XML_FALSE) != XML_STATUS_OK) {
-            break;
-        }
-    }
-    return builder.document();
+    return Run().documentOf(data);
 }
 
 }  // namespace tallyrig

@@ -13,8 +13,9 @@ class ADXParser {
   public:
     /// The document in `data`, in any encoding that XML declares and expat knows: UTF-8, UTF-16, ISO 8859-1
     /// and US-ASCII. The comment is always empty. What is no well-formed XML ends the reading: the records
-    /// closed before that place are kept. Entities declared in the file are replaced as long as they do not
-    /// swell it out of proportion, external ones are left out and never fetched.
+    /// closed before that place are kept. So do an undefined entity, entities that swell the file out of
+    /// proportion and some hundred declarations of them. External entities are left out and never fetched,
+    /// and attributes that only a declaration gives to an element are not taken.
     static ADIFDocument parse(std::string_view data);
 };
 

@@ -45,7 +45,7 @@ ADIFRecord ADIFRecordBuilder::takeRecord() {
     }
     const UUID id = UUID::freshRun(entries.size() + 1);
     ADIFRecord record(allocator.allocate(id, entries, values, tags));
-    clear();
+    dropFields();
     return record;
 }
 
@@ -72,7 +72,7 @@ void ADIFRecordBuilder::decodeValues() {
     }
 }
 
-void ADIFRecordBuilder::clear() {
+void ADIFRecordBuilder::dropFields() {
     entries.clear();
     values.clear();
 }

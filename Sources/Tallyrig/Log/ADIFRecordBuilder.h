@@ -49,6 +49,8 @@ class ADIFRecordBuilder {
     /// Whether the record at hand has no fields.
     bool isEmpty() const { return entries.empty(); }
     std::size_t fieldCount() const { return entries.size(); }
+    /// Makes the record at hand one without fields.
+    void dropFields();
     /// The record of the fields added since the last one, with fresh ids; the next begins without fields.
     ADIFRecord takeRecord();
     /// The same fields standing on their own, for a header.
@@ -58,7 +60,6 @@ class ADIFRecordBuilder {
     static constexpr std::size_t longestValues = std::numeric_limits<std::uint32_t>::max();
 
     void decodeValues();
-    void clear();
 
     std::shared_ptr<FieldTags> tags;
     RecordAllocator allocator;

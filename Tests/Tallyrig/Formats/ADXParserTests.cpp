@@ -171,6 +171,46 @@ TEST(ADXEntities, AreReplacedOnlyFromWithin) {
     EXPECT_EQ(pairs(log.records()[0]), Pairs({{"CALL", "DL1ABC"}, {"NOTES", "ab"}}));
 }
 
+TEST(ADXEntities, EndTheReadingWhereTheyAreUndefined) {
+    for (const std::string_view documentType : {"", "<!DOCTYPE ADX SYSTEM \"adx.dtd\">"}) {
+        const ADIFDocument log =
+            ADXParser::parse(std::string(documentType) +
+                             "<ADX><RECORD><A>1</A></RECORD><RECORD><A>a&foo;b</A></RECORD></ADX>");
+        ASSERT_EQ(log.records().size(), 1U) << documentType;
+        EXPECT_EQ(pairs(log.records()[0]), Pairs({{"A", "1"}}));
+    }
+}
+
+TEST(ADXDeclarations, AreReadOnlyInReasonableNumber) {
+    // Each entity stands in the next: resolved one within the other they would exhaust the stack.
+    const auto chainOf = [](int length) {
+        std::string declarations = "<!ENTITY e0 \"x\">";
+        for (int level = 1; level <= length; ++level) {
+            declarations +=
+                "<!ENTITY e" + std::to_string(level) + " \"&e" + std::to_string(level - 1) + ";\">";
+        }
+        return ADXParser::parse("<!DOCTYPE ADX [" + declarations + "]><ADX><RECORD><A>&e" +
+                                std::to_string(length) + ";</A></RECORD></ADX>");
+    };
+    ASSERT_EQ(chainOf(100).records().size(), 1U);
+    EXPECT_EQ(chainOf(100).records()[0]["A"], "x");
+    EXPECT_TRUE(chainOf(100'000).records().empty());
+
+    std::string attributes;
+    for (int number = 0; number < 1000; ++number) {
+        attributes += " a" + std::to_string(number) + " CDATA \"x\"";
+    }
+    EXPECT_TRUE(ADXParser::parse("<!DOCTYPE ADX [<!ATTLIST A" + attributes +
+                                 ">]><ADX><RECORD><A>1</A></RECORD></ADX>")
+                    .records()
+                    .empty());
+    const ADIFDocument log = ADXParser::parse(
+        "<!DOCTYPE ADX [<!ATTLIST A TYPE CDATA \"S\">]>"
+        "<ADX><RECORD><A x=\"y\">1</A></RECORD></ADX>");
+    ASSERT_EQ(log.records().size(), 1U);
+    EXPECT_EQ(log.records()[0], ADIFRecord(Fields({ADIFField("A", "1")})));
+}
+
 TEST(ADXEntities, DoNotSwellWithoutBound) {
     std::string declarations = "<!ENTITY e0 \"0123456789\">";
     for (int level = 1; level <= 12; ++level) {
