@@ -67,11 +67,11 @@ std::string_view valueFor(const Pairs& pairs, const Key& key) {
 
 /// `kHz`, at least 1000, in MHz.
 std::string megahertz(std::int64_t kHz) {
-    constexpr std::int64_t highest = 1'000'000'000;
-    if (kHz > highest) {
+    constexpr std::int64_t highestExact = 1'000'000'000;
+    if (kHz > highestExact) {
+        // Floating point rounds such a number in a way of its own.
         return CabrilloParser::trimFreq(static_cast<double>(kHz) / 1000);
     }
-    // The same without the way through floating point, which would be the dearest step of all in a line.
     std::string text = std::to_string(kHz);
     text.insert(text.size() - 3, 1, '.');
     text.resize(text.find_last_not_of('0') + 1);
@@ -103,10 +103,17 @@ struct Station {
     std::string gridLocator;
 };
 
-/// Makes the records of one log, whose text stays meanwhile.
+/// Makes the records of one log. The lines given to it outlive it.
 class RecordMaker {
   public:
-    explicit RecordMaker(const Station& headerValues) : station(headerValues) {}
+    explicit RecordMaker(const Station& station) {
+        builder.addColumn(builder.tag("STATION_CALLSIGN"), station.callsign);
+        builder.addColumn(builder.tag("CONTEST_ID"), station.contest);
+        builder.addColumn(builder.tag("OPERATOR"), station.operators);
+        builder.addColumn(builder.tag("MY_GRIDSQUARE"), station.gridLocator);
+        builder.copyFields(0, stationFields);
+        builder.dropFields();
+    }
 
     /// The record of the line, absent if it has too few columns.
     std::optional<ADIFRecord> record(std::string_view line) {
@@ -134,23 +141,16 @@ class RecordMaker {
         if (text::isAllNumeric(columns[9])) {
             builder.addSerial(srx, columns[9]);
         }
-        // One and the same column in all lines.
-        stationFields.addTo(builder, {}, [this](std::string_view) {
-            builder.addColumn(stationCallsign, station.callsign);
-            builder.addColumn(contestID, station.contest);
-            builder.addColumn(operatorCall, station.operators);
-            builder.addColumn(myGridsquare, station.gridLocator);
-        });
+        builder.addRun(stationFields);
         return builder.takeRecord();
     }
 
   private:
-    const Station& station;
     std::array<std::string_view, 10> columns;  ///< Of the line at hand.
     RepeatedColumn places;
     RepeatedColumn modes;
     RepeatedColumn dates;
-    RepeatedColumn stationFields;
+    ADIFRecordBuilder::Run stationFields;  ///< At the end of every record.
     ColumnRecordBuilder builder;
     FieldTags::Number freq = builder.tag("FREQ");
     FieldTags::Number band = builder.tag("BAND");
@@ -163,10 +163,6 @@ class RecordMaker {
     FieldTags::Number rstRcvd = builder.tag("RST_RCVD");
     FieldTags::Number srxString = builder.tag("SRX_STRING");
     FieldTags::Number srx = builder.tag("SRX");
-    FieldTags::Number stationCallsign = builder.tag("STATION_CALLSIGN");
-    FieldTags::Number contestID = builder.tag("CONTEST_ID");
-    FieldTags::Number operatorCall = builder.tag("OPERATOR");
-    FieldTags::Number myGridsquare = builder.tag("MY_GRIDSQUARE");
 };
 
 /// Takes a header line; of a tag seen twice the later value holds.

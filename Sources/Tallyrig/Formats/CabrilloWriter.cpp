@@ -182,18 +182,18 @@ void appendHeader(std::string& text, const CabrilloHeader& header) {
 }  // namespace
 
 std::string CabrilloWriter::write(const ADIFDocument& document) const {
-    CabrilloHeader shown = header;
-    if (shown.callsign.empty()) {
-        shown.callsign = CabrilloHeader::suggested(document).callsign;
+    CabrilloHeader completed = header;
+    if (completed.callsign.empty()) {
+        completed.callsign = CabrilloHeader::suggested(document).callsign;
     }
-    if (shown.operators.empty()) {
-        shown.operators = shown.callsign;
+    if (completed.operators.empty()) {
+        completed.operators = completed.callsign;
     }
     std::string text;
     constexpr std::size_t usualLineLength = 88;
-    text.reserve(1024 + shown.soapbox.size() + document.records().size() * usualLineLength);
-    appendHeader(text, shown);
-    QSOLines lines(shown, shown.callsign);
+    text.reserve(1024 + completed.soapbox.size() + document.records().size() * usualLineLength);
+    appendHeader(text, completed);
+    QSOLines lines(completed, completed.callsign);
     for (const ADIFRecord& record : inTimeOrder(document.records())) {
         lines.append(text, record);
         text += lineEnd;
@@ -213,9 +213,7 @@ std::string CabrilloWriter::cabrilloFrequency(std::optional<std::string_view> fr
                                               std::optional<std::string_view> band) {
     const std::optional<double> mhz = freq ? text::number(*freq) : std::nullopt;
     if (mhz) {
-        const double kHz = std::round(*mhz * 1000);
-        constexpr double limit = 0x1p63;  // the first number that an integer of 64 bits does not hold
-        return kHz > -limit && kHz < limit ? std::to_string(static_cast<std::int64_t>(kHz)) : "0";
+        return std::to_string(text::wholeNumber(std::round(*mhz * 1000)).value_or(0));
     }
     const auto* const known =
         std::ranges::find(bandFrequencies, text::upper(band.value_or(std::string_view())),

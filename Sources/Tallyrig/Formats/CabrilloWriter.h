@@ -22,8 +22,8 @@ struct CabrilloWriter {
     /// One QSO line, without line end; `myCall` is the sent call.
     std::string qsoLine(const ADIFRecord& record, std::string_view myCall) const;
 
-    /// In whole kHz: `freq` (in MHz) if it is a number, otherwise the lower end of `band`. "0" where neither
-    /// helps and for a number beyond all frequencies.
+    /// In whole kHz: `freq` (in MHz) if it is a number, otherwise the frequency that stands for `band`. "0"
+    /// where neither helps and for a number beyond all frequencies.
     static std::string cabrilloFrequency(std::optional<std::string_view> freq,
                                          std::optional<std::string_view> band);
     static std::string cabrilloMode(std::optional<std::string_view> mode);

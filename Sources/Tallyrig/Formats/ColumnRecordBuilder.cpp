@@ -17,6 +17,7 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+/// ASCII that stays as it is in upper case.
 bool isUpperASCII(char c) {
     return static_cast<unsigned char>(c) < 0x80 && !(c >= 'a' && c <= 'z');
 }

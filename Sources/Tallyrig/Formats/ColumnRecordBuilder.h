@@ -6,9 +6,8 @@
 
 namespace tallyrig {
 
-/// Makes the records of a contest log from the columns of its lines; an empty column makes no field. Nearly
-/// every column is plain ASCII of a few characters, so each has a short way that asks nobody and gives the
-/// same as the long one.
+/// Makes the records of a contest log from the columns of its lines. An empty column makes no field. Plain
+/// ASCII, as nearly every column is, is handled without the Unicode tables, with the same result.
 class ColumnRecordBuilder : public ADIFRecordBuilder {
   public:
     void addColumn(FieldTags::Number tag, std::string_view column) {
@@ -19,7 +18,7 @@ class ColumnRecordBuilder : public ADIFRecordBuilder {
     void addUpper(FieldTags::Number tag, std::string_view column);
     /// As `timeOfColumn` has it.
     void addTime(FieldTags::Number tag, std::string_view column);
-    /// A number without its leading zeros; 0 for what is no integer of 64 bits.
+    /// A number without its leading zeros; 0 for what is no integer of 64 bits, nothing for nothing.
     void addSerial(FieldTags::Number tag, std::string_view column);
 };
 
@@ -27,8 +26,8 @@ class ColumnRecordBuilder : public ADIFRecordBuilder {
 /// on most days it makes more than one QSO.
 class RepeatedColumn {
   public:
-    /// Adds to `builder`, always the same, what `add` adds to it for `column`, or added when it was last
-    /// called if that was for an equal column. `column` stays until the next call.
+    /// Adds to `builder` the fields of `column`: calls `add` for them, or adds once more those of the last
+    /// call if it was for an equal column. `builder` is always the same; `column` stays until the next call.
     template <typename Add>
     void addTo(ColumnRecordBuilder& builder, std::string_view column, const Add& add) {
         if (isFilled && column == lastColumn) {

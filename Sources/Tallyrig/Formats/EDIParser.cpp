@@ -4,7 +4,6 @@
 #include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/LogLines.h"
 #include "Tallyrig/Text/Characters.h"
-#include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -58,14 +57,18 @@ class Header {
     std::array<std::optional<std::string_view>, names.size()> values;
 };
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-/// Makes the records of one file, whose text stays meanwhile.
+/// Makes the records of one file. The lines given to it outlive it.
 class QSOReading {
   public:
-    explicit QSOReading(const EDIParser::CommonValues& commonValues) : common(commonValues) {}
+    explicit QSOReading(const EDIParser::CommonValues& common) : century(common.century) {
+        builder.addColumn(builder.tag("BAND"), common.band);
+        builder.addColumn(builder.tag("STATION_CALLSIGN"), common.myCall);
+        builder.addColumn(builder.tag("MY_GRIDSQUARE"), common.myLoc);
+        builder.addColumn(builder.tag("CONTEST_ID"), common.contest);
+        builder.addColumn(builder.tag("OPERATOR"), common.operators);
+        builder.copyFields(0, commonFields);
+        builder.dropFields();
+    }
 
     std::optional<ADIFRecord> record(std::string_view line) {
         if (!split(line)) {
@@ -80,7 +83,7 @@ class QSOReading {
         builder.addColumn(rstRcvd, columns[6]);
         builder.addSerial(srx, columns[7]);
         builder.addUpper(gridsquare, columns[9]);
-        addCommonValues();
+        builder.addRun(commonFields);
         // Never without fields: a mode is always there.
         return builder.takeRecord();
     }
@@ -93,19 +96,14 @@ class QSOReading {
     /// Finds the columns of `line`, trimmed; those behind its end are empty. False if there are too few.
     bool split(std::string_view line) {
         constexpr std::size_t fewest = 4;
-        const char* begin = line.data();
-        const char* const end = begin + line.size();
         std::size_t count = 0;
-        for (const char* at = begin; count < columns.size(); ++at) {
-            if (at == end || *at == ';') {
-                columns[count++] = trimmed({begin, static_cast<std::size_t>(at - begin)});
-                begin = at + 1;
-            }
-            if (at == end) {
-                break;
-            }
+        for (bool isLast = false; !isLast && count < columns.size();) {
+            const std::size_t end = std::min(line.find(';'), line.size());
+            columns[count++] = trimmed(line.substr(0, end));
+            isLast = end == line.size();
+            line.remove_prefix(isLast ? end : end + 1);
         }
-        std::fill(columns.begin() + count, columns.end(), std::string_view());
+        std::fill(columns.begin() + static_cast<std::ptrdiff_t>(count), columns.end(), std::string_view());
         return count >= fewest;
     }
 
@@ -118,25 +116,14 @@ class QSOReading {
 
     void addDate(std::string_view date) {
         dates.addTo(builder, date, [this](std::string_view column) {
-            builder.addColumn(qsoDate, EDIParser::adifDate(column, common.century));
+            builder.addColumn(qsoDate, EDIParser::adifDate(column, century));
         });
     }
 
-    void addCommonValues() {
-        // One and the same column in all lines.
-        commonFields.addTo(builder, {}, [this](std::string_view) {
-            builder.addColumn(band, common.band);
-            builder.addColumn(stationCallsign, common.myCall);
-            builder.addColumn(myGridsquare, common.myLoc);
-            builder.addColumn(contestID, common.contest);
-            builder.addColumn(operatorField, common.operators);
-        });
-    }
-
-    const EDIParser::CommonValues& common;
+    const std::string century;
     Columns columns;  ///< Of the line at hand.
     RepeatedColumn dates;
-    RepeatedColumn commonFields;
+    ADIFRecordBuilder::Run commonFields;  ///< At the end of every record.
     ColumnRecordBuilder builder;
     const FieldTags::Number qsoDate = builder.tag("QSO_DATE");
     const FieldTags::Number timeOn = builder.tag("TIME_ON");
@@ -147,11 +134,6 @@ class QSOReading {
     const FieldTags::Number rstRcvd = builder.tag("RST_RCVD");
     const FieldTags::Number srx = builder.tag("SRX");
     const FieldTags::Number gridsquare = builder.tag("GRIDSQUARE");
-    const FieldTags::Number band = builder.tag("BAND");
-    const FieldTags::Number stationCallsign = builder.tag("STATION_CALLSIGN");
-    const FieldTags::Number myGridsquare = builder.tag("MY_GRIDSQUARE");
-    const FieldTags::Number contestID = builder.tag("CONTEST_ID");
-    const FieldTags::Number operatorField = builder.tag("OPERATOR");
 };
 
 }  // namespace
@@ -183,8 +165,8 @@ ADIFDocument EDIParser::parse(std::string_view data) {
     return {"", {}, std::move(records)};
 }
 
-std::optional<ADIFRecord> EDIParser::record(std::string_view from, const CommonValues& common) {
-    return QSOReading(common).record(from);
+std::optional<ADIFRecord> EDIParser::record(std::string_view line, const CommonValues& common) {
+    return QSOReading(common).record(line);
 }
 
 std::string EDIParser::adifBand(std::string_view ediBand) {
@@ -207,8 +189,8 @@ std::string EDIParser::operators(std::span<const std::string_view> calls) {
     return list;
 }
 
-std::string EDIParser::century(std::optional<std::string_view> fromTDate) {
-    const std::string_view dates = text::trimmedOfBlanks(fromTDate.value_or(std::string_view()));
+std::string EDIParser::century(std::optional<std::string_view> tDate) {
+    const std::string_view dates = text::trimmedOfBlanks(tDate.value_or(std::string_view()));
     const std::string digits = numericCharacters(dates.substr(0, dates.find(';')));
     return text::characterCount(digits) > 3 ? std::string(firstCharacters(digits, 2)) : "20";
 }
@@ -230,8 +212,9 @@ std::string_view EDIParser::adifMode(std::string_view code) {
     constexpr std::array<std::string_view, 10> modes = {"SSB", "SSB", "CW",  "SSB",  "SSB",
                                                         "AM",  "FM",  "FT8", "RTTY", "SSTV"};
     const std::string_view digit = text::trimmedOfBlanks(code);
-    return digit.size() == 1 && isDigit(digit.front()) ? modes[static_cast<std::size_t>(digit.front() - '0')]
-                                                       : "SSB";
+    return digit.size() == 1 && digit.front() >= '0' && digit.front() <= '9'
+               ? modes[static_cast<std::size_t>(digit.front() - '0')]
+               : "SSB";
 }
 
 }  // namespace tallyrig

@@ -28,14 +28,14 @@ struct EDIParser {
 
     /// The record of one line of the QSO section. Absent for a line of fewer than four columns; a call is not
     /// asked for.
-    static std::optional<ADIFRecord> record(std::string_view from, const CommonValues& common);
+    static std::optional<ADIFRecord> record(std::string_view line, const CommonValues& common);
 
     /// The ADIF band of an EDI band name in any case; any other text trimmed, as it is written.
     static std::string adifBand(std::string_view ediBand);
     /// The calls in their order, trimmed and in upper case, separated by commas; empty ones are left out.
     static std::string operators(std::span<const std::string_view> calls);
     /// The first two digits of the contest's first day, "20" where `tDate` has no year of four digits.
-    static std::string century(std::optional<std::string_view> fromTDate);
+    static std::string century(std::optional<std::string_view> tDate);
     /// The digits of "YYMMDD" with the century in front, any other number of digits as they are.
     static std::string adifDate(std::string_view ediDate, std::string_view century);
     /// The digits of "HHMM" with "00" behind, any other number of digits as they are.

@@ -74,7 +74,7 @@ std::string_view EDIQSO::country() const {
 
 std::int64_t EDIQSO::km(const std::optional<Coordinate>& myPlace) const {
     if (const auto logged = text::number(values.valueOrEmpty(distance))) {
-        const auto whole = wholeNumber(std::trunc(*logged));
+        const auto whole = text::wholeNumber(std::trunc(*logged));
         return whole ? *whole + 1 : 0;
     }
     const auto place = maidenheadToCoordinate(gridsquare());
@@ -94,20 +94,15 @@ void EDIQSO::appendLine(std::string& text, std::string_view rcvdWWL, std::string
     append(EDIWriter::ediMode(values[mode]));
     append(report(values.valueOrEmpty(rstSent)));
     appendSentNumber(text, values.valueOrEmpty(stx));
-    append("");
+    text += ';';
     append(report(values.valueOrEmpty(rstRcvd)));
     append(EDIWriter::serialFromExchange(exchange.empty() ? values.valueOrEmpty(srx) : exchange));
-    append("");
+    append("");  // the exchange received, which is not kept apart from its number
     append(rcvdWWL);
     append(points);
     // New exchange, new locator, new country: for the evaluator to find.
     text += ";;;";
     text += dupl;
-}
-
-std::optional<std::int64_t> wholeNumber(double whole) {
-    constexpr double limit = 0x1p63;
-    return std::abs(whole) < limit ? std::optional(static_cast<std::int64_t>(whole)) : std::nullopt;
 }
 
 }  // namespace tallyrig

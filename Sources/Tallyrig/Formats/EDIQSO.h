@@ -25,17 +25,14 @@ class EDIQSO {
     std::string_view gridsquare() const;
     std::string_view country() const;
 
-    /// `EDIWriter::qrbKm`.
+    /// The kilometres that the QSO counts from `myPlace`, as `EDIWriter::qrbKm` explains.
     std::int64_t km(const std::optional<Coordinate>& myPlace) const;
-    /// Appends `EDIWriter::qsoLine`.
+    /// Appends the line of the QSO, as `EDIWriter::qsoLine` explains.
     void appendLine(std::string& text, std::string_view rcvdWWL, std::string_view points,
                     std::string_view dupl) const;
 
   private:
     RecordValues values;
 };
-
-/// `whole`, which has no fraction, in 64 bits; absent for infinity, not-a-number and what lies beyond.
-std::optional<std::int64_t> wholeNumber(double whole);
 
 }  // namespace tallyrig

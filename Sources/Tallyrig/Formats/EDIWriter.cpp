@@ -122,7 +122,7 @@ class Claim {
                 break;
         }
         const auto value = text::number(record.valueOrEmpty(header.pointsField));
-        return value ? std::optional(wholeNumber(std::round(*value)).value_or(0)) : std::nullopt;
+        return value ? std::optional(text::wholeNumber(std::round(*value)).value_or(0)) : std::nullopt;
     }
 
     const EDIHeader& header;

@@ -51,7 +51,7 @@ bool hasCalls(const ADIFDocument& document) {
 LogReader::Log logIn(std::string_view data, std::string_view dataForXML) {
     const LogFormat format = LogFormatDetector::detect(data);
     LogReader::Log log{format, parsed(format == LogFormat::adx ? dataForXML : data, format)};
-    if (format != LogFormat::cabrillo && !hasCalls(log.document) && hasStartOfLog(data)) {
+    if (format == LogFormat::adif && !hasCalls(log.document) && hasStartOfLog(data)) {
         // A log saved from a web page, whose tags make a record of their own, or with notes in front of it.
         ADIFDocument wrapped = CabrilloParser::parse(data);
         if (!wrapped.records().empty()) {

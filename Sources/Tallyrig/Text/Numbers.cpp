@@ -119,4 +119,9 @@ std::optional<double> number(std::string_view text) {
     return signedValue(value);
 }
 
+std::optional<std::int64_t> wholeNumber(double number) {
+    constexpr double limit = 0x1p63;
+    return std::abs(number) < limit ? std::optional(static_cast<std::int64_t>(number)) : std::nullopt;
+}
+
 }  // namespace tallyrig::text

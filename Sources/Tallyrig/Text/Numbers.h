@@ -16,4 +16,7 @@ std::optional<std::int64_t> integer(std::string_view text);
 /// anything else.
 std::optional<double> number(std::string_view text);
 
+/// `number`, which has no fraction, in 64 bits; absent for infinity, not-a-number and what lies beyond.
+std::optional<std::int64_t> wholeNumber(double number);
+
 }  // namespace tallyrig::text

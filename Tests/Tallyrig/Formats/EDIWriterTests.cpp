@@ -259,6 +259,16 @@ TEST(EDIQSOLine, HasFifteenColumns) {
     }
 }
 
+TEST(EDIDuplicates, AreTheSameCallOnTheSameBandAgain) {
+    const std::vector<ADIFRecord> records = {
+        record({{"CALL", "ok1abc"}, {"BAND", "2M"}}),   record({{"CALL", "OK1ABC"}, {"BAND", "70CM"}}),
+        record({{"CALL", "OK1ABC"}, {"BAND", "2m"}}),   record({{"CALL", "OK1ABC"}, {"BAND", "2M"}}),
+        record({{"CALL", "OK2ABC"}, {"BAND", "2M"}}),   record({}),
+        record({{"CALL", "OK1ABC"}, {"BAND", "70CM"}}), record({{"MODE", "CW"}})};
+    EXPECT_EQ(EDIWriter::computeDupes(records),
+              (std::vector<bool>{false, false, false, true, false, false, true, true}));
+}
+
 TEST(EDIQSOLine, TakesTheLastNumberOfAnExchange) {
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"", ""},          {"  \t", ""},       {"123", "123"},  {"JO62 123", "123"}, {"123 JO62", "123"},

@@ -56,8 +56,8 @@ TEST(LogReader, FindsACabrilloLogFurtherDown) {
         "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>Log: DL2AB</title>"
         "</head>\n<body style=\"color:5\"><pre>" +
         log + "</pre><a href=\"https://example.org:80/\">x</a></body></html>\n";
-    for (const std::string& text : {"# sent by mail\n# on 2024-03-05\n" + log, page,
-                                    "<?xml version=\"1.0\"?>" + page, std::string(3000, '\n') + log}) {
+    for (const std::string& text :
+         {"# sent by mail\n# on 2024-03-05\n" + log, page, std::string(3000, '\n') + log}) {
         for (const std::string& bytes : {text, inUTF16(text, true)}) {
             const LogReader::Log found = LogReader::read(bytes);
             EXPECT_EQ(found.format, LogFormat::cabrillo) << text;
@@ -67,6 +67,7 @@ TEST(LogReader, FindsACabrilloLogFurtherDown) {
     }
     // A log that is read as it is keeps its format.
     EXPECT_EQ(LogReader::read("<CALL:5>DL1AB<COMMENT:12>START-OF-LOG<EOR>\n" + log).format, LogFormat::adif);
+    EXPECT_EQ(LogReader::read("[REG1TEST;1]\n" + log).format, LogFormat::edi);
     EXPECT_EQ(LogReader::read("# START-OF-LOG: has no QSOs").format, LogFormat::adif);
 }
 
