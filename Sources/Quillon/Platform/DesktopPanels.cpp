@@ -1,12 +1,15 @@
 #include "Quillon/Platform/DesktopPanels.h"
 
 #include "Quillon/Platform/BusyCursor.h"
+#include "Quillon/Platform/FileNames.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHash>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QStringList>
 
 namespace quillon {
@@ -62,6 +65,19 @@ QString firstExtension(const QList<FileType>& types) {
     return {};
 }
 
+bool mayReplace(const QString& path) {
+    QMessageBox question(QMessageBox::Warning, QStringLiteral("Speichern unter"),
+                         QStringLiteral("„%1“ ist schon vorhanden.\nSoll die Datei ersetzt werden?")
+                             .arg(QFileInfo(path).fileName()),
+                         QMessageBox::NoButton, QApplication::activeWindow());
+    question.setTextFormat(Qt::PlainText);
+    const QPushButton* const replace =
+        question.addButton(QStringLiteral("Ersetzen"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(question.addButton(QStringLiteral("Abbrechen"), QMessageBox::RejectRole));
+    question.exec();
+    return question.clickedButton() == replace;
+}
+
 std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
@@ -89,9 +105,18 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(types));
-    dialog.setDefaultSuffix(firstExtension(types));
     dialog.selectFile(proposedName);
-    return choice(dialog, folder);
+    while (true) {
+        const auto path = choice(dialog, folder);
+        if (!path || !extensionOf(*path).isEmpty() || QFileInfo::exists(*path)) {
+            return path;
+        }
+        // The dialogs of some desktops would add the extension without asking about the file of that name.
+        const QString fullPath = *path + QLatin1Char('.') + firstExtension(types);
+        if (!QFileInfo::exists(fullPath) || mayReplace(fullPath)) {
+            return fullPath;
+        }
+    }
 }
 
 }  // namespace quillon

@@ -1,3 +1,4 @@
+#include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
@@ -26,7 +27,7 @@ std::string textFor(const QString& path, const ADIFDocument& document, const Set
     const std::string version = isBlank ? "3.1.7" : stored;
     const bool writeHeader = settings.boolean(setting::writeHeaderOnSave, true);
     const std::string programVersion = appVersion().toStdString();
-    if (QFileInfo(path).suffix().toLower() == QLatin1String("adx")) {
+    if (extensionOf(path).toLower() == QLatin1String("adx")) {
         return tallyrig::ADXWriter{"Quillon", programVersion, version, writeHeader}.write(document);
     }
     return tallyrig::ADIFWriter{"Quillon", programVersion, version, writeHeader}.write(document);
@@ -83,13 +84,13 @@ void LogStore::newLog() {
 
 void LogStore::open(const QString& path) {
     const Operation operation(*this);
-    const QString absolutePath = QFileInfo(path).absoluteFilePath();
-    const auto content = readFile(absolutePath.toStdString());
+    const QString fullPath = absolutePath(path);
+    const auto content = readFile(fullPath.toStdString());
     if (const auto* error = std::get_if<FileError>(&content)) {
         state.errorMessage = failure(QStringLiteral("Datei konnte nicht geöffnet werden:"), *error);
         return;
     }
-    showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, absolutePath);
+    showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, fullPath);
     autoFitColumns();
 }
 
@@ -106,7 +107,7 @@ void LogStore::openFromCommandLineIfNeeded(const QStringList& arguments) {
     for (qsizetype index = 0; index < arguments.size(); ++index) {
         // What follows the word is the folder of a cross-check.
         const bool belongsToOther = index > 0 && arguments[index - 1] == QLatin1String("--crosscheck");
-        if (!belongsToOther && QFileInfo::exists(arguments[index])) {
+        if (!belongsToOther && QFileInfo::exists(absolutePath(arguments[index]))) {
             open(arguments[index]);
             return;
         }
@@ -131,20 +132,19 @@ void LogStore::saveWithPanel() {
 
 void LogStore::write(const QString& path) {
     const Operation operation(*this);
-    const QString absolutePath = QFileInfo(path).absoluteFilePath();
-    const std::string content = textFor(absolutePath, state.document, settings);
-    if (const auto error = replaceFile(absolutePath.toStdString(), content)) {
+    const QString fullPath = absolutePath(path);
+    const std::string content = textFor(fullPath, state.document, settings);
+    if (const auto error = replaceFile(fullPath.toStdString(), content)) {
         state.errorMessage = failure(QStringLiteral("Speichern fehlgeschlagen:"), *error);
         return;
     }
-    state.fileURL = absolutePath;
+    state.fileURL = fullPath;
     state.isDirty = false;
 }
 
 QString LogStore::proposedName(const QString& extension) const {
-    const QString name =
-        state.fileURL ? QFileInfo(*state.fileURL).completeBaseName() : QStringLiteral("Logbuch");
-    return name + QLatin1Char('.') + extension;
+    return (state.fileURL ? nameWithoutExtension(*state.fileURL) : QStringLiteral("Logbuch")) +
+           QLatin1Char('.') + extension;
 }
 
 void LogStore::saveAsADX() {
@@ -163,7 +163,7 @@ void LogStore::exportText(const std::string& text, const FileType& type, const Q
         return;
     }
     const Operation operation(*this);
-    if (const auto error = replaceFile(QFileInfo(*path).absoluteFilePath().toStdString(), text)) {
+    if (const auto error = replaceFile(absolutePath(*path).toStdString(), text)) {
         state.errorMessage = failure(failurePrefix, *error);
     }
 }

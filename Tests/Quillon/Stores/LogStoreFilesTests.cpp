@@ -135,6 +135,13 @@ TEST_F(CommandLine, DoesNothingOnceALogIsOpenAndMakesPathsAbsolute) {
     folder.write("a.adi", adi({"CALL=A"}));
     store.openFromCommandLineIfNeeded({QDir::current().relativeFilePath(folder.path("a.adi"))});
     EXPECT_EQ(store.fileURL(), folder.path("a.adi"));
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path(".")));
+    std::filesystem::copy_file("a.adi", ":a.adi");
+    LogStore other(settings, panels, measurer);
+    other.openFromCommandLineIfNeeded({":a.adi"});
+    QDir::setCurrent(before);
+    EXPECT_EQ(other.document().records().size(), 1U);
     store.openFromCommandLineIfNeeded({folder.write("b.adi", adi({"CALL=B"}))});
     EXPECT_EQ(shown(), "A");
 }

@@ -60,6 +60,24 @@ TEST_F(OtherFormats, SavingAsADXMakesThatTheFileOfTheLog) {
     EXPECT_EQ(error(), "(none)") << "to cancel is no failure";
 }
 
+TEST_F(OtherFormats, TakeTheirExtensionFromBehindAName) {
+    settings.setValue("writeHeaderOnSave", false);
+    struct Case {
+        const char* name;
+        const char* start;
+        const char* proposed;
+    };
+    for (const Case& c : {Case{"a.b.adx", "<?xml", "a.b.edi"}, Case{".adx", "<CALL", ".adx.edi"},
+                          Case{"Mr. Smith", "<CALL", "Mr. Smith.edi"}}) {
+        openLog({"CALL=DL1ABC"});
+        panels.answers = {folder.path(QString::fromUtf8(c.name))};
+        store.saveWithPanel();
+        EXPECT_TRUE(saved(QString::fromUtf8(c.name)).starts_with(c.start)) << c.name;
+        store.exportEDI({});
+        EXPECT_EQ(panels.proposedNames.last(), c.proposed);
+    }
+}
+
 TEST_F(OtherFormats, ExportsLeaveTheLogAndItsFileAlone) {
     openLog({"CALL=DL1ABC QSO_DATE=20240115 TIME_ON=123456 GRIDSQUARE=JO62"});
     type(0, "CALL", "K1XYZ");
