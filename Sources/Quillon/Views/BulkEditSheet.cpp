@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <limits>
 #include <utility>
 
 namespace quillon {
@@ -119,6 +120,9 @@ QWidget* BulkEditSheet::makeForm() {
     auto* hint = noteLabel(help.hint, form);
     find = new QLineEdit(form);
     replacement = new QLineEdit(form);
+    for (QLineEdit* field : {value, find, replacement}) {
+        field->setMaxLength(std::numeric_limits<int>::max());
+    }
 
     auto* layout = new QFormLayout(form);
     layout->setContentsMargins(0, 0, 0, 0);

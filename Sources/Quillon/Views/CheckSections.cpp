@@ -87,7 +87,7 @@ SidebarSection* CheckSections::exporting() {
     auto* section = new SidebarSection(QStringLiteral("Export"), this);
     const auto add = [this, section](const QString& title, auto&& run) {
         auto* button = new QPushButton(icon(QStringLiteral("document-export")), title, section);
-        connect(button, &QPushButton::clicked, &store, run);
+        connect(button, &QPushButton::clicked, this, run);
         section->add(button);
     };
     add(QStringLiteral("ADIF (.adi) …"), [this] { store.saveWithPanel(); });

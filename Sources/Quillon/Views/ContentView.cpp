@@ -238,6 +238,8 @@ void ContentView::followStore() {
     showTitle();
     showResults();
     showBulkEdit();
+    showCabrilloExport();
+    showEDIExport();
 }
 
 void ContentView::comeUp() {
@@ -280,36 +282,44 @@ void ContentView::showResults() {
 }
 
 void ContentView::showBulkEdit() {
-    if (bulkEdit) {
-        disconnect(bulkEdit, nullptr, this, nullptr);
-        bulkEdit->close();
-    }
+    closeSheet(bulkEdit);
     if (logStore.bulkEditColumn()) {
-        bulkEdit = new BulkEditSheet(logStore, *logStore.bulkEditColumn(), this);
-        bulkEdit->setAttribute(Qt::WA_DeleteOnClose);
-        connect(bulkEdit, &QDialog::finished, this, [this] {
-            bulkEdit.clear();
-            logStore.setBulkEditColumn(std::nullopt);
-        });
-        bulkEdit->open();
+        openSheet(bulkEdit, new BulkEditSheet(logStore, *logStore.bulkEditColumn(), this),
+                  [this] { logStore.setBulkEditColumn(std::nullopt); });
     }
 }
 
 void ContentView::showCabrilloExport() {
+    closeSheet(cabrilloExport);
     if (logStore.showCabrilloExport()) {
-        auto* sheet = new CabrilloExportSheet(logStore, this);
-        sheet->setAttribute(Qt::WA_DeleteOnClose);
-        connect(sheet, &QDialog::finished, this, [this] { logStore.setShowCabrilloExport(false); });
-        sheet->open();
+        openSheet(cabrilloExport, new CabrilloExportSheet(logStore, this),
+                  [this] { logStore.setShowCabrilloExport(false); });
     }
 }
 
 void ContentView::showEDIExport() {
+    closeSheet(ediExport);
     if (logStore.showEDIExport()) {
-        auto* sheet = new EDIExportSheet(logStore, this);
-        sheet->setAttribute(Qt::WA_DeleteOnClose);
-        connect(sheet, &QDialog::finished, this, [this] { logStore.setShowEDIExport(false); });
-        sheet->open();
+        openSheet(ediExport, new EDIExportSheet(logStore, this),
+                  [this] { logStore.setShowEDIExport(false); });
+    }
+}
+
+void ContentView::openSheet(QPointer<QDialog>& place, QDialog* sheet, const std::function<void()>& ended) {
+    place = sheet;
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &QDialog::finished, this, [&place, ended] {
+        place.clear();
+        ended();
+    });
+    sheet->open();
+}
+
+void ContentView::closeSheet(QPointer<QDialog>& place) {
+    if (place) {
+        disconnect(place, nullptr, this, nullptr);
+        place->close();
+        place.clear();
     }
 }
 

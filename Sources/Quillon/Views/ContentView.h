@@ -4,14 +4,15 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QBoxLayout;
+class QDialog;
 class QLineEdit;
 
 namespace quillon {
 
-class BulkEditSheet;
 class CommandActions;
 class LogStore;
 class QSOTableView;
@@ -67,6 +68,10 @@ class ContentView : public QMainWindow {
     void showBulkEdit();
     void showCabrilloExport();
     void showEDIExport();
+    /// Opens `sheet` and keeps it in `place`, a member, until it is closed; then calls `ended`.
+    void openSheet(QPointer<QDialog>& place, QDialog* sheet, const std::function<void()>& ended);
+    /// Closes the sheet that is open there, if any, as if it had never been.
+    void closeSheet(QPointer<QDialog>& place);
     void showTitle();
 
     LogStore& logStore;
@@ -79,7 +84,9 @@ class ContentView : public QMainWindow {
     RecordDetailView* detail = nullptr;
     QBoxLayout* tableColumn = nullptr;
     QWidget* results = nullptr;  ///< Null until there are results to show.
-    QPointer<BulkEditSheet> bulkEdit;
+    QPointer<QDialog> bulkEdit;
+    QPointer<QDialog> cabrilloExport;
+    QPointer<QDialog> ediExport;
     bool hasComeUp = false;
 };
 

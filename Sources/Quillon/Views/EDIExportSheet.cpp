@@ -72,11 +72,10 @@ EDIExportSheet::EDIExportSheet(LogStore& logStore, QWidget* parent)
 
 void EDIExportSheet::addPoints() {
     QFormLayout* const points = addSection(QStringLiteral("QSO-Punkte"));
-    auto* mode = new QComboBox;
+    QComboBox* const mode = addPicker(points, QStringLiteral("Wertung"));
     for (const auto& [pointsMode, label] : pointsModes) {
         mode->addItem(label, static_cast<int>(pointsMode));
     }
-    addControl(points, QStringLiteral("Wertung"), mode);
     auto* field = addField(points, QStringLiteral("ADIF-Feld"), header.pointsField);
     const auto offerField = [this, points, field] {
         points->setRowVisible(field, header.pointsMode == EDIPointsMode::adifField);

@@ -1,17 +1,21 @@
 #include "Quillon/Views/ExportSheet.h"
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/CalmComboBox.h"
 #include "Quillon/Views/Labels.h"
 #include "Quillon/Views/Strings.h"
 
-#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QTextDocument>
 #include <QVBoxLayout>
+
+#include <limits>
 
 namespace quillon {
 
@@ -23,10 +27,21 @@ constexpr int longFieldLines = 3;
 /// Labels begin at the same place in all sections, so that the form reads as one.
 constexpr int labelWidthPx = 190;
 
+/// What was typed, character by character: `toPlainText` makes a blank of a no-break space.
+QString typedText(const QTextDocument& document) {
+    return document.toRawText()
+        .replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
+        .replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
 }  // namespace
 
 ExportSheet::ExportSheet(LogStore& logStore, const QString& title, QWidget* parent)
-    : QDialog(parent), store(logStore), form(new QWidget), sections(new QVBoxLayout(form)) {
+    : QDialog(parent),
+      store(logStore),
+      form(new QWidget(this)),
+      sections(new QVBoxLayout(form)),
+      area(new QScrollArea(this)) {
     setWindowTitle(title);
     resize(sheetSize);
 
@@ -38,7 +53,6 @@ ExportSheet::ExportSheet(LogStore& logStore, const QString& title, QWidget* pare
 
     sections->setContentsMargins(0, 0, 12, 0);
     sections->setSpacing(16);
-    auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -95,12 +109,17 @@ void ExportSheet::addControl(QFormLayout* section, const QString& label, QWidget
 }
 
 QLineEdit* ExportSheet::addField(QFormLayout* section, const QString& label, std::string& text) {
-    auto* field = new QLineEdit(toQString(text), form);
+    auto* field = new QLineEdit(form);
+    field->setMaxLength(std::numeric_limits<int>::max());
+    field->setText(toQString(text));
     connect(field, &QLineEdit::textChanged, this, [this, &text](const QString& typed) {
         text = typed.toStdString();
         refresh();
     });
     addControl(section, label, field);
+    if (firstField == nullptr) {
+        firstField = field;
+    }
     return field;
 }
 
@@ -110,28 +129,35 @@ QPlainTextEdit* ExportSheet::addLongField(QFormLayout* section, const QString& l
     const int margins = 2 * (field->frameWidth() + static_cast<int>(field->document()->documentMargin()));
     field->setFixedHeight(longFieldLines * field->fontMetrics().lineSpacing() + margins);
     connect(field, &QPlainTextEdit::textChanged, this,
-            [field, &text] { text = field->toPlainText().toStdString(); });
+            [field, &text] { text = typedText(*field->document()).toStdString(); });
     addControl(section, label, field);
     return field;
 }
 
-QComboBox* ExportSheet::addChoice(QFormLayout* section, const QString& label, const QStringList& choices,
-                                  std::string& text) {
-    auto* picker = new QComboBox(form);
-    for (const QString& choice : choices) {
-        picker->addItem(choice.isEmpty() ? QStringLiteral("–") : choice, choice);
-    }
-    picker->setCurrentIndex(picker->findData(toQString(text)));
-    connect(picker, &QComboBox::activated, this, [this, picker, &text] {
-        text = picker->currentData().toString().toStdString();
-        refresh();
-    });
+QComboBox* ExportSheet::addPicker(QFormLayout* section, const QString& label) {
+    auto* picker = new CalmComboBox(form);
     addControl(section, label, picker);
     return picker;
 }
 
+void ExportSheet::addChoice(QFormLayout* section, const QString& label, const QStringList& choices,
+                            std::string& text) {
+    QComboBox* const picker = addPicker(section, label);
+    picker->addItems(choices);
+    picker->setCurrentIndex(picker->findText(toQString(text)));
+    connect(picker, &QComboBox::activated, this, [this, picker, &text] {
+        text = picker->currentText().toStdString();
+        refresh();
+    });
+}
+
 void ExportSheet::start() {
     sections->addStretch(1);
+    // The form does not scroll sideways.
+    area->setMinimumWidth(form->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    if (firstField != nullptr) {
+        firstField->setFocus();
+    }
     refresh();
 }
 

@@ -11,6 +11,7 @@ class QFormLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace quillon {
@@ -32,11 +33,12 @@ class ExportSheet : public QDialog {
     QLineEdit* addField(QFormLayout* section, const QString& label, std::string& text);
     /// With a field of several lines; Tab leaves it.
     QPlainTextEdit* addLongField(QFormLayout* section, const QString& label, std::string& text);
-    /// A picker over `choices`, of which the empty one reads "–". A text that is none of them shows as
-    /// nothing chosen.
-    QComboBox* addChoice(QFormLayout* section, const QString& label, const QStringList& choices,
-                         std::string& text);
-    /// To be called when the form stands: from then on the button follows `isComplete`.
+    /// A picker to be filled.
+    QComboBox* addPicker(QFormLayout* section, const QString& label);
+    /// A picker over `choices`. A text that is none of them shows as nothing chosen.
+    void addChoice(QFormLayout* section, const QString& label, const QStringList& choices, std::string& text);
+    /// To be called when the form stands: from then on the button follows `isComplete`, and the first field
+    /// has the focus.
     void start();
 
     /// Whether the header has what the file cannot do without.
@@ -50,6 +52,8 @@ class ExportSheet : public QDialog {
 
     QWidget* form;
     QVBoxLayout* sections;
+    QScrollArea* area;
+    QLineEdit* firstField = nullptr;
     QPushButton* exportButton;
 };
 

@@ -3,6 +3,7 @@
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Views/BulkEditSheet.h"
 #include "Quillon/Views/CheckResultsView.h"
+#include "Quillon/Views/EDIExportSheet.h"
 #include "Quillon/Views/FieldRow.h"
 #include "Quillon/Views/QSOTableView.h"
 #include "Quillon/Views/RecordDetailView.h"
@@ -22,6 +23,7 @@
 #include <QTest>
 #include <QUrl>
 
+#include <algorithm>
 #include <memory>
 
 namespace quillon {
@@ -155,6 +157,22 @@ TEST_F(Window, OpensTheSheetOfTheBulkEditForItsColumn) {
     store.setBulkEditColumn("CALL");
     EXPECT_TRUE(testing::shownTexts(*window->findChildren<BulkEditSheet*>().last()).find("(CALL)") !=
                 std::string::npos);
+}
+
+TEST_F(Window, OpensAnExportSheetForAsLongAsItsFlagStands) {
+    store.setShowEDIExport(true);
+    show();
+    const auto isOpen = [&] {
+        const auto sheets = window->findChildren<EDIExportSheet*>();
+        return std::ranges::any_of(sheets, [](const EDIExportSheet* sheet) { return sheet->isVisible(); });
+    };
+    EXPECT_TRUE(isOpen());
+    store.setShowEDIExport(false);
+    EXPECT_FALSE(isOpen());
+    store.setShowEDIExport(true);
+    EXPECT_TRUE(isOpen());
+    window->findChildren<EDIExportSheet*>().last()->reject();
+    EXPECT_FALSE(store.showEDIExport());
 }
 
 TEST_F(Window, TakesADroppedFile) {

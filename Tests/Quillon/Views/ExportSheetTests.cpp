@@ -36,12 +36,12 @@ class ExportSheets : public testing::LogStoreTest {
         control<QLineEdit>(name).setText(QString::fromUtf8(value));
     }
     std::string choices(const char* name) const {
-        std::vector<std::string> all;
+        QStringList all;
         const QComboBox& picker = control<QComboBox>(name);
         for (int index = 0; index < picker.count(); ++index) {
-            all.push_back(picker.itemText(index).toStdString());
+            all.append(picker.itemText(index));
         }
-        return joined(all);
+        return all.join(QLatin1Char('|')).toStdString();
     }
     void choose(const char* name, int index) {
         QComboBox& picker = control<QComboBox>(name);
@@ -70,13 +70,14 @@ TEST_F(ExportSheets, CabrilloBeginsWithCallAndContestOfTheLogOnly) {
     EXPECT_EQ(control<QComboBox>("Modus").currentIndex(), -1);
     EXPECT_EQ(control<QComboBox>("Operator").currentIndex(), 0);
     EXPECT_TRUE(exportButton().isDefault());
+    EXPECT_EQ(sheet->focusWidget(), &control<QLineEdit>("Rufzeichen (CALLSIGN)"));
 
-    EXPECT_EQ(choices("Cabrillo-Version"), "3.0 2.0");
-    EXPECT_EQ(choices("Operator"), "– SINGLE-OP MULTI-OP CHECKLOG");
-    EXPECT_EQ(choices("Leistung"), "– HIGH LOW QRP");
-    EXPECT_EQ(choices("Modus"), "MIXED CW SSB RTTY DIGI FM");
-    EXPECT_EQ(choices("Assisted"), "– NON-ASSISTED ASSISTED");
-    EXPECT_EQ(choices("Sender (TX)"), "– ONE TWO LIMITED UNLIMITED SWL");
+    EXPECT_EQ(choices("Cabrillo-Version"), "3.0|2.0");
+    EXPECT_EQ(choices("Operator"), "|SINGLE-OP|MULTI-OP|CHECKLOG");
+    EXPECT_EQ(choices("Leistung"), "|HIGH|LOW|QRP");
+    EXPECT_EQ(choices("Modus"), "MIXED|CW|SSB|RTTY|DIGI|FM");
+    EXPECT_EQ(choices("Assisted"), "|NON-ASSISTED|ASSISTED");
+    EXPECT_EQ(choices("Sender (TX)"), "|ONE|TWO|LIMITED|UNLIMITED|SWL");
 }
 
 TEST_F(ExportSheets, CabrilloWritesWhatWasEntered) {
@@ -91,11 +92,11 @@ TEST_F(ExportSheets, CabrilloWritesWhatWasEntered) {
     choose("Leistung", 2);
     choose("Modus", 1);
     enter("E-Mail", "a@example.org");
-    control<QPlainTextEdit>("Soapbox").setPlainText(QStringLiteral("Danke\nBis bald"));
+    control<QPlainTextEdit>("Soapbox").setPlainText(QStringLiteral("Danke\nBis\u00A0bald"));
     const std::string file = exported("a.cbr");
     for (const char* line : {"START-OF-LOG: 2.0\r\n", "CALLSIGN: DL0AA\r\n", "CATEGORY-POWER: LOW\r\n",
                              "CATEGORY-MODE: CW\r\n", "CATEGORY-OPERATOR: \r\n", "EMAIL: a@example.org\r\n",
-                             "SOAPBOX: Danke\r\nSOAPBOX: Bis bald\r\n", "QSO: 14074 DG"}) {
+                             "SOAPBOX: Danke\r\nSOAPBOX: Bis\u00A0bald\r\n", "QSO: 14074 DG"}) {
         EXPECT_NE(file.find(line), std::string::npos) << line;
     }
     EXPECT_FALSE(sheet->isVisible());
@@ -121,7 +122,7 @@ TEST_F(ExportSheets, EDINeedsCallAndLocator) {
 TEST_F(ExportSheets, EDIOffersTheFieldOfThePointsOnlyWhereItCounts) {
     openLog({"CALL=OK1ABC MY_GRIDSQUARE=JO62 STATION_CALLSIGN=DL0AA QSO_PTS=17"});
     openSheet<EDIExportSheet>();
-    EXPECT_EQ(choices("Wertung"), "Distanz aus Locatoren (km) Leer lassen (Auswerter rechnet) Aus ADIF-Feld");
+    EXPECT_EQ(choices("Wertung"), "Distanz aus Locatoren (km)|Leer lassen (Auswerter rechnet)|Aus ADIF-Feld");
     const auto isFieldShown = [&] { return testing::isShown(control<QLineEdit>("ADIF-Feld"), *sheet); };
     EXPECT_FALSE(isFieldShown());
     EXPECT_EQ(text("ADIF-Feld"), "DISTANCE");
