@@ -73,6 +73,7 @@ SidebarSection* CheckSections::saving() {
     auto* section = new SidebarSection(QStringLiteral("Speichern"), this);
     addSwitch(*section, QStringLiteral("ADIF-Header schreiben"), setting::writeHeaderOnSave);
     auto* version = new QLineEdit(section);
+    version->setAcceptDrops(false);
     const QString stored = settings.string(setting::adifVersion);
     version->setText(stored.isNull() ? currentADIFVersion() : stored);
     // What is written while the field is empty.

@@ -7,8 +7,11 @@
 #include "Quillon/Views/Strings.h"
 #include "Tallyrig/Text/Text.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QToolButton>
 
 #include <algorithm>
@@ -53,6 +56,17 @@ void LogTextField::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
 }
 
+void LogTextField::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const QString& own : {QStringLiteral("edit-undo"), QStringLiteral("edit-redo")}) {
+        if (auto* const action = menu->findChild<QAction*>(own)) {
+            menu->removeAction(action);
+        }
+    }
+    menu->popup(event->globalPos());
+}
+
 FieldRow::FieldRow(QWidget* parent)
     : QWidget(parent),
       label(new ElidedLabel(Qt::ElideRight, this)),
@@ -81,10 +95,12 @@ FieldRow::FieldRow(QWidget* parent)
 }
 
 void FieldRow::show(std::string_view name, std::string_view value) {
-    const QString germanName = toQString(ADIFFieldCatalog::label(name));
-    if (label->text() != germanName) {
+    const QString newName = toQString(name);
+    if (fieldName != newName) {
+        fieldName = newName;
+        const QString germanName = toQString(ADIFFieldCatalog::label(name));
         label->setText(germanName);
-        label->setToolTip(toQString(name));
+        label->setToolTip(plainToolTip(fieldName));
         valueEdit->setAccessibleName(germanName);
         remove->setAccessibleName(QStringLiteral("Feld entfernen: ") + germanName);
     }

@@ -25,6 +25,7 @@ class LogTextField : public QLineEdit {
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
 /// One field of a QSO in the detail pane: its name, its value to be edited, and a button to remove it.
@@ -44,6 +45,7 @@ class FieldRow : public QWidget {
     void removeClicked();
 
   private:
+    QString fieldName;
     ElidedLabel* label;
     LogTextField* valueEdit;
     QToolButton* remove;

@@ -32,7 +32,8 @@ QString headerValue(const tallyrig::ADIFDocument& document, std::string_view nam
 }
 
 QLabel* detailLabel(const QString& text) {
-    auto* label = new QLabel(text.left(longestTextShown));
+    const bool isCut = text.size() > longestTextShown;
+    auto* label = new QLabel(isCut ? text.left(longestTextShown) + QStringLiteral(" …") : text);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);

@@ -24,6 +24,8 @@ InlineEditor::InlineEditor(Escape escapeKey, QWidget* parent) : QLineEdit(parent
     setTextMargins(margin, 0, margin, 0);
     // A value must come out as long as it went in.
     setMaxLength(std::numeric_limits<int>::max());
+    // A log file that is dropped here is to be opened.
+    setAcceptDrops(false);
     hide();
 }
 

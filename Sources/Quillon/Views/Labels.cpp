@@ -1,8 +1,8 @@
 #include "Quillon/Views/Labels.h"
 
 #include "Quillon/Platform/FontMeasurer.h"
+#include "Quillon/Views/Hairline.h"
 
-#include <QFrame>
 #include <QPainter>
 #include <QStyle>
 
@@ -27,6 +27,17 @@ class PictureWidget : public QWidget {
 
   private:
     QIcon picture;
+};
+
+class HorizontalLine : public QWidget {
+  public:
+    explicit HorizontalLine(QWidget* parent) : QWidget(parent) { setFixedHeight(1); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(QRectF(0, 0, width(), hairlineWidth(painter)), palette().color(QPalette::Mid));
+    }
 };
 
 }  // namespace
@@ -70,12 +81,7 @@ QLabel* noteLabel(const QString& text, QWidget* parent) {
 }
 
 QWidget* horizontalLine(QWidget* parent) {
-    auto* line = new QFrame(parent);
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Plain);
-    line->setForegroundRole(QPalette::Mid);
-    line->setFixedHeight(1);
-    return line;
+    return new HorizontalLine(parent);
 }
 
 QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
@@ -83,8 +89,11 @@ QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
 }
 
 QString plainToolTip(const QString& text) {
-    return text.isEmpty() ? QString()
-                          : QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
+    if (text.isEmpty()) {
+        return {};
+    }
+    const QString lines = text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"));
+    return QStringLiteral("<span>") + lines + QStringLiteral("</span>");
 }
 
 }  // namespace quillon

@@ -36,7 +36,7 @@ QWidget* horizontalLine(QWidget* parent = nullptr);
 QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent = nullptr);
 
 /// Text in plain letters for places that would take a "<" for the beginning of a tag; a long one is broken
-/// into lines.
+/// into lines, its own line breaks are kept.
 QString plainToolTip(const QString& text);
 
 }  // namespace quillon

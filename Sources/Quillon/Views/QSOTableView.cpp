@@ -57,6 +57,7 @@ void QSOTableView::scrollToRecord(tallyrig::UUID id) {
 }
 
 void QSOTableView::commitEditing() {
+    headerRow->commitEditing();
     rows->commitEditing();
 }
 

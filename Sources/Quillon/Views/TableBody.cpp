@@ -220,7 +220,8 @@ void TableBody::startEditing(CellPosition cell) {
         return;
     }
     setCurrentCell(cell);
-    if (cellEditor->isOpen()) {
+    // What was written on the way may have left no row that the search finds.
+    if (cellEditor->isOpen() || !current) {
         return;
     }
     cellEditor->setAccessibleName(toQString(currentContent.column));

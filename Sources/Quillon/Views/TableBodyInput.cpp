@@ -239,7 +239,7 @@ QString TableBody::toolTipAt(QPointF point) const {
     }
     if (geometry.hasGutter() && geometry.gutterRect(*row).contains(place)) {
         const StatusGutterCell mark{shown.severity, store.recordIssueMessages(shown.record.id())};
-        return plainToolTip(mark.toolTip()).replace(QLatin1Char('\n'), QStringLiteral("<br>"));
+        return plainToolTip(mark.toolTip());
     }
     return {};
 }

@@ -14,6 +14,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -79,7 +80,7 @@ void TableHeader::startRename(const std::string& column) {
     if (position == store.columns().end()) {
         return;
     }
-    nameEditor->commit();
+    commitEditing();
     renamedColumn = column;
     const auto index = static_cast<std::size_t>(position - store.columns().begin());
     scroll.setScrollX(geometry.scrollXShowing(index, scroll.scrollX(), scroll.viewportWidth()));
@@ -87,8 +88,14 @@ void TableHeader::startRename(const std::string& column) {
     placeEditor();
 }
 
+void TableHeader::commitEditing() {
+    nameEditor->commit();
+    runPendingRename();
+}
+
 void TableHeader::dismissEditor() {
     nameEditor->dismiss();
+    pendingName.reset();
 }
 
 QRectF TableHeader::cellArea(std::size_t column) const {
@@ -144,12 +151,14 @@ void TableHeader::paintDrop(QPainter& painter) const {
 /// The question whether to rename is a dialog, which must not open in the middle of the event that closed the
 /// editor.
 void TableHeader::finishRename(const QString& draft) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, column = renamedColumn, name = draft.toStdString()] {
-            commitRename(store, questions, column, name);
-        },
-        Qt::QueuedConnection);
+    pendingName = draft.toStdString();
+    QMetaObject::invokeMethod(this, &TableHeader::runPendingRename, Qt::QueuedConnection);
+}
+
+void TableHeader::runPendingRename() {
+    if (const auto name = std::exchange(pendingName, std::nullopt)) {
+        commitRename(store, questions, std::string(renamedColumn), *name);
+    }
 }
 
 void TableHeader::changeEvent(QEvent* event) {

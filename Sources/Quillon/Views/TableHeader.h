@@ -35,6 +35,8 @@ class TableHeader : public QWidget {
     /// Opens the editor of the column's name. Nothing happens if there is no such column.
     void startRename(const std::string& column);
     const InlineEditor& editor() const { return *nameEditor; }
+    /// Closes the editor and renames the column.
+    void commitEditing();
     /// Closes the editor without renaming.
     void dismissEditor();
     /// The place of the column's cell in the coordinates of this widget.
@@ -75,7 +77,8 @@ class TableHeader : public QWidget {
     /// What the mouse does from the press of its button to the release.
     struct Grip {
         Place place;
-        QPointF start;  ///< In the coordinates of the content.
+        double pressX = 0;  ///< In this widget, which stays while the content moves under it.
+        QPointF start;      ///< In the coordinates of the content.
         QPointF now;
         std::optional<double> resizeStart;  ///< The column's width at the first movement.
         bool isDragging = false;            ///< The column is on its way to another place.
@@ -92,6 +95,7 @@ class TableHeader : public QWidget {
     void restoreSorting();
     void openMenu(std::size_t column, QPoint globalPosition);
     void finishRename(const QString& draft);
+    void runPendingRename();
     void placeEditor();
     void setFocusedColumn(std::size_t column);
     void paintDrop(QPainter& painter) const;
@@ -102,6 +106,7 @@ class TableHeader : public QWidget {
     InlineEditor* nameEditor;
     TableGeometry geometry;
     std::string renamedColumn;
+    std::optional<std::string> pendingName;  ///< What `renamedColumn` is to be called as soon as may be.
     Place hovered;
     std::optional<Grip> grip;
     std::optional<Sorting> sortingBeforeClick;

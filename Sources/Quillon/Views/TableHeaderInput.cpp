@@ -47,7 +47,7 @@ void TableHeader::mousePressEvent(QMouseEvent* event) {
     }
     if (place.part == Part::cell || place.part == Part::handle) {
         const QPointF point = contentPoint(event->position());
-        grip = Grip{place, point, point, std::nullopt, false};
+        grip = Grip{place, event->position().x(), point, point, std::nullopt, false};
         update();
     }
 }
@@ -64,7 +64,8 @@ void TableHeader::dragTo(QPointF point) {
     grip->now = contentPoint(point);
     const std::size_t column = grip->place.column;
     if (grip->place.part == Part::handle) {
-        const double moved = grip->now.x() - grip->start.x();
+        // A column that shrinks at the right end pulls the content along.
+        const double moved = point.x() - grip->pressX;
         if (!grip->resizeStart && std::abs(moved) >= resizeThreshold) {
             grip->resizeStart = store.width(store.columns()[column]);
         }

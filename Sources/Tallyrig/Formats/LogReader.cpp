@@ -38,9 +38,8 @@ std::string_view withoutXMLDeclaration(std::string_view text) {
 /// Whether `text` has the first line of a Cabrillo log anywhere, in either case.
 bool hasStartOfLog(std::string_view text) {
     constexpr std::string_view marker = "START-OF-LOG";
-    const auto found = std::ranges::search(
-        text, marker, [](char c, char m) { return c == m || (m != '-' && c == m - 'A' + 'a'); });
-    return !found.empty();
+    const auto isSame = [](char c, char m) { return c == m || (m != '-' && c == m - 'A' + 'a'); };
+    return std::search(text.begin(), text.end(), marker.begin(), marker.end(), isSame) != text.end();
 }
 
 bool hasCalls(const ADIFDocument& document) {

@@ -86,7 +86,8 @@ TEST_F(CellEditor, RemovesTheFieldWhenEmptiedAndLeavesAnUntouchedOneAlone) {
 }
 
 TEST_F(CellEditor, KeepsLineBreaksAndTextOfAnyLength) {
-    const std::string essay = std::string(40'000, 'x') + "\r\nEnde";
+    const std::string essay =
+        "\uFEFF" + std::string(40'000, 'x') + "\r\nE\rn\nd\u2028e" + std::string(1, '\0');
     showLog({"CALL=DL1A NOTES=" + essay});
     doubleClick(0, 1);
     key(Qt::Key_End);

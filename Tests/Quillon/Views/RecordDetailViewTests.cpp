@@ -136,7 +136,8 @@ TEST_F(RecordDetail, FollowsChangesMadeElsewhere) {
 }
 
 TEST_F(RecordDetail, KeepsALongTextWhole) {
-    const std::string remark(40000, 'x');
+    const std::string remark =
+        "\uFEFF" + std::string(40'000, 'x') + "\r\nE\rn\nd\u2028e" + std::string(1, '\0');
     openLog({"COMMENT=" + remark});
     select({0});
     QTest::keyClick(&field(0), Qt::Key_End);

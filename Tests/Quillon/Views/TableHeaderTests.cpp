@@ -73,6 +73,17 @@ TEST_F(ColumnHeader, RenamesOnADoubleClickAndLeavesTheOrderAlone) {
     QApplication::processEvents();
     EXPECT_EQ(questions.asked, "CALL>MY_CALL (2)");
     EXPECT_EQ(columns(), "MY_CALL BAND NAME");
+
+    doubleClickAt(name(2));
+    typeText("qth");
+    view.commitEditing();
+    EXPECT_EQ(columns(), "MY_CALL BAND QTH") << "a command finds the new name";
+    doubleClickAt(name(2));
+    typeText("comment");
+    key(Qt::Key_Return);
+    openLog({"QTH=Ulm"});
+    QApplication::processEvents();
+    EXPECT_EQ(columns(), "QTH") << "a rename ends with its log";
 }
 
 TEST_F(ColumnHeader, MovesWhenDraggedSixPointsOrMore) {
@@ -117,6 +128,20 @@ TEST_F(ColumnHeader, ChangesItsWidthAtTheHandle) {
     EXPECT_EQ(store.width("CALL"), 94) << "as its label needs: 10 letters of 6, 12, 16 and 6";
     EXPECT_EQ(sorting(), "none");
     EXPECT_FALSE(header.editor().isOpen());
+}
+
+TEST_F(ColumnHeader, ShrinksAsFarAsThePointerGoesThoughTheContentMoves) {
+    for (const char* column : {"CALL", "BAND", "NAME"}) {
+        store.setWidth(600, column);
+    }
+    view.scroll().setScrollX(5000);
+    const QPoint pressed = edge(2);
+    const QPoint place = pressed - QPoint(30, 0);
+    drag(header, pressed, place);
+    QMouseEvent move(QEvent::MouseMove, place, header.mapToGlobal(place), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&header, &move);
+    QApplication::sendEvent(&header, &move);
+    EXPECT_EQ(store.width("NAME"), 570);
 }
 
 TEST_F(ColumnHeader, OffersTheCommandsForItsColumn) {
