@@ -22,6 +22,7 @@ namespace quillon {
 namespace {
 
 constexpr QSize sheetSize(560, 620);
+constexpr int smallestWidthPx = 440;
 constexpr int longFieldLines = 3;
 
 /// Labels begin at the same place in all sections, so that the form reads as one.
@@ -44,6 +45,7 @@ ExportSheet::ExportSheet(LogStore& logStore, const QString& title, QWidget* pare
       area(new QScrollArea(this)) {
     setWindowTitle(title);
     resize(sheetSize);
+    setMinimumWidth(smallestWidthPx);
 
     auto* heading = new QLabel(title, this);
     QFont headingFont = heading->font();
