@@ -17,12 +17,7 @@ using testing::pairs;
 using testing::Pairs;
 
 std::vector<Pairs> recordsOf(std::string_view bytes) {
-    const ADIFDocument log = EDIParser::parse(bytes);
-    std::vector<Pairs> result;
-    for (const ADIFRecord& record : log.records()) {
-        result.push_back(pairs(record));
-    }
-    return result;
+    return pairs(EDIParser::parse(bytes));
 }
 
 /// The calls of the records, joined by blanks.

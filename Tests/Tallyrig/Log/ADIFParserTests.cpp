@@ -18,12 +18,7 @@ using testing::pairs;
 using testing::Pairs;
 
 std::vector<Pairs> recordsOf(std::string_view bytes) {
-    const ADIFDocument document = ADIFParser::parse(bytes);
-    std::vector<Pairs> result;
-    for (const ADIFRecord& record : document.records()) {
-        result.push_back(pairs(record));
-    }
-    return result;
+    return pairs(ADIFParser::parse(bytes));
 }
 
 TEST(Reading, KeepsHeaderAndRecordsApartByTheEndOfHeader) {

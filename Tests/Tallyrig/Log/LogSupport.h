@@ -38,4 +38,13 @@ inline Pairs pairs(const ADIFRecord& record) {
     return result;
 }
 
+/// The same of all records.
+inline std::vector<Pairs> pairs(const ADIFDocument& document) {
+    std::vector<Pairs> result;
+    for (const ADIFRecord& record : document.records()) {
+        result.push_back(pairs(record));
+    }
+    return result;
+}
+
 }  // namespace tallyrig::testing
