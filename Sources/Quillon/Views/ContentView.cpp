@@ -16,6 +16,7 @@
 #include "Quillon/Views/SidebarPane.h"
 #include "Quillon/Views/StatusLine.h"
 #include "Quillon/Views/Strings.h"
+#include "Quillon/Views/TableBody.h"
 #include "Quillon/Views/TableQuestions.h"
 
 #include <QAction>
@@ -258,7 +259,7 @@ void ContentView::openFile(const QString& path) {
 }
 
 void ContentView::focusTable() {
-    table->setFocus();
+    table->body().setFocus();
 }
 
 void ContentView::showResults() {
@@ -272,7 +273,7 @@ void ContentView::showResults() {
         layout->addWidget(horizontalLine(results));
         layout->addWidget(view);
         tableColumn->addWidget(results);
-        setTabOrder(table->focusProxy(), view);
+        setTabOrder(&table->body(), view);
         connect(view, &CheckResultsView::recordChosen, table, &QSOTableView::scrollToRecord);
         connect(view, &CheckResultsView::left, this, &ContentView::focusTable);
     }

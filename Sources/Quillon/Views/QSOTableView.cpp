@@ -26,7 +26,6 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
       headerRow(new TableHeader(store, questions, *tableScroll)),
       rows(new TableBody(store, *tableScroll)) {
     tableScroll->setContent(headerRow, rows);
-    setFocusProxy(rows);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -217,6 +217,14 @@ TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
     EXPECT_EQ(names,
               "Befunde\nErneut prüfen\nErgebnisleiste schließen\nRufzeichen\nFeld entfernen: Rufzeichen\n"
               "Name\nFeld entfernen: Name\nSuchen\n");
+    std::string before;
+    for (int step = 0;
+         step < 40 && QApplication::focusWidget()->accessibleName() != QStringLiteral("QSO-Tabelle");
+         ++step) {
+        before = QApplication::focusWidget()->accessibleName().toStdString();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(before, "Spaltenköpfe") << "the way back leads over all that stands above the rows";
 }
 
 TEST_F(Window, HearsTheKeysOfTheLogFromTheDetailPane) {
