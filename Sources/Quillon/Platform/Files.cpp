@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <new>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 namespace quillon {
@@ -47,8 +47,14 @@ FileError errorFrom(int cause, Access access) {
             return {"Die Datei ist zu groß."};
         case EIO:
             return {"Der Datenträger meldet einen Ein-/Ausgabefehler."};
+        case EBUSY:
+        case ETXTBSY:
+            return {"Die Datei wird gerade benutzt."};
+        case EMFILE:
+        case ENFILE:
+            return {"Es sind zu viele Dateien geöffnet."};
         default:
-            return {std::strerror(cause)};
+            return {"Das System meldet den Fehler " + std::to_string(cause) + "."};
     }
 }
 
@@ -125,6 +131,15 @@ bool writeAll(int descriptor, std::string_view content) {
         content.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
     }
     return true;
+}
+
+/// Makes the new name of a file last through a loss of power, where the file system can.
+void syncFolder(const std::string& folder) {
+    const Descriptor opened(
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.isOpen()) {
+        static_cast<void>(::fsync(opened.number()));
+    }
 }
 
 /// Devices and pipes are written to: they cannot be replaced.
@@ -237,6 +252,7 @@ std::optional<FileError> replaceFile(const std::string& path, std::string_view c
         ::fsync(file.number()) != 0 || !file.close() || !temporary.moveTo(*target)) {
         return errorFrom(errno, Access::writing);
     }
+    syncFolder(folderOf(*target));
     return std::nullopt;
 }
 
