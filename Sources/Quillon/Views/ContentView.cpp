@@ -29,6 +29,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 #include <QToolBar>
@@ -69,7 +70,9 @@ ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList ar
       startArguments(std::move(arguments)),
       questions(std::make_unique<TableDialogs>()) {
     setMinimumSize(minimumWindowSize);
-    resize(firstWindowSize);
+    // On a small screen, or one with large letters, there is less room; the frame wants some of it.
+    constexpr QSize frame(16, 48);
+    resize(firstWindowSize.boundedTo(screen()->availableSize() - frame));
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu);
     commandActions = new CommandActions(*this);

@@ -83,6 +83,7 @@ void TableHeader::startRename(const std::string& column) {
     commitEditing();
     renamedColumn = column;
     const auto index = static_cast<std::size_t>(position - store.columns().begin());
+    setFocusedColumn(index);
     scroll.setScrollX(geometry.scrollXShowing(index, scroll.scrollX(), scroll.viewportWidth()));
     nameEditor->begin(toQString(column));
     placeEditor();
