@@ -19,6 +19,13 @@
 
 namespace quillon {
 
+namespace {
+
+/// In bytes, as of a value that is only looked at.
+constexpr std::size_t shownOfTooLong = 1'000;
+
+}  // namespace
+
 LogTextField::LogTextField(QWidget* parent) : QLineEdit(parent) {
     // The limit of a line edit would cut off the end of a long remark.
     setMaxLength(std::numeric_limits<int>::max());
@@ -104,7 +111,11 @@ void FieldRow::show(std::string_view name, std::string_view value) {
         valueEdit->setAccessibleName(germanName);
         remove->setAccessibleName(QStringLiteral("Feld entfernen: ") + germanName);
     }
-    valueEdit->showText(toQString(value));
+    const bool isTooLong = value.size() > longestEditableValue;
+    valueEdit->setReadOnly(isTooLong);
+    valueEdit->setToolTip(isTooLong ? tooLongMessage(value.size()) : QString());
+    valueEdit->showText(isTooLong ? toQString(value.substr(0, shownOfTooLong)) + QStringLiteral(" …")
+                                  : toQString(value));
 }
 
 }  // namespace quillon

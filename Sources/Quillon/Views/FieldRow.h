@@ -35,7 +35,7 @@ class FieldRow : public QWidget {
   public:
     explicit FieldRow(QWidget* parent = nullptr);
 
-    /// `name` and `value` in UTF-8.
+    /// `name` and `value` in UTF-8. A value that is too long to be edited is shown in part.
     void show(std::string_view name, std::string_view value);
     LogTextField& valueField() const { return *valueEdit; }
     QToolButton& removeButton() const { return *remove; }

@@ -6,7 +6,9 @@
 #include "Quillon/Views/Labels.h"
 #include "Quillon/Views/Strings.h"
 
-#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace quillon {
 
@@ -16,8 +18,16 @@ QString lineText(const tallyrig::ValidationIssue& issue) {
     return QStringLiteral("Zeile ") + QString::number(issue.recordIndex + 1);
 }
 
+/// A message can hold a whole value, and nobody reads one of a megabyte.
 QString messageText(const tallyrig::ValidationIssue& issue) {
-    return toQString(ADIFFieldCatalog::germanMessage(issue));
+    constexpr std::size_t longestShown = 4000;
+    const std::string message = ADIFFieldCatalog::germanMessage(issue);
+    if (message.size() <= longestShown) {
+        return toQString(message);
+    }
+    QString text = toQString(std::string_view(message).substr(0, longestShown));
+    text.chop(1);  // may be half a letter
+    return text + QStringLiteral("…");
 }
 
 QString severityText(const tallyrig::ValidationIssue& issue) {

@@ -3,6 +3,7 @@
 #include "Quillon/Platform/FontMeasurer.h"
 #include "Quillon/Views/Hairline.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 
@@ -86,6 +87,11 @@ QWidget* horizontalLine(QWidget* parent) {
 
 QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
     return new PictureWidget(picture, sizePx, parent);
+}
+
+QString tooLongMessage(std::size_t size) {
+    return QStringLiteral("Der Wert ist mit %1 Bytes zu lang, um ihn hier zu bearbeiten.")
+        .arg(QLocale(QLocale::German).toString(static_cast<qulonglong>(size)));
 }
 
 QString plainToolTip(const QString& text) {

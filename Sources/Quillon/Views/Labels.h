@@ -35,6 +35,9 @@ QWidget* horizontalLine(QWidget* parent = nullptr);
 /// follows the palette.
 QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent = nullptr);
 
+/// Why a value of that many bytes cannot be edited.
+QString tooLongMessage(std::size_t size);
+
 /// Text in plain letters for places that would take a "<" for the beginning of a tag; a long one is broken
 /// into lines, its own line breaks are kept.
 QString plainToolTip(const QString& text);

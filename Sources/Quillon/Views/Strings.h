@@ -2,10 +2,15 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace quillon {
+
+/// The longest value, in bytes, that a text field takes for editing: the field lays out all of its text at
+/// once, which takes seconds for one of some megabytes.
+inline constexpr std::size_t longestEditableValue = 200'000;
 
 /// UTF-8 as the stores and the library hold it, for the screen.
 inline QString toQString(std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/EmptyState.h"
+#include "Quillon/Views/Labels.h"
 #include "Quillon/Views/Strings.h"
 #include "Quillon/Views/TableAccessibility.h"
 #include "Quillon/Views/TableScroll.h"
@@ -224,8 +225,13 @@ void TableBody::startEditing(CellPosition cell) {
     if (cellEditor->isOpen() || !current) {
         return;
     }
+    const std::string value = store.cellBinding(currentContent.record, currentContent.column).read();
+    if (value.size() > longestEditableValue) {
+        store.setErrorMessage(tooLongMessage(value.size()));
+        return;
+    }
     cellEditor->setAccessibleName(toQString(currentContent.column));
-    cellEditor->begin(toQString(store.cellBinding(currentContent.record, currentContent.column).read()));
+    cellEditor->begin(toQString(value));
     placeEditor();
 }
 

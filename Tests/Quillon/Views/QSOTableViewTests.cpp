@@ -96,6 +96,15 @@ TEST_F(CellEditor, KeepsLineBreaksAndTextOfAnyLength) {
     EXPECT_EQ(cell(0, "NOTES"), essay + "!");
 }
 
+TEST_F(CellEditor, StaysClosedOverATextThatWouldHoldTheWindowUp) {
+    showLog({"CALL=DL1A NOTES=" + std::string(200'001, 'x')});
+    doubleClick(0, 1);
+    EXPECT_EQ(editorText(), "(closed)");
+    EXPECT_EQ(error(), "Der Wert ist mit 200.001 Bytes zu lang, um ihn hier zu bearbeiten.");
+    doubleClick(0, 0);
+    EXPECT_EQ(editorText(), "DL1A");
+}
+
 TEST_F(CellEditor, GoesOnToTheNextCellWithTab) {
     showLog({"CALL=DL1A BAND=20m", "CALL=DL2A BAND=40m"});
     doubleClick(0, 0);

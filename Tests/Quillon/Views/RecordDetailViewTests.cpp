@@ -145,5 +145,17 @@ TEST_F(RecordDetail, KeepsALongTextWhole) {
     EXPECT_EQ(cell(0, "COMMENT"), remark + "y");
 }
 
+TEST_F(RecordDetail, OnlyShowsATextTooLongToBeEdited) {
+    openLog({"COMMENT=" + std::string(200'001, 'x'), "COMMENT=short"});
+    select({0});
+    EXPECT_TRUE(field(0).isReadOnly());
+    EXPECT_TRUE(field(0).text().endsWith(QStringLiteral("xx …")));
+    QTest::keyClicks(&field(0), QStringLiteral("y"));
+    EXPECT_EQ(cell(0, "COMMENT").size(), 200'001U);
+    select({1});
+    EXPECT_FALSE(field(0).isReadOnly());
+    EXPECT_EQ(field(0).text(), QStringLiteral("short"));
+}
+
 }  // namespace
 }  // namespace quillon
