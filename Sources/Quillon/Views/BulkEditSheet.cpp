@@ -76,8 +76,8 @@ BulkEditSheet::BulkEditSheet(LogStore& logStore, std::string column, QWidget* pa
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.2);
     title->setFont(titleFont);
     auto* columnLine =
-        new QLabel(QStringLiteral("Spalte: ") + toQString(ADIFFieldCatalog::label(columnName)) +
-                       QStringLiteral("  (") + toQString(columnName) + QLatin1Char(')'),
+        new QLabel(QStringLiteral("Spalte: ") + toQString(cutToShow(ADIFFieldCatalog::label(columnName))) +
+                       QStringLiteral("  (") + toQString(cutToShow(columnName)) + QLatin1Char(')'),
                    this);
     columnLine->setTextFormat(Qt::PlainText);
     columnLine->setForegroundRole(QPalette::PlaceholderText);

@@ -20,19 +20,6 @@ namespace {
 /// The dot and the room behind it.
 constexpr double bandDotAdvance = 13;
 constexpr double dividerOpacity = 0.22;
-/// More bytes than the widest column shows of the narrowest letters. Notes can be as long as a book.
-constexpr std::size_t longestTextBytes = 1024;
-
-std::string_view cutToShow(std::string_view value) {
-    if (value.size() <= longestTextBytes) {
-        return value;
-    }
-    std::size_t end = longestTextBytes;
-    while (end > 0 && (static_cast<unsigned char>(value[end]) & 0xC0U) == 0x80U) {
-        --end;
-    }
-    return value.substr(0, end);
-}
 
 }  // namespace
 

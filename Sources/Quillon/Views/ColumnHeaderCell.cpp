@@ -47,11 +47,11 @@ double lineHeight(MeasuredFont font) {
 }  // namespace
 
 QString ColumnHeaderCell::label() const {
-    return toQString(ADIFFieldCatalog::label(column));
+    return toQString(cutToShow(ADIFFieldCatalog::label(column)));
 }
 
 QString ColumnHeaderCell::tag() const {
-    return QLatin1Char('<') + toQString(column);
+    return QLatin1Char('<') + toQString(cutToShow(column));
 }
 
 void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const {

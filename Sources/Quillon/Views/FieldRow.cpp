@@ -19,13 +19,6 @@
 
 namespace quillon {
 
-namespace {
-
-/// In bytes, as of a value that is only looked at.
-constexpr std::size_t shownOfTooLong = 1'000;
-
-}  // namespace
-
 LogTextField::LogTextField(QWidget* parent) : QLineEdit(parent) {
     // The limit of a line edit would cut off the end of a long remark.
     setMaxLength(std::numeric_limits<int>::max());
@@ -105,17 +98,16 @@ void FieldRow::show(std::string_view name, std::string_view value) {
     const QString newName = toQString(name);
     if (fieldName != newName) {
         fieldName = newName;
-        const QString germanName = toQString(ADIFFieldCatalog::label(name));
+        const QString germanName = toQString(cutToShow(ADIFFieldCatalog::label(name)));
         label->setText(germanName);
-        label->setToolTip(plainToolTip(fieldName));
+        label->setToolTip(plainToolTip(toQString(cutToShow(name))));
         valueEdit->setAccessibleName(germanName);
         remove->setAccessibleName(QStringLiteral("Feld entfernen: ") + germanName);
     }
     const bool isTooLong = value.size() > longestEditableValue;
     valueEdit->setReadOnly(isTooLong);
     valueEdit->setToolTip(isTooLong ? tooLongMessage(value.size()) : QString());
-    valueEdit->showText(isTooLong ? toQString(value.substr(0, shownOfTooLong)) + QStringLiteral(" …")
-                                  : toQString(value));
+    valueEdit->showText(isTooLong ? toQString(cutToShow(value)) + QStringLiteral(" …") : toQString(value));
 }
 
 }  // namespace quillon

@@ -28,7 +28,7 @@ QString headerValue(const tallyrig::ADIFDocument& document, std::string_view nam
     const auto field = std::find_if(
         fields.begin(), fields.end(),
         [name](const tallyrig::ADIFField& candidate) { return tallyrig::text::equal(candidate.name, name); });
-    return field == fields.end() ? QString() : toQString(field->value);
+    return field == fields.end() ? QString() : toQString(cutToShow(field->value));
 }
 
 QLabel* detailLabel(const QString& text) {
@@ -127,7 +127,7 @@ void FileInfoBar::fillDetails() {
         grid->addWidget(detailLabel(toQString(comment)), row++, 0, 1, 2);
     }
     for (const tallyrig::ADIFField& field : shownFields) {
-        QLabel* name = detailLabel(toQString(field.name));
+        QLabel* name = detailLabel(toQString(cutToShow(field.name)));
         name->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
         name->setFixedWidth(nameWidthPx);
         grid->addWidget(name, row, 0);

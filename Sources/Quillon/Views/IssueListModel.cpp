@@ -22,12 +22,8 @@ QString lineText(const tallyrig::ValidationIssue& issue) {
 QString messageText(const tallyrig::ValidationIssue& issue) {
     constexpr std::size_t longestShown = 4000;
     const std::string message = ADIFFieldCatalog::germanMessage(issue);
-    if (message.size() <= longestShown) {
-        return toQString(message);
-    }
-    QString text = toQString(std::string_view(message).substr(0, longestShown));
-    text.chop(1);  // may be half a letter
-    return text + QStringLiteral("…");
+    const std::string_view shown = cutToShow(message, longestShown);
+    return toQString(shown) + (shown.size() < message.size() ? QStringLiteral("…") : QString());
 }
 
 QString severityText(const tallyrig::ValidationIssue& issue) {
