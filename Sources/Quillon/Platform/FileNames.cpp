@@ -13,6 +13,9 @@ QString nameOf(const QString& path) {
 }  // namespace
 
 QString absolutePath(const QString& path) {
+    if (path.isEmpty()) {
+        return path;
+    }
     return QDir::cleanPath(path.startsWith(QLatin1Char('/')) ? path
                                                              : QDir::currentPath() + QLatin1Char('/') + path);
 }

@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-/// `path` from the root on, without "." and "..". Every name is that of a file: Qt's own functions take one
-/// with a colon in front for something inside the program.
+/// `path` from the root on, without "." and "..". Nothing stays nothing. Every name is that of a file:
+/// Qt's own functions take one with a colon in front for something inside the program.
 QString absolutePath(const QString& path);
 
 /// What stands behind the last full stop of the file's name: "adi" for "log.adi". Empty for a name that only

@@ -120,6 +120,7 @@ TEST_F(CommandLine, OpensTheFirstPathThatIsThere) {
     } cases[] = {
         {{cross, a, b}, "B"},    {{a, cross, b}, "A"}, {{"-x", folder.path("none"), b}, "B"},
         {{cross, cross, a}, ""}, {{cross, a}, ""},     {{}, ""},
+        {{"", a}, "A"},
     };
     for (const auto& [arguments, opened] : cases) {
         LogStore other(settings, panels, measurer);
