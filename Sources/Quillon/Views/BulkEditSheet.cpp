@@ -101,6 +101,9 @@ BulkEditSheet::BulkEditSheet(LogStore& logStore, std::string column, QWidget* pa
     connect(buttons, &QDialogButtonBox::accepted, this, &BulkEditSheet::apply);
     connect(&store, &LogStore::documentChanged, this, &BulkEditSheet::refresh);
     refresh();
+    // Otherwise it would be the default button, and Return behind a value typed into it would empty the
+    // column.
+    value->setFocus();
 }
 
 BulkEditSheet::Mode BulkEditSheet::mode() const {

@@ -84,6 +84,7 @@ TEST_F(BulkEdit, NamesColumnAndForm) {
 TEST_F(BulkEdit, TellsHowManyItConcerns) {
     openLog({"CALL=DL1ABC COMMENT=tnx", "CALL=DL2ABC COMMENT=", "CALL=DL3ABC"});
     openSheet("COMMENT");
+    EXPECT_EQ(sheet->focusWidget(), inputs()[0]) << "what is typed at once is the value";
     EXPECT_EQ(affected(), "3 von 3");
     choose(BulkEditSheet::Mode::empty);
     EXPECT_EQ(affected(), "2 von 3");
