@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHash>
 #include <QMessageBox>
@@ -65,6 +66,31 @@ QString firstExtension(const QList<FileType>& types) {
     return {};
 }
 
+/// Tells files by their names. Qt's own provider reads in every file that a panel lists, which takes long on
+/// a slow disk and for ever where a file of the kernel has nothing to say.
+class IconsByName : public QFileIconProvider {
+  public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo& file) const override {
+        return QFileIconProvider::icon(file.isDir() ? QFileIconProvider::Folder : QFileIconProvider::File);
+    }
+    QString type(const QFileInfo& file) const override {
+        if (file.isDir()) {
+            return QStringLiteral("Ordner");
+        }
+        const QString extension = extensionOf(file.fileName());
+        return extension.isEmpty() ? QStringLiteral("Datei") : extension.toUpper() + QStringLiteral("-Datei");
+    }
+};
+
+void setUp(QFileDialog& dialog, const QList<FileType>& types) {
+    static IconsByName icons;
+    dialog.setIconProvider(&icons);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(nameFilters(types));
+    dialog.resize(dialog.size().expandedTo(QSize(860, 520)));
+}
+
 bool mayReplace(const QString& path) {
     QMessageBox question(QMessageBox::Warning, QStringLiteral("Speichern unter"),
                          QStringLiteral("„%1“ ist schon vorhanden.\nSoll die Datei ersetzt werden?")
@@ -94,8 +120,7 @@ std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
 std::optional<QString> DesktopPanels::fileToOpen(const QList<FileType>& types) {
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Öffnen"), folder);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(nameFilters(types));
+    setUp(dialog, types);
     return choice(dialog, folder);
 }
 
@@ -103,8 +128,7 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
     QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Speichern unter"), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(nameFilters(types));
+    setUp(dialog, types);
     dialog.selectFile(proposedName);
     while (true) {
         const auto path = choice(dialog, folder);
