@@ -2,6 +2,7 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
 #include "Tallyrig/Log/PerTag.h"
+#include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -42,15 +43,7 @@ struct FittedColumn {
 
 /// As much of a text as can matter to a width that ends at 320: notes can be as long as a book.
 std::string_view beginningOf(std::string_view text) {
-    constexpr std::size_t mostBytes = 1024;
-    if (text.size() <= mostBytes) {
-        return text;
-    }
-    std::size_t end = mostBytes;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
-        --end;
-    }
-    return text.substr(0, end);
+    return tallyrig::text::beginning(text, 1024);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Tallyrig/Text/Characters.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -15,14 +17,7 @@ inline constexpr std::size_t longestEditableValue = 200'000;
 /// The front of `text` (UTF-8), `longest` bytes at most, with no letter cut in two. The usual limit is more
 /// than the widest column shows of the narrowest letters; to lay out a text of megabytes takes seconds.
 inline std::string_view cutToShow(std::string_view text, std::size_t longest = 1024) {
-    if (text.size() <= longest) {
-        return text;
-    }
-    std::size_t end = longest;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
-        --end;
-    }
-    return text.substr(0, end);
+    return tallyrig::text::beginning(text, longest);
 }
 
 /// UTF-8 as the stores and the library hold it, for the screen.

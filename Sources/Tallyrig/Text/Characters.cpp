@@ -81,6 +81,17 @@ std::vector<std::string_view> characters(std::string_view text) {
     return result;
 }
 
+std::string_view beginning(std::string_view text, std::size_t mostBytes) {
+    if (text.size() <= mostBytes) {
+        return text;
+    }
+    std::size_t end = mostBytes;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end);
+}
+
 bool isLetter(std::string_view character) {
     return !character.empty() && (U_MASK(u_charType(firstCodePoint(character))) & U_GC_L_MASK) != 0;
 }

@@ -14,6 +14,9 @@ std::size_t characterCount(std::string_view text);
 /// The characters of `text` in order. They refer to `text` and, joined, are `text` again.
 std::vector<std::string_view> characters(std::string_view text);
 
+/// The front of `text` (UTF-8), `mostBytes` at most, with no code point cut in two.
+std::string_view beginning(std::string_view text, std::size_t mostBytes);
+
 /// Whether the first code point of `character` is a letter (Unicode category L). False for empty text.
 bool isLetter(std::string_view character);
 
