@@ -13,6 +13,7 @@
 namespace tallyrig {
 namespace {
 
+using testing::fields;
 using testing::Pairs;
 using testing::pairs;
 
@@ -39,21 +40,11 @@ TEST(CabrilloLog, GivesARecordForEachQSOLine) {
     EXPECT_EQ(log.headerComment(), "");
     EXPECT_TRUE(log.headerFields().empty());
     ASSERT_EQ(log.records().size(), 2U);
-    EXPECT_EQ(pairs(log.records()[0]), Pairs({{"FREQ", "14.074"},
-                                              {"BAND", "20M"},
-                                              {"MODE", "SSB"},
-                                              {"QSO_DATE", "20240115"},
-                                              {"TIME_ON", "123400"},
-                                              {"RST_SENT", "59"},
-                                              {"STX_STRING", "001"},
-                                              {"CALL", "K1XYZ"},
-                                              {"RST_RCVD", "59"},
-                                              {"SRX_STRING", "002"},
-                                              {"SRX", "2"},
-                                              {"STATION_CALLSIGN", "DL1ABC"},
-                                              {"CONTEST_ID", "cq-ww-SSB"},
-                                              {"OPERATOR", "DL1ABC, DL2XYZ"},
-                                              {"MY_GRIDSQUARE", "JO62QM"}}));
+    EXPECT_EQ(
+        pairs(log.records()[0]),
+        fields("FREQ=14.074 | BAND=20M | MODE=SSB | QSO_DATE=20240115 | TIME_ON=123400 | RST_SENT=59 | "
+               "STX_STRING=001 | CALL=K1XYZ | RST_RCVD=59 | SRX_STRING=002 | SRX=2 | STATION_CALLSIGN=DL1ABC "
+               "| CONTEST_ID=cq-ww-SSB | OPERATOR=DL1ABC, DL2XYZ | MY_GRIDSQUARE=JO62QM"));
     EXPECT_EQ(log.records()[1]["FREQ"], "7.001");
     EXPECT_EQ(log.records()[1]["CALL"], "K3XYZ");
     EXPECT_EQ(log.records()[1]["SRX_STRING"], "4A");

@@ -15,6 +15,7 @@ namespace tallyrig {
 namespace {
 
 using testing::document;
+using testing::fields;
 using testing::Pairs;
 using testing::record;
 
@@ -82,9 +83,9 @@ TEST(WrittenCabrillo, StandsInOrderOfTime) {
 }
 
 TEST(QSOLine, HasFixedColumns) {
-    const Pairs usual = {{"FREQ", "14.074"},    {"MODE", "FT8"},   {"QSO_DATE", "20240115"},
-                         {"TIME_ON", "123456"}, {"CALL", "k1xyz"}, {"RST_SENT", "599"},
-                         {"RST_RCVD", "599"}};
+    const Pairs usual = fields(
+        "FREQ=14.074 | MODE=FT8 | QSO_DATE=20240115 | TIME_ON=123456 | CALL=k1xyz | RST_SENT=599 | "
+        "RST_RCVD=599");
     EXPECT_EQ(lineOf(usual),
               "QSO: 14074 DG 2024-01-15 1234 DL1ABC        599 —      K1XYZ         599 —      0");
     EXPECT_EQ(lineOf({{"FREQ", "144.3"},
@@ -112,7 +113,7 @@ TEST(QSOLine, FindsItsExchangeInSeveralPlaces) {
         {{{"CQZ", "-5"}}, "14", "14    ", "-5    "},
         {{{"CQZ", "DL"}, {"SRX", ""}}, "14", "14    ", "—     "},
         {{{"CQZ", "123"}}, "", "—     ", "123   "},
-        {{{"STX_STRING", "7"}, {"SRX", "8"}, {"SRX_STRING", ""}, {"CQZ", "5"}}, "14", "7     ", "8     "},
+        {fields("STX_STRING=7 | SRX=8 | SRX_STRING= | CQZ=5"), "14", "7     ", "8     "},
         {{{"STX_STRING", ""}, {"SRX", "8"}, {"SRX_STRING", "9"}}, "", "—     ", "9     "},
     };
     for (const Case& one : cases) {
@@ -168,16 +169,9 @@ TEST(WrittenCabrillo, ReadsBack) {
     CabrilloHeader header;
     header.contest = "CQ-WW-SSB";
     header.sentExchange = "14";
-    const ADIFDocument log = document({{{"FREQ", "14.2"},
-                                        {"BAND", "20M"},
-                                        {"MODE", "SSB"},
-                                        {"QSO_DATE", "20240115"},
-                                        {"TIME_ON", "123456"},
-                                        {"RST_SENT", "59"},
-                                        {"CALL", "k1xyz"},
-                                        {"RST_RCVD", "57"},
-                                        {"CQZ", "5"},
-                                        {"STATION_CALLSIGN", "dl1abc"}}});
+    const ADIFDocument log =
+        document({fields("FREQ=14.2 | BAND=20M | MODE=SSB | QSO_DATE=20240115 | TIME_ON=123456 | RST_SENT=59 "
+                         "| CALL=k1xyz | RST_RCVD=57 | CQZ=5 | STATION_CALLSIGN=dl1abc")});
     const std::string text = CabrilloWriter{header}.write(log);
     const ADIFDocument again = CabrilloParser::parse(text);
     ASSERT_EQ(again.records().size(), 1U);

@@ -13,6 +13,7 @@ namespace tallyrig {
 namespace {
 
 using namespace std::string_literals;
+using testing::fields;
 using testing::pairs;
 using testing::Pairs;
 
@@ -40,31 +41,14 @@ TEST(EDIReading, GivesOneRecordForEachQSO) {
     EXPECT_EQ(log.headerComment(), "");
     EXPECT_TRUE(log.headerFields().empty());
     ASSERT_EQ(log.records().size(), 2U);
-    EXPECT_EQ(pairs(log.records()[0]), (Pairs{{"QSO_DATE", "20240302"},
-                                              {"TIME_ON", "140500"},
-                                              {"CALL", "OK1KIM/P"},
-                                              {"MODE", "CW"},
-                                              {"RST_SENT", "599"},
-                                              {"STX", "1"},
-                                              {"RST_RCVD", "579"},
-                                              {"SRX", "14"},
-                                              {"GRIDSQUARE", "JN79OR"},
-                                              {"BAND", "2M"},
-                                              {"STATION_CALLSIGN", "DL1ABC"},
-                                              {"MY_GRIDSQUARE", "JO62QM"},
-                                              {"CONTEST_ID", "Marconi Memorial"},
-                                              {"OPERATOR", "DL1ABC,DL2XYZ"}}));
-    EXPECT_EQ(pairs(log.records()[1]), (Pairs{{"QSO_DATE", "20240303"},
-                                              {"TIME_ON", "073100"},
-                                              {"CALL", "DK5EW"},
-                                              {"MODE", "SSB"},
-                                              {"RST_SENT", "59"},
-                                              {"STX", "1002"},
-                                              {"BAND", "2M"},
-                                              {"STATION_CALLSIGN", "DL1ABC"},
-                                              {"MY_GRIDSQUARE", "JO62QM"},
-                                              {"CONTEST_ID", "Marconi Memorial"},
-                                              {"OPERATOR", "DL1ABC,DL2XYZ"}}))
+    EXPECT_EQ(pairs(log.records()[0]),
+              fields("QSO_DATE=20240302 | TIME_ON=140500 | CALL=OK1KIM/P | MODE=CW | RST_SENT=599 | STX=1 | "
+                     "RST_RCVD=579 | SRX=14 | GRIDSQUARE=JN79OR | BAND=2M | STATION_CALLSIGN=DL1ABC | "
+                     "MY_GRIDSQUARE=JO62QM | CONTEST_ID=Marconi Memorial | OPERATOR=DL1ABC,DL2XYZ"));
+    EXPECT_EQ(pairs(log.records()[1]),
+              fields("QSO_DATE=20240303 | TIME_ON=073100 | CALL=DK5EW | MODE=SSB | RST_SENT=59 | STX=1002 | "
+                     "BAND=2M | STATION_CALLSIGN=DL1ABC | MY_GRIDSQUARE=JO62QM | CONTEST_ID=Marconi Memorial "
+                     "| OPERATOR=DL1ABC,DL2XYZ"))
         << "what is empty gives no field";
 }
 
@@ -75,12 +59,11 @@ TEST(EDIColumns, BecomeFieldsOneByOne) {
     };
     const std::vector<Case> cases = {
         {"240302;1200;DL1ABC", {}},
-        {"240302;1200;DL1ABC;",
-         {{"QSO_DATE", "20240302"}, {"TIME_ON", "120000"}, {"CALL", "DL1ABC"}, {"MODE", "SSB"}}},
+        {"240302;1200;DL1ABC;", fields("QSO_DATE=20240302 | TIME_ON=120000 | CALL=DL1ABC | MODE=SSB")},
         {";;;", {{"MODE", "SSB"}}},
         {";;;" + std::string(100'000, ';'), {{"MODE", "SSB"}}},
         {" 240302\t; 1200 ; dl1abc\u00A0; 2 ",
-         {{"QSO_DATE", "20240302"}, {"TIME_ON", "120000"}, {"CALL", "DL1ABC"}, {"MODE", "CW"}}},
+         fields("QSO_DATE=20240302 | TIME_ON=120000 | CALL=DL1ABC | MODE=CW")},
         {";;stra\u00DFe;5", {{"CALL", "STRASSE"}, {"MODE", "AM"}}},
         {"24-03-02;12:00;;6", {{"QSO_DATE", "20240302"}, {"TIME_ON", "120000"}, {"MODE", "FM"}}},
         {"20240302;120059;;7", {{"QSO_DATE", "20240302"}, {"TIME_ON", "120059"}, {"MODE", "FT8"}}},

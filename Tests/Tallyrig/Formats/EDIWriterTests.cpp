@@ -16,6 +16,7 @@ namespace tallyrig {
 namespace {
 
 using testing::document;
+using testing::fields;
 using testing::Pairs;
 using testing::record;
 
@@ -68,31 +69,11 @@ TEST(EDIFile, HasTheShapeOfREG1TEST) {
     header.antennaHeight = "10;120";
     header.remarks = "\n Sturm\r\nund Regen \n";
     const ADIFDocument log = document({
-        {{"CALL", "ok1kim"},
-         {"QSO_DATE", "20240302"},
-         {"TIME_ON", "150130"},
-         {"BAND", "2m"},
-         {"MODE", "CW"},
-         {"RST_SENT", "599"},
-         {"RST_RCVD", "579"},
-         {"STX", "2"},
-         {"SRX", "14"},
-         {"GRIDSQUARE", "jn58td"},
-         {"COUNTRY", "Germany"}},
-        {{"CALL", "DL3AAA"},
-         {"QSO_DATE", "20240302"},
-         {"TIME_ON", "1405"},
-         {"BAND", "2M"},
-         {"MODE", "USB"},
-         {"STX", "1"},
-         {"SRX_STRING", "59 007 JO62"},
-         {"GRIDSQUARE", "JO62RM"},
-         {"COUNTRY", "GERMANY"}},
-        {{"CALL", "OK1KIM"},
-         {"QSO_DATE", "20240303"},
-         {"TIME_ON", "0700"},
-         {"BAND", "2m"},
-         {"GRIDSQUARE", "JO62"}},
+        fields("CALL=ok1kim | QSO_DATE=20240302 | TIME_ON=150130 | BAND=2m | MODE=CW | RST_SENT=599 | "
+               "RST_RCVD=579 | STX=2 | SRX=14 | GRIDSQUARE=jn58td | COUNTRY=Germany"),
+        fields("CALL=DL3AAA | QSO_DATE=20240302 | TIME_ON=1405 | BAND=2M | MODE=USB | STX=1 | SRX_STRING=59 "
+               "007 JO62 | GRIDSQUARE=JO62RM | COUNTRY=GERMANY"),
+        fields("CALL=OK1KIM | QSO_DATE=20240303 | TIME_ON=0700 | BAND=2m | GRIDSQUARE=JO62"),
     });
     EXPECT_EQ(
         EDIWriter{header}.write(log),
@@ -119,9 +100,9 @@ TEST(EDIFile, OfNoQSOsHasTheSameShape) {
 }
 
 TEST(EDIFile, TakesCallAndLocatorFromTheLogWhereTheHeaderHasNone) {
-    const ADIFDocument log = document(
-        {{{"CALL", "A"}, {"OPERATOR", "dl1abc"}},
-         {{"CALL", "B"}, {"STATION_CALLSIGN", "dl0aaa"}, {"MY_GRIDSQUARE", "jo62"}, {"GRIDSQUARE", "JO63"}}});
+    const ADIFDocument log =
+        document({{{"CALL", "A"}, {"OPERATOR", "dl1abc"}},
+                  fields("CALL=B | STATION_CALLSIGN=dl0aaa | MY_GRIDSQUARE=jo62 | GRIDSQUARE=JO63")});
     const std::string text = EDIWriter{}.write(log);
     EXPECT_EQ(valueOf(text, "PCall"), "DL1ABC");
     EXPECT_EQ(valueOf(text, "PWWLo"), "JO62");
@@ -213,17 +194,13 @@ TEST(EDIPoints, GoByTheirMode) {
 
 TEST(EDIClaim, CountsSquaresCountriesAndBandsWhateverTheirCase) {
     const std::string text = EDIWriter{}.write(document({
-        {{"CALL", "a"},
-         {"BAND", "2m"},
-         {"GRIDSQUARE", "jo62aa"},
-         {"COUNTRY", "Österreich"},
-         {"DISTANCE", "9"}},
+        fields("CALL=a | BAND=2m | GRIDSQUARE=jo62aa | COUNTRY=Österreich | DISTANCE=9"),
         {{"CALL", "A"},
          {"BAND", "2M"},
          {"GRIDSQUARE", "JO62"},
          {"COUNTRY", "O\u0308STERREICH"},
          {"DISTANCE", "9"}},
-        {{"CALL", "A"}, {"BAND", "2m"}, {"GRIDSQUARE", "JO"}, {"COUNTRY", ""}},
+        fields("CALL=A | BAND=2m | GRIDSQUARE=JO | COUNTRY="),
         {{"BAND", ""}, {"GRIDSQUARE", ""}},
         {{"BAND", "70cm"}},
     }));
@@ -334,17 +311,13 @@ TEST(SuggestedEDIHeader, TakesTheFirstValuesOfTheLog) {
     expected.locator = "JO62QM";
     expected.band = "432 MHz";
     expected.operators = "DL1ABC";
-    EXPECT_EQ(
-        EDIHeader::suggested(document({
-            {{"QSO_DATE", "2024030"}, {"CONTEST_ID", ""}, {"OWNER_CALLSIGN", "dl9zzz"}},
-            {{"QSO_DATE", "20240303"},
-             {"CONTEST_ID", "darc-vhf"},
-             {"STATION_CALLSIGN", "DL0AAA"},
-             {"BAND", "70cm"}},
-            {{"QSO_DATE", "20240302"}, {"MY_GRIDSQUARE", "jo62qm"}, {"OPERATOR", "dl1abc"}, {"BAND", "2m"}},
-            {{"QSO_DATE", "2024ÄÖ05"}},
-        })),
-        expected);
+    EXPECT_EQ(EDIHeader::suggested(document({
+                  {{"QSO_DATE", "2024030"}, {"CONTEST_ID", ""}, {"OWNER_CALLSIGN", "dl9zzz"}},
+                  fields("QSO_DATE=20240303 | CONTEST_ID=darc-vhf | STATION_CALLSIGN=DL0AAA | BAND=70cm"),
+                  fields("QSO_DATE=20240302 | MY_GRIDSQUARE=jo62qm | OPERATOR=dl1abc | BAND=2m"),
+                  {{"QSO_DATE", "2024ÄÖ05"}},
+              })),
+              expected);
     EXPECT_EQ(EDIHeader::suggested(document({{{"BAND", "11m"}}})).band, "11m");
 }
 
@@ -375,11 +348,9 @@ TEST(EDIRoundTrip, KeepsWhatTheFormatHasRoomFor) {
     const auto pick = [&](const std::vector<std::string>& values) {
         return values[random() % values.size()];
     };
-    const Pairs common = {{"BAND", "23CM"},
-                          {"STATION_CALLSIGN", "DL0AAA"},
-                          {"MY_GRIDSQUARE", "JO62QM"},
-                          {"CONTEST_ID", "Ä-TEST"},
-                          {"OPERATOR", "DL1ABC,DL2ABC"}};
+    const Pairs common = fields(
+        "BAND=23CM | STATION_CALLSIGN=DL0AAA | MY_GRIDSQUARE=JO62QM | CONTEST_ID=Ä-TEST | "
+        "OPERATOR=DL1ABC,DL2ABC");
     std::vector<Pairs> kept;
     std::vector<Pairs> written;
     for (int minute = 0; minute < 600; ++minute) {

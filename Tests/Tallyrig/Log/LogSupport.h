@@ -3,14 +3,30 @@
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/ADIFRecord.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace tallyrig::testing {
 
 using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+/// Names and values from "NAME=value | NAME=value".
+inline Pairs fields(std::string_view text) {
+    constexpr std::string_view separator = " | ";
+    Pairs result;
+    while (!text.empty()) {
+        const std::string_view field = text.substr(0, text.find(separator));
+        const std::size_t equals = field.find('=');
+        result.emplace_back(field.substr(0, equals), field.substr(equals + 1));
+        text.remove_prefix(std::min(text.size(), field.size() + separator.size()));
+    }
+    return result;
+}
 
 /// A record of names and values, without types.
 inline ADIFRecord record(const Pairs& pairs) {
