@@ -1,8 +1,8 @@
 // Starts, shows a window, and ends when it has painted it for the first time: the application's window or,
 // with the argument "empty", an empty one with the same libraries behind it.
 
-#include "Quillon/Views/ContentView.h"
-#include "Quillon/Views/QuillonApp.h"
+#include "Quillon/App/QuillonApp.h"
+#include "Quillon/Views/Window/ContentView.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,9 +1,9 @@
 // What the user sees: a frame of the table, and the first window.
 
-#include "Quillon/Views/QSOTableView.h"
-#include "Quillon/Views/TableBody.h"
-#include "Quillon/Views/TableQuestions.h"
-#include "Quillon/Views/TableScroll.h"
+#include "Quillon/Views/Table/QSOTableView.h"
+#include "Quillon/Views/Table/TableBody.h"
+#include "Quillon/Views/Table/TableQuestions.h"
+#include "Quillon/Views/Table/TableScroll.h"
 #include "StoreStandIns.h"
 #include "Timing.h"
 

@@ -19,7 +19,7 @@ find Examples ${QUILLON_SAMPLES:+"$QUILLON_SAMPLES"} -type f | while read -r log
 done
 
 failed=0
-for target in build/fuzz/Tests/Fuzz/*Fuzzer; do
+for target in build/fuzz/bin/*Fuzzer; do
     name=$(basename "$target")
     echo "== $name"
     mkdir -p "build/fuzz/corpus/$name"

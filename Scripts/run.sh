@@ -12,7 +12,7 @@ top=$(cd "$(dirname "$0")/.." && pwd)
 if [ $# = 0 ]; then
     set -- "$top/Examples/jahreslog.adi"
 fi
-quillon=$top/build/release/Sources/Quillon/Quillon
+quillon=$top/build/release/bin/Quillon
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec "$quillon" "$@"
 fi

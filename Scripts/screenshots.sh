@@ -15,5 +15,5 @@ mkdir -p Docs/pictures "$folder"
 cp Examples/befunde.adi "$folder"
 trap 'rm -r "$folder"' EXIT
 
-QT_QPA_PLATFORM=offscreen build/release/Sources/Quillon/Quillon "$folder/befunde.adi" \
+QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/befunde.adi" \
     --grab Docs/pictures/quillon.png --grab-size 1280x800 --grab-check --grab-select 15

@@ -1,4 +1,4 @@
-#include "Tallyrig/Formats/Locator.h"
+#include "Tallyrig/Geography/Locator.h"
 #include "TallyrigTool/Commands.h"
 #include "TallyrigTool/Usage.h"
 

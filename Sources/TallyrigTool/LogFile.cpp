@@ -1,6 +1,6 @@
 #include "TallyrigTool/LogFile.h"
 
-#include "Quillon/Platform/Files.h"
+#include "Quillon/Platform/Files/Files.h"
 #include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "TallyrigTool/Console.h"

@@ -90,8 +90,8 @@ class LogStore : public QObject {
     // Other formats.
     /// Asks for a place and makes the log an ADX file there.
     void saveAsADX();
-    /// Writes the log to another file in the format of contest robots; it stays the log of its own file, and as changed
-    /// as it was.
+    /// Writes the log to another file in the format of contest robots; it stays the log of its own file, and
+    /// as changed as it was.
     void exportCabrillo(const tallyrig::CabrilloHeader& header);
     void exportEDI(const tallyrig::EDIHeader& header);
     /// Whether the sheet is wanted that asks for the header and then exports.

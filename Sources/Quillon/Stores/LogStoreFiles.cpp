@@ -1,5 +1,5 @@
 #include "Quillon/Platform/FileNames.h"
-#include "Quillon/Platform/Files.h"
+#include "Quillon/Platform/Files/Files.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
 #include "Quillon/Stores/ValidationSettings.h"

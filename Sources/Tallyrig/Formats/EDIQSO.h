@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tallyrig/Formats/Locator.h"
+#include "Tallyrig/Geography/Locator.h"
 #include "Tallyrig/Log/ADIFRecord.h"
 #include "Tallyrig/Log/RecordValues.h"
 

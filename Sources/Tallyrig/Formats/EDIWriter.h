@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Tallyrig/Formats/EDIHeader.h"
-#include "Tallyrig/Formats/Locator.h"
+#include "Tallyrig/Geography/Locator.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 
 #include <cstdint>

@@ -1,0 +1,43 @@
+#include "Quillon/App/QuillonApp.h"
+
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Window/ContentView.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+
+namespace quillon {
+
+namespace {
+
+void setUp(QApplication& application, QTranslator& translator) {
+    QApplication::setApplicationName(QStringLiteral("Quillon"));
+    QApplication::setApplicationVersion(appVersion());
+    QApplication::setDesktopFileName(QStringLiteral("quillon"));
+    QApplication::setWindowIcon(applicationIcon());
+    const QLocale german(QLocale::German, QLocale::Germany);
+    QLocale::setDefault(german);
+    if (translator.load(german, QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        application.installTranslator(&translator);
+    }
+}
+
+}  // namespace
+
+QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
+    : settings(userSettings()), logStore(*settings, panels, measurer) {
+    setUp(application, translator);
+    contentView = std::make_unique<ContentView>(logStore, *settings, arguments);
+    QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
+        if (logStore.fileURL()) {
+            panels.setFolder(QFileInfo(*logStore.fileURL()).absolutePath());
+        }
+    });
+}
+
+QuillonApp::~QuillonApp() = default;
+
+}  // namespace quillon

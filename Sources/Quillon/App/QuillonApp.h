@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Quillon/Platform/Desktop/DesktopPanels.h"
+#include "Quillon/Platform/Desktop/FontMeasurer.h"
+#include "Quillon/Platform/Settings.h"
+#include "Quillon/Stores/LogStore.h"
+
+#include <QStringList>
+#include <QTranslator>
+
+#include <memory>
+
+class QApplication;
+
+namespace quillon {
+
+class ContentView;
+
+/// The program: it owns the store and opens the one main window.
+class QuillonApp {
+  public:
+    /// `arguments` are those of the program without its name. `application` outlives this.
+    QuillonApp(QApplication& application, const QStringList& arguments);
+    ~QuillonApp();
+
+    LogStore& store() { return logStore; }
+    ContentView& window() { return *contentView; }
+
+  private:
+    QTranslator translator;  ///< The words of Qt's own dialogs.
+    std::unique_ptr<Settings> settings;
+    DesktopPanels panels;
+    FontMeasurer measurer;
+    LogStore logStore;
+    std::unique_ptr<ContentView> contentView;
+};
+
+}  // namespace quillon

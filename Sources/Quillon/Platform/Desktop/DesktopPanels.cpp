@@ -1,0 +1,146 @@
+#include "Quillon/Platform/Desktop/DesktopPanels.h"
+
+#include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Platform/FileNames.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QHash>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStringList>
+
+namespace quillon {
+
+namespace {
+
+/// Such as "*.adi": desktops differ in whether a pattern minds the case, so that both cases are named.
+QStringList patterns(const FileType& type) {
+    QStringList result;
+    for (const QString& extension : type.extensions) {
+        result.append(QStringLiteral("*.") + extension);
+        result.append(QStringLiteral("*.") + extension.toUpper());
+    }
+    return result;
+}
+
+QString filter(const QString& label, const QStringList& patterns) {
+    return label + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
+/// What the panel shows at first are all files of `types`; then each kind by itself, and at last any file.
+QStringList nameFilters(const QList<FileType>& types) {
+    QStringList labels;
+    QHash<QString, QStringList> byLabel;
+    QStringList all;
+    for (const FileType& type : types) {
+        if (type.extensions.isEmpty()) {
+            continue;
+        }
+        if (!labels.contains(type.label)) {
+            labels.append(type.label);
+        }
+        byLabel[type.label] += patterns(type);
+        all += patterns(type);
+    }
+    QStringList result;
+    if (labels.size() > 1) {
+        result.append(filter(QStringLiteral("Logdateien"), all));
+    }
+    for (const QString& label : labels) {
+        result.append(filter(label, byLabel[label]));
+    }
+    result.append(QStringLiteral("Alle Dateien (*)"));
+    return result;
+}
+
+QString firstExtension(const QList<FileType>& types) {
+    for (const FileType& type : types) {
+        if (!type.extensions.isEmpty()) {
+            return type.extensions.first();
+        }
+    }
+    return {};
+}
+
+/// Tells files by their names. Qt's own provider reads in every file that a panel lists, which takes long on
+/// a slow disk and for ever where a file of the kernel has nothing to say.
+class IconsByName : public QFileIconProvider {
+  public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo& file) const override {
+        return QFileIconProvider::icon(file.isDir() ? QFileIconProvider::Folder : QFileIconProvider::File);
+    }
+    QString type(const QFileInfo& file) const override {
+        if (file.isDir()) {
+            return QStringLiteral("Ordner");
+        }
+        const QString extension = extensionOf(file.fileName());
+        return extension.isEmpty() ? QStringLiteral("Datei") : extension.toUpper() + QStringLiteral("-Datei");
+    }
+};
+
+void setUp(QFileDialog& dialog, const QList<FileType>& types) {
+    static IconsByName icons;
+    dialog.setIconProvider(&icons);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(nameFilters(types));
+    dialog.resize(dialog.size().expandedTo(QSize(860, 520)));
+}
+
+bool mayReplace(const QString& path) {
+    QMessageBox question(QMessageBox::Warning, QStringLiteral("Speichern unter"),
+                         QStringLiteral("„%1“ ist schon vorhanden.\nSoll die Datei ersetzt werden?")
+                             .arg(QFileInfo(path).fileName()),
+                         QMessageBox::NoButton, QApplication::activeWindow());
+    question.setTextFormat(Qt::PlainText);
+    const QPushButton* const replace =
+        question.addButton(QStringLiteral("Ersetzen"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(question.addButton(QStringLiteral("Abbrechen"), QMessageBox::RejectRole));
+    question.exec();
+    return question.clickedButton() == replace;
+}
+
+std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    const QString path = dialog.selectedFiles().constFirst();
+    folder = QFileInfo(path).absolutePath();
+    // The store now reads or writes the file; it returns to the event loop when it is done.
+    showBusyCursorUntilIdle();
+    return path;
+}
+
+}  // namespace
+
+std::optional<QString> DesktopPanels::fileToOpen(const QList<FileType>& types) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Öffnen"), folder);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    setUp(dialog, types);
+    return choice(dialog, folder);
+}
+
+std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, const QList<FileType>& types) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Speichern unter"), folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    setUp(dialog, types);
+    dialog.selectFile(proposedName);
+    while (true) {
+        const auto path = choice(dialog, folder);
+        if (!path || !extensionOf(*path).isEmpty() || QFileInfo::exists(*path)) {
+            return path;
+        }
+        // The dialogs of some desktops would add the extension without asking about the file of that name.
+        const QString fullPath = *path + QLatin1Char('.') + firstExtension(types);
+        if (!QFileInfo::exists(fullPath) || mayReplace(fullPath)) {
+            return fullPath;
+        }
+    }
+}
+
+}  // namespace quillon

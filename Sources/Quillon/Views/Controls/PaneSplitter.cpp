@@ -1,0 +1,47 @@
+#include "Quillon/Views/Controls/PaneSplitter.h"
+
+#include <QPainter>
+#include <QSplitterHandle>
+
+namespace quillon {
+
+namespace {
+
+/// A line of one pixel; Qt takes hold of it from a few pixels around.
+class LineHandle : public QSplitterHandle {
+  public:
+    using QSplitterHandle::QSplitterHandle;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(contentsRect(), palette().color(QPalette::Mid));
+    }
+};
+
+}  // namespace
+
+PaneSplitter::PaneSplitter(QWidget* parent) : QSplitter(Qt::Horizontal, parent) {
+    setHandleWidth(1);
+    setChildrenCollapsible(false);
+}
+
+void PaneSplitter::addPane(QWidget* pane, PaneWidths widths) {
+    pane->setMinimumWidth(widths.least);
+    pane->setMaximumWidth(widths.most);
+    addWidget(pane);
+    idealWidths.append(widths.ideal);
+    setSizes(idealWidths);
+}
+
+void PaneSplitter::setRoomTaker(int index) {
+    for (int pane = 0; pane < count(); ++pane) {
+        setStretchFactor(pane, pane == index ? 1 : 0);
+    }
+}
+
+QSplitterHandle* PaneSplitter::createHandle() {
+    return new LineHandle(orientation(), this);
+}
+
+}  // namespace quillon

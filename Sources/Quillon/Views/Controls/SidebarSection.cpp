@@ -1,0 +1,48 @@
+#include "Quillon/Views/Controls/SidebarSection.h"
+
+#include "Quillon/Views/Controls/Labels.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int indentPx = 22;
+
+}  // namespace
+
+SidebarSection::SidebarSection(const QString& title, QWidget* parent)
+    : QWidget(parent), column(new QVBoxLayout(this)) {
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(6);
+    if (!title.isEmpty()) {
+        column->addWidget(headingLabel(title, this));
+    }
+}
+
+void SidebarSection::add(QWidget* control) {
+    column->addWidget(control);
+}
+
+void SidebarSection::addIndented(QWidget* control) {
+    auto* row = new QHBoxLayout;
+    row->addSpacing(indentPx);
+    row->addWidget(control, 1);
+    column->addLayout(row);
+}
+
+void SidebarSection::addLabelled(const QString& label, QWidget* control) {
+    auto* caption = new QLabel(label, this);
+    caption->setBuddy(control);
+    control->setAccessibleName(label);
+    column->addWidget(caption);
+    column->addWidget(control);
+}
+
+void SidebarSection::addNote(const QString& text) {
+    column->addWidget(noteLabel(text, this));
+}
+
+}  // namespace quillon

@@ -1,0 +1,108 @@
+#include "Quillon/Views/Sidebar/CheckSections.h"
+
+#include "Quillon/Catalogue/DuplicateCriterion.h"
+#include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Platform/Settings.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Stores/ValidationSettings.h"
+#include "Quillon/Views/Controls/CalmComboBox.h"
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/SidebarSection.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/WrappingCheckBox.h"
+#include "Quillon/Views/Sidebar/FieldAdder.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+const QString& currentADIFVersion() {
+    static const QString version = QStringLiteral("3.1.7");
+    return version;
+}
+
+}  // namespace
+
+CheckSections::CheckSections(LogStore& logStore, Settings& userSettings, QWidget* parent)
+    : QWidget(parent), store(logStore), settings(userSettings) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(18);
+    column->addWidget(checks());
+    column->addWidget(saving());
+    auto* adder = new FieldAdder(store, this);
+    connect(adder, &FieldAdder::fieldAdded, this, &CheckSections::fieldAdded);
+    column->addWidget(adder);
+    column->addWidget(exporting());
+}
+
+SidebarSection* CheckSections::checks() {
+    auto* section = new SidebarSection(QString(), this);
+    addSwitch(*section, QStringLiteral("Pflichtfelder"), setting::checkRequired);
+    addSwitch(*section, QStringLiteral("Formate (Datum, Band, Locator …)"), setting::checkFormat);
+    addSwitch(*section, QStringLiteral("Unbekannte Felder melden"), setting::checkUnknownFields);
+    section->addNote(QStringLiteral(
+        "Warnt bei Feldern, die nicht in der ADIF-Spezifikation stehen (APP_- und USERDEF-Felder "
+        "bleiben erlaubt). Teil der Formatprüfung."));
+    addSwitch(*section, QStringLiteral("Dubletten"), setting::checkDuplicates);
+
+    auto* criterion = new CalmComboBox(section);
+    for (const DuplicateCriterion offered : duplicateCriteria) {
+        criterion->addItem(toQString(label(offered)), toQString(storedValue(offered)));
+    }
+    criterion->setCurrentIndex(
+        criterion->findData(toQString(storedValue(currentDuplicateCriterion(settings)))));
+    connect(criterion, &QComboBox::activated, this,
+            [this, criterion] { settings.setValue(setting::duplicateCriterion, criterion->currentData()); });
+    section->addLabelled(QStringLiteral("Dublette ="), criterion);
+
+    auto* run = new QPushButton(checkIcon(), QStringLiteral("Jetzt prüfen"), section);
+    connect(run, &QPushButton::clicked, this, [this] {
+        showBusyCursorUntilIdle();
+        store.runCheck();
+    });
+    section->add(run);
+    return section;
+}
+
+SidebarSection* CheckSections::saving() {
+    auto* section = new SidebarSection(QStringLiteral("Speichern"), this);
+    addSwitch(*section, QStringLiteral("ADIF-Header schreiben"), setting::writeHeaderOnSave);
+    auto* version = new QLineEdit(section);
+    version->setAcceptDrops(false);
+    const QString stored = settings.string(setting::adifVersion);
+    version->setText(stored.isNull() ? currentADIFVersion() : stored);
+    // What is written while the field is empty.
+    version->setPlaceholderText(currentADIFVersion());
+    connect(version, &QLineEdit::textEdited, this,
+            [this](const QString& text) { settings.setValue(setting::adifVersion, text); });
+    section->addLabelled(QStringLiteral("ADIF-Version"), version);
+    return section;
+}
+
+SidebarSection* CheckSections::exporting() {
+    auto* section = new SidebarSection(QStringLiteral("Export"), this);
+    const auto add = [this, section](const QString& title, auto&& run) {
+        auto* button = new QPushButton(icon(QStringLiteral("document-export")), title, section);
+        connect(button, &QPushButton::clicked, this, run);
+        section->add(button);
+    };
+    add(QStringLiteral("ADIF (.adi) …"), [this] { store.saveWithPanel(); });
+    add(QStringLiteral("ADX (.adx) …"), [this] { store.saveAsADX(); });
+    add(QStringLiteral("Cabrillo (.cbr) …"), [this] { store.setShowCabrilloExport(true); });
+    add(QStringLiteral("EDI (.edi) …"), [this] { store.setShowEDIExport(true); });
+    return section;
+}
+
+void CheckSections::addSwitch(SidebarSection& section, const QString& text, const QString& key) {
+    auto* box = new WrappingCheckBox(text, &section);
+    box->setChecked(settings.boolean(key, true));
+    connect(box, &QCheckBox::toggled, this, [this, key](bool on) { settings.setValue(key, on); });
+    section.add(box);
+}
+
+}  // namespace quillon

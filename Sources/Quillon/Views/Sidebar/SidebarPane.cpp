@@ -1,0 +1,70 @@
+#include "Quillon/Views/Sidebar/SidebarPane.h"
+
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/CalmComboBox.h"
+#include "Quillon/Views/Controls/SidebarSection.h"
+#include "Quillon/Views/Sidebar/CheckSections.h"
+
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+/// A mode as the picker offers it.
+struct OfferedMode {
+    AppMode mode;
+    QString label;
+};
+
+std::vector<OfferedMode> offeredModes() {
+    return {{AppMode::check, QStringLiteral("Prüfen")}};
+}
+
+}  // namespace
+
+SidebarPane::SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* parent)
+    : QScrollArea(parent), store(logStore), settings(userSettings) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAccessibleName(QStringLiteral("Seitenleiste"));
+
+    auto* content = new QWidget(viewport());
+    column = new QVBoxLayout(content);
+    column->setContentsMargins(12, 12, 12, 12);
+    column->setSpacing(18);
+    setWidget(content);
+
+    auto* view = new SidebarSection(QStringLiteral("Ansicht"), content);
+    modePicker = new CalmComboBox(view);
+    modePicker->setAccessibleName(QStringLiteral("Ansicht"));
+    for (const OfferedMode& offered : offeredModes()) {
+        modePicker->addItem(offered.label, QVariant::fromValue(static_cast<int>(offered.mode)));
+    }
+    view->add(modePicker);
+    column->addWidget(view);
+    column->addStretch(1);
+
+    connect(modePicker, &QComboBox::activated, this,
+            [this](int index) { store.setMode(static_cast<AppMode>(modePicker->itemData(index).toInt())); });
+    connect(&store, &LogStore::modeChanged, this, &SidebarPane::showMode);
+    showMode();
+}
+
+void SidebarPane::showMode() {
+    modePicker->setCurrentIndex(modePicker->findData(static_cast<int>(store.mode())));
+    delete sections;
+    sections = nullptr;
+    if (store.mode() == AppMode::check) {
+        auto* check = new CheckSections(store, settings, widget());
+        connect(check, &CheckSections::fieldAdded, this, &SidebarPane::fieldAdded);
+        sections = check;
+    }
+    if (sections != nullptr) {
+        column->insertWidget(1, sections);
+    }
+}
+
+}  // namespace quillon

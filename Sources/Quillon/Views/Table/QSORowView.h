@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Quillon/Views/Table/TableGeometry.h"
+#include "Tallyrig/Log/ADIFRecord.h"
+#include "Tallyrig/Validation/ValidationKind.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QPainter;
+class QPalette;
+class QRectF;
+
+namespace quillon {
+
+/// One row of the table: its ground, its mark and its cells.
+struct QSORowView {
+    const tallyrig::ADIFRecord& record;
+    const std::vector<std::string>& columns;
+    std::size_t rowIndex = 0;  ///< Among the displayed records.
+    bool isSelected = false;
+    std::optional<tallyrig::ValidationSeverity> severity;
+
+    /// `origin` is where the content's left edge and the row's top lie. Only the cells that meet `exposed`
+    /// are painted.
+    void paint(QPainter& painter, QPointF origin, const QRectF& exposed, const TableGeometry& geometry,
+               const QPalette& palette) const;
+};
+
+}  // namespace quillon

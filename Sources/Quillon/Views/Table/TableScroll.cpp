@@ -1,0 +1,113 @@
+#include "Quillon/Views/Table/TableScroll.h"
+
+#include "Quillon/Views/Table/TableGeometry.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace quillon {
+namespace {
+
+constexpr double smallestChange = 0.5;
+constexpr int horizontalStepPx = 20;
+
+bool isChange(double from, double to) {
+    return std::abs(from - to) > smallestChange;
+}
+
+/// Scroll bars count in whole pixels, more of which than any log needs.
+int wholePixels(double length) {
+    return static_cast<int>(std::clamp(std::ceil(length), 0.0, double{std::numeric_limits<int>::max()}));
+}
+
+}  // namespace
+
+TableScroll::TableScroll(QWidget* parent)
+    : QWidget(parent),
+      horizontal(new QScrollBar(Qt::Horizontal, this)),
+      vertical(new QScrollBar(Qt::Vertical, this)) {
+    horizontal->setSingleStep(horizontalStepPx);
+    vertical->setSingleStep(static_cast<int>(TableGeometry::rowHeight));
+    connect(horizontal, &QScrollBar::valueChanged, this, &TableScroll::report);
+    connect(vertical, &QScrollBar::valueChanged, this, &TableScroll::report);
+}
+
+void TableScroll::setContent(QWidget* headerWidget, QWidget* bodyWidget) {
+    header = headerWidget;
+    body = bodyWidget;
+    body->installEventFilter(this);
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(header, 0, 0);
+    layout->addWidget(body, 1, 0);
+    layout->addWidget(vertical, 1, 1);
+    layout->addWidget(horizontal, 2, 0);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
+}
+
+void TableScroll::setContentSize(QSizeF size) {
+    content = size;
+    fitBars();
+}
+
+double TableScroll::viewportWidth() const {
+    return body->width();
+}
+
+void TableScroll::setScrollX(double position) {
+    if (isChange(x, position)) {
+        horizontal->setValue(qRound(position));
+    }
+}
+
+void TableScroll::setScrollY(double position) {
+    if (isChange(y, position)) {
+        vertical->setValue(qRound(position));
+    }
+}
+
+bool TableScroll::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == body && event->type() == QEvent::Resize) {
+        fitBars();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TableScroll::wheelEvent(QWheelEvent* event) {
+    const bool sideways = std::abs(event->angleDelta().x()) > std::abs(event->angleDelta().y());
+    QApplication::sendEvent(sideways ? horizontal : vertical, event);
+}
+
+void TableScroll::fitBars() {
+    horizontal->setPageStep(body->width());
+    horizontal->setRange(0, std::max(0, wholePixels(content.width()) - body->width()));
+    vertical->setPageStep(body->height());
+    vertical->setRange(0, std::max(0, wholePixels(content.height()) - body->height()));
+    report();
+}
+
+void TableScroll::report() {
+    if (isChange(x, horizontal->value())) {
+        x = horizontal->value();
+        emit scrollXChanged();
+    }
+    if (isChange(y, vertical->value())) {
+        y = vertical->value();
+        emit scrollYChanged();
+    }
+    if (isChange(reportedHeight, body->height())) {
+        reportedHeight = body->height();
+        emit viewportHeightChanged();
+    }
+}
+
+}  // namespace quillon

@@ -1,0 +1,365 @@
+#include "Quillon/Views/Window/ContentView.h"
+
+#include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/PaneSplitter.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Detail/RecordDetailView.h"
+#include "Quillon/Views/Sheets/BulkEditSheet.h"
+#include "Quillon/Views/Sheets/CabrilloExportSheet.h"
+#include "Quillon/Views/Sheets/EDIExportSheet.h"
+#include "Quillon/Views/Sidebar/SidebarPane.h"
+#include "Quillon/Views/Table/QSOTableView.h"
+#include "Quillon/Views/Table/TableBody.h"
+#include "Quillon/Views/Table/TableQuestions.h"
+#include "Quillon/Views/Window/Commands.h"
+#include "Quillon/Views/Window/ErrorAlert.h"
+#include "Quillon/Views/Window/StatusLine.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr QSize minimumWindowSize(1000, 480);
+constexpr QSize firstWindowSize(1280, 800);
+constexpr int searchFieldWidthPx = 200;
+constexpr int resultsHeightPx = 200;
+
+constexpr PaneWidths sidebarWidths = {.least = 220, .ideal = 250, .most = 320};
+constexpr PaneWidths tableWidths = {.least = 420, .ideal = 600};
+constexpr PaneWidths detailWidths = {.least = 260, .ideal = 300, .most = 400};
+
+/// The first local file among what is dragged; empty if there is none.
+QString draggedFile(const QMimeData& data) {
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+            return url.toLocalFile();
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList arguments, QWidget* parent)
+    : QMainWindow(parent),
+      logStore(store),
+      settings(userSettings),
+      startArguments(std::move(arguments)),
+      questions(std::make_unique<TableDialogs>()) {
+    setMinimumSize(minimumWindowSize);
+    // On a small screen, or one with large letters, there is less room; the frame wants some of it.
+    constexpr QSize frame(16, 48);
+    resize(firstWindowSize.boundedTo(screen()->availableSize() - frame));
+    setAcceptDrops(true);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    commandActions = new CommandActions(*this);
+    buildMenus();
+    buildPanes();
+    buildToolBar();
+    followStore();
+    new ErrorAlert(logStore, *this);
+}
+
+ContentView::~ContentView() = default;
+
+void ContentView::newLog() {
+    logStore.newLog();
+    focusTable();
+}
+
+void ContentView::openWithPanel() {
+    logStore.openWithPanel();
+    focusTable();
+}
+
+void ContentView::addRecord() {
+    logStore.addRecord();
+    if (const tallyrig::ADIFRecord* added = logStore.selectedRecord()) {
+        table->scrollToRecord(added->id());
+    }
+}
+
+void ContentView::copySelection() {
+    QApplication::clipboard()->setText(toQString(logStore.selectionAsADIF()));
+}
+
+void ContentView::focusSearch() {
+    searchField->setFocus(Qt::ShortcutFocusReason);
+    searchField->selectAll();
+}
+
+void ContentView::toggleFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void ContentView::showAbout() {
+    auto* box = new QMessageBox(this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(QStringLiteral("Über Quillon"));
+    box->setIconPixmap(applicationIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
+    box->setText(QStringLiteral("<b>Quillon ") + appVersion() +
+                 QStringLiteral(
+                     "</b><p>Logbücher des Amateurfunks ansehen, bearbeiten,<br>prüfen und auswerten.</p>"));
+    box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box->open();
+}
+
+void ContentView::commitEditing() {
+    table->commitEditing();
+}
+
+void ContentView::buildMenus() {
+    for (const CommandMenu menu : allCommandMenus) {
+        QMenu* entry = menuBar()->addMenu(title(menu));
+        connect(entry, &QMenu::aboutToShow, commandActions,
+                [this, menu] { commandActions->showIcons(menu); });
+        for (const Command& command : commands()) {
+            if (command.menu != menu) {
+                continue;
+            }
+            if (command.startsGroup) {
+                entry->addSeparator();
+            }
+            entry->addAction(commandActions->action(command.id));
+        }
+    }
+}
+
+void ContentView::buildPanes() {
+    auto* area = new QWidget(this);
+    auto* areaLayout = new QVBoxLayout(area);
+    areaLayout->setContentsMargins(0, 0, 0, 0);
+    areaLayout->setSpacing(0);
+    setCentralWidget(area);
+
+    auto* splitter = new PaneSplitter(area);
+    auto* sidebar = new SidebarPane(logStore, settings, splitter);
+    auto* work = new QWidget(splitter);
+    tableColumn = new QVBoxLayout(work);
+    tableColumn->setContentsMargins(0, 0, 0, 0);
+    tableColumn->setSpacing(0);
+    table = new QSOTableView(logStore, *questions, work);
+    tableColumn->addWidget(table, 1);
+    detail = new RecordDetailView(logStore, splitter);
+    splitter->addPane(sidebar, sidebarWidths);
+    splitter->addPane(work, tableWidths);
+    splitter->addPane(detail, detailWidths);
+    splitter->setRoomTaker(1);
+
+    areaLayout->addWidget(splitter, 1);
+    areaLayout->addWidget(horizontalLine(area));
+    areaLayout->addWidget(new StatusLine(logStore, area));
+
+    for (const Command& command : commands()) {
+        if (command.reach == ShortcutReach::table) {
+            table->addAction(commandActions->action(command.id));
+        }
+    }
+    connect(sidebar, &SidebarPane::fieldAdded, detail, &RecordDetailView::focusLastField);
+}
+
+void ContentView::buildToolBar() {
+    QToolBar* bar = addToolBar(QStringLiteral("Symbolleiste"));
+    bar->setMovable(false);
+    bar->setIconSize(QSize(22, 22));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const Command& command : commands()) {
+        if (command.toolBarTitle.isEmpty()) {
+            continue;
+        }
+        if (command.startsToolBarGroup) {
+            bar->addSeparator();
+        }
+        bar->addAction(commandActions->action(command.id));
+    }
+
+    auto* gap = new QWidget(bar);
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(gap);
+
+    searchField = new QLineEdit(bar);
+    searchField->setPlaceholderText(QStringLiteral("Suchen"));
+    searchField->setAccessibleName(QStringLiteral("Suchen"));
+    searchField->setToolTip(commandActions->action(CommandID::find)->toolTip());
+    searchField->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    searchField->setFixedWidth(searchFieldWidthPx);
+    searchField->setAcceptDrops(false);
+    bar->addWidget(searchField);
+    auto* margin = new QWidget(bar);
+    margin->setFixedWidth(6);
+    bar->addWidget(margin);
+
+    connect(searchField, &QLineEdit::textChanged, this, [this](const QString& text) {
+        searchField->setClearButtonEnabled(true);
+        logStore.setSearchText(text);
+    });
+    connect(searchField, &QLineEdit::returnPressed, this, &ContentView::focusTable);
+    new QShortcut(Qt::Key_Down, searchField, this, &ContentView::focusTable, Qt::WidgetShortcut);
+    new QShortcut(
+        Qt::Key_Escape, searchField, this,
+        [this] {
+            searchField->clear();
+            focusTable();
+        },
+        Qt::WidgetShortcut);
+}
+
+void ContentView::followStore() {
+    connect(&logStore, &LogStore::windowTitleChanged, this, &ContentView::showTitle);
+    connect(&logStore, &LogStore::showCheckResultsChanged, this, &ContentView::showResults);
+    connect(&logStore, &LogStore::bulkEditColumnChanged, this, &ContentView::showBulkEdit);
+    connect(&logStore, &LogStore::showCabrilloExportChanged, this, &ContentView::showCabrilloExport);
+    connect(&logStore, &LogStore::showEDIExportChanged, this, &ContentView::showEDIExport);
+    connect(&logStore, &LogStore::searchTextChanged, this, [this] {
+        if (searchField->text() != logStore.searchText()) {
+            searchField->setText(logStore.searchText());
+        }
+    });
+    searchField->setText(logStore.searchText());
+    showTitle();
+    showResults();
+    showBulkEdit();
+    showCabrilloExport();
+    showEDIExport();
+}
+
+void ContentView::comeUp() {
+    matchIconsToPalette();
+    showBusyCursorUntilIdle();
+    logStore.openFromCommandLineIfNeeded(startArguments);
+    focusTable();
+    emit cameUp();
+}
+
+void ContentView::openFile(const QString& path) {
+    commitEditing();
+    showBusyCursorUntilIdle();
+    logStore.open(path);
+    focusTable();
+}
+
+void ContentView::focusTable() {
+    table->body().setFocus();
+}
+
+void ContentView::showResults() {
+    if (results == nullptr && logStore.showCheckResults()) {
+        results = new QWidget(this);
+        auto* layout = new QVBoxLayout(results);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+        auto* view = new CheckResultsView(logStore, results);
+        view->setFixedHeight(resultsHeightPx);
+        layout->addWidget(horizontalLine(results));
+        layout->addWidget(view);
+        tableColumn->addWidget(results);
+        setTabOrder(&table->body(), view);
+        connect(view, &CheckResultsView::recordChosen, table, &QSOTableView::scrollToRecord);
+        connect(view, &CheckResultsView::left, this, &ContentView::focusTable);
+    }
+    if (results != nullptr) {
+        results->setVisible(logStore.showCheckResults());
+    }
+}
+
+void ContentView::showBulkEdit() {
+    closeSheet(bulkEdit);
+    if (logStore.bulkEditColumn()) {
+        openSheet(bulkEdit, new BulkEditSheet(logStore, *logStore.bulkEditColumn(), this),
+                  [this] { logStore.setBulkEditColumn(std::nullopt); });
+    }
+}
+
+void ContentView::showCabrilloExport() {
+    closeSheet(cabrilloExport);
+    if (logStore.showCabrilloExport()) {
+        openSheet(cabrilloExport, new CabrilloExportSheet(logStore, this),
+                  [this] { logStore.setShowCabrilloExport(false); });
+    }
+}
+
+void ContentView::showEDIExport() {
+    closeSheet(ediExport);
+    if (logStore.showEDIExport()) {
+        openSheet(ediExport, new EDIExportSheet(logStore, this),
+                  [this] { logStore.setShowEDIExport(false); });
+    }
+}
+
+void ContentView::openSheet(QPointer<QDialog>& place, QDialog* sheet, const std::function<void()>& ended) {
+    place = sheet;
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &QDialog::finished, this, [&place, ended] {
+        place.clear();
+        ended();
+    });
+    sheet->open();
+}
+
+void ContentView::closeSheet(QPointer<QDialog>& place) {
+    if (place) {
+        disconnect(place, nullptr, this, nullptr);
+        place->close();
+        place.clear();
+    }
+}
+
+void ContentView::showTitle() {
+    // Qt takes "[*]" for the place of a mark; a file may be called so.
+    setWindowTitle(logStore.windowTitle().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+void ContentView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+        matchIconsToPalette();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void ContentView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedFile(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ContentView::dropEvent(QDropEvent* event) {
+    const QString path = draggedFile(*event->mimeData());
+    if (!path.isEmpty()) {
+        event->acceptProposedAction();
+        openFile(path);
+    }
+}
+
+void ContentView::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    // A long log is read when the user sees the window, not before.
+    if (!hasComeUp) {
+        hasComeUp = true;
+        QTimer::singleShot(0, this, &ContentView::comeUp);
+    }
+}
+
+}  // namespace quillon

@@ -1,0 +1,248 @@
+#include "Quillon/Views/Window/ContentView.h"
+
+#include "Quillon/Support/LogStoreFixture.h"
+#include "Quillon/Support/WidgetSearch.h"
+#include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Detail/FieldRow.h"
+#include "Quillon/Views/Detail/RecordDetailView.h"
+#include "Quillon/Views/Sheets/BulkEditSheet.h"
+#include "Quillon/Views/Sheets/EDIExportSheet.h"
+#include "Quillon/Views/Sidebar/SidebarPane.h"
+#include "Quillon/Views/Table/QSOTableView.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUrl>
+
+#include <algorithm>
+#include <memory>
+
+namespace quillon {
+namespace {
+
+class Window : public testing::LogStoreTest {
+  protected:
+    void show(const QStringList& arguments = {}) {
+        window = std::make_unique<ContentView>(store, settings, arguments);
+        QSignalSpy up(window.get(), &ContentView::cameUp);
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(up.wait());
+    }
+    QLineEdit& searchField() const {
+        for (QLineEdit* edit : window->findChildren<QLineEdit*>()) {
+            if (edit->placeholderText() == QStringLiteral("Suchen")) {
+                return *edit;
+            }
+        }
+        throw std::runtime_error("no search field");
+    }
+    QMessageBox* alert() const {
+        auto* box = window->findChild<QMessageBox*>();
+        return box != nullptr && box->isVisible() ? box : nullptr;
+    }
+    bool tableHasFocus() const {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus != nullptr && window->findChild<QSOTableView*>()->isAncestorOf(focus);
+    }
+
+    std::unique_ptr<ContentView> window;
+};
+
+TEST_F(Window, OpensTheLogOfTheArgumentsOnce) {
+    const QString path = folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=DL1ABC"}));
+    show({path});
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("a.adi"));
+    EXPECT_TRUE(tableHasFocus());
+    store.newLog();
+    window->hide();
+    window->show();
+    QApplication::processEvents();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Unbenanntes Logbuch"));
+}
+
+TEST_F(Window, HasTheTitleOfTheStore) {
+    show();
+    store.open(folder.write(QStringLiteral("mai[*].adi"), testing::adi({"CALL=DL1ABC"})));
+    store.addRecord();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("mai[*][*].adi — bearbeitet"));
+}
+
+TEST_F(Window, KeepsItsPanesInTheirWidths) {
+    show();
+    for (const int width : {1000, 1280, 3000}) {
+        SCOPED_TRACE(width);
+        window->resize(width, 480);
+        QApplication::processEvents();
+        const int sidebar = window->findChild<SidebarPane*>()->width();
+        const int detail = window->findChild<RecordDetailView*>()->width();
+        EXPECT_EQ(sidebar, 250);
+        EXPECT_EQ(detail, width == 1000 ? detail : 300);
+        EXPECT_GE(detail, 260);
+        EXPECT_EQ(window->findChild<QSOTableView*>()->width(), width - sidebar - detail - 2);
+    }
+    window->resize(100, 100);
+    EXPECT_EQ(window->size(), QSize(1000, 480));
+}
+
+TEST_F(Window, SearchesAsTheUserTypes) {
+    openLog({"CALL=DL1ABC", "CALL=OE1ABC"});
+    show();
+    window->focusSearch();
+    QTest::keyClicks(&searchField(), QStringLiteral("oe"));
+    EXPECT_EQ(shown(), "OE1ABC");
+    store.setSearchText(QStringLiteral("dl"));
+    EXPECT_EQ(searchField().text(), QStringLiteral("dl"));
+    QTest::keyClick(&searchField(), Qt::Key_Escape);
+    EXPECT_EQ(shown(), "DL1ABC OE1ABC");
+    EXPECT_TRUE(tableHasFocus());
+}
+
+TEST_F(Window, ShowsTheResultsOfACheckUnderTheTable) {
+    openLog({"CALL=DL1ABC", "CALL="});
+    show();
+    EXPECT_EQ(window->findChild<CheckResultsView*>(), nullptr);
+    store.runCheck();
+    auto* results = testing::shownChild<CheckResultsView>(*window);
+    ASSERT_NE(results, nullptr);
+    QApplication::processEvents();
+    EXPECT_EQ(results->height(), 200);
+    EXPECT_EQ(results->width(), window->findChild<QSOTableView*>()->width());
+    store.addRecord();
+    EXPECT_EQ(testing::shownChild<CheckResultsView>(*window), nullptr);
+}
+
+TEST_F(Window, TellsAnErrorUntilItIsRead) {
+    show();
+    EXPECT_EQ(alert(), nullptr);
+    store.setErrorMessage(QStringLiteral("first <b>line</b>\nsecond"));
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->windowTitle(), QStringLiteral("Fehler"));
+    EXPECT_EQ(alert()->textFormat(), Qt::PlainText);
+    EXPECT_EQ(alert()->buttons().size(), 1);
+    store.setErrorMessage(QStringLiteral("newer"));
+    EXPECT_EQ(alert()->text(), QStringLiteral("newer"));
+    testing::shownButton(*alert(), QStringLiteral("OK"))->click();
+    EXPECT_EQ(error(), "(none)");
+    EXPECT_EQ(alert(), nullptr);
+
+    store.open(folder.path(QStringLiteral("missing.adi")));
+    ASSERT_NE(alert(), nullptr);
+    QTest::keyClick(alert(), Qt::Key_Escape);
+    EXPECT_EQ(error(), "(none)");
+    store.setErrorMessage(QStringLiteral("again"));
+    EXPECT_NE(alert(), nullptr);
+    store.setErrorMessage(std::nullopt);
+    EXPECT_EQ(alert(), nullptr);
+}
+
+TEST_F(Window, OpensTheSheetOfTheBulkEditForItsColumn) {
+    openLog({"CALL=DL1ABC MODE=CW"});
+    show();
+    store.setBulkEditColumn("MODE");
+    auto* sheet = window->findChild<BulkEditSheet*>();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_TRUE(sheet->isVisible());
+    sheet->reject();
+    EXPECT_EQ(store.bulkEditColumn(), std::nullopt);
+    store.setBulkEditColumn("CALL");
+    EXPECT_TRUE(testing::shownTexts(*window->findChildren<BulkEditSheet*>().last()).find("(CALL)") !=
+                std::string::npos);
+}
+
+TEST_F(Window, OpensAnExportSheetForAsLongAsItsFlagStands) {
+    store.setShowEDIExport(true);
+    show();
+    const auto isOpen = [&] {
+        const auto sheets = window->findChildren<EDIExportSheet*>();
+        return std::ranges::any_of(sheets, [](const EDIExportSheet* sheet) { return sheet->isVisible(); });
+    };
+    EXPECT_TRUE(isOpen());
+    store.setShowEDIExport(false);
+    EXPECT_FALSE(isOpen());
+    store.setShowEDIExport(true);
+    EXPECT_TRUE(isOpen());
+    window->findChildren<EDIExportSheet*>().last()->reject();
+    EXPECT_FALSE(store.showEDIExport());
+}
+
+TEST_F(Window, TakesADroppedFile) {
+    show();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(folder.path(QStringLiteral("missing"))),
+                  QUrl::fromLocalFile(folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=DL1ABC"})))});
+    QDragEnterEvent enter(QPoint(500, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(500, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(title(), "a.adi");
+
+    QMimeData text;
+    text.setText(QStringLiteral("DL1ABC"));
+    QDragEnterEvent foreign(QPoint(500, 300), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    foreign.ignore();
+    QApplication::sendEvent(window.get(), &foreign);
+    EXPECT_FALSE(foreign.isAccepted());
+}
+
+TEST_F(Window, CopiesTheSelectedRecords) {
+    openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
+    show();
+    select({1});
+    window->copySelection();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), store.selectionAsADIF());
+    EXPECT_NE(QApplication::clipboard()->text().indexOf(QStringLiteral("DL2ABC")), -1);
+}
+
+TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
+    openLog({"CALL=DL1ABC NAME=Anna"});
+    show();
+    store.runCheck();
+    select({0});
+    std::string names;
+    for (int step = 0; step < 8; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        names += QApplication::focusWidget()->accessibleName().toStdString() + "\n";
+    }
+    EXPECT_EQ(names,
+              "Befunde\nErneut prüfen\nErgebnisleiste schließen\nRufzeichen\nFeld entfernen: Rufzeichen\n"
+              "Name\nFeld entfernen: Name\nSuchen\n");
+    std::string before;
+    for (int step = 0;
+         step < 40 && QApplication::focusWidget()->accessibleName() != QStringLiteral("QSO-Tabelle");
+         ++step) {
+        before = QApplication::focusWidget()->accessibleName().toStdString();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(before, "Spaltenköpfe") << "the way back leads over all that stands above the rows";
+}
+
+TEST_F(Window, HearsTheKeysOfTheLogFromTheDetailPane) {
+    openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
+    show();
+    select({0});
+    LogTextField& field = window->findChild<FieldRow*>()->valueField();
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_End);
+    QTest::keyClicks(&field, QStringLiteral("X"));
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(0, "CALL"), "DL1ABC");
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(cell(0, "CALL"), "DL1ABCX");
+    QTest::keyClick(&field, Qt::Key_Home);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    EXPECT_EQ(shown(), "L1ABCX DL2ABC") << "the key deletes a letter here, not the QSO";
+}
+
+}  // namespace
+}  // namespace quillon

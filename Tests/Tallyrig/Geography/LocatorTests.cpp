@@ -1,0 +1,83 @@
+#include "Tallyrig/Geography/Locator.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+TEST(Locator, NamesTheCentreOfItsSquareOrSubsquare) {
+    struct Case {
+        std::string locator;
+        double lat;
+        double lon;
+    };
+    const std::vector<Case> cases = {
+        {"JO62", 52.5, 13},
+        {"JO62QM", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
+        {"jo62qm", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
+        {" \tJO62 \u00A0", 52.5, 13},
+        {"AA00AA", -90 + 1 / 48.0, -180 + 1 / 24.0},
+        {"RR99XX", 90 - 1 / 48.0, 180 - 1 / 24.0},
+        {"RE78", -41.5, 175},
+        // What is no subsquare is passed over, and so is all behind it.
+        {"JO62Q", 52.5, 13},
+        {"JO62YM", 52.5, 13},
+        {"JO62QY", 52.5, 13},
+        {"JO6212", 52.5, 13},
+        {"JO62 QM", 52.5, 13},
+        {"JO62ÄM", 52.5, 13},
+        {"JO62QM\u0301", 52.5, 13},
+        {"JO62QM55XX", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
+        {"JO62QMÄ", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
+        {"\uFB0022", -90 + 50 + 2.5, -180 + 100 + 5},  // the ligature of two f in upper case
+    };
+    for (const Case& c : cases) {
+        const auto coordinate = maidenheadToCoordinate(c.locator);
+        ASSERT_TRUE(coordinate) << c.locator;
+        EXPECT_NEAR(coordinate->lat, c.lat, 1e-12) << c.locator;
+        EXPECT_NEAR(coordinate->lon, c.lon, 1e-12) << c.locator;
+    }
+}
+
+TEST(Locator, NeedsTwoLettersFromAToRAndTwoDigits) {
+    for (const char* locator : {"", "   ", "J", "JO6", "SO62", "JS62", "J062", "JOA2", "JO6A", "62JO", "ÄO62",
+                                "J\u0301O62", "JO٦٢", "JO 62", "\r\nJO62"}) {
+        EXPECT_FALSE(maidenheadToCoordinate(locator)) << locator;
+        EXPECT_FALSE(greatCircleKm(locator, "JO62")) << locator;
+        EXPECT_FALSE(distanceKm("JO62", locator)) << locator;
+    }
+}
+
+// The distances were worked out from the angle between the vectors to both points.
+TEST(Distance, IsAlongTheGreatCircle) {
+    struct Case {
+        std::string from;
+        std::string to;
+        double km;
+        int wholeKm;
+    };
+    const std::vector<Case> cases = {
+        {"JO62", "JO62", 0, 0},
+        {"JO62", "JO63", 111.19492664455846, 111},
+        {"JO62", "JO72", 135.3780386081784, 135},
+        {"JO62QM", "JO62RM", 5.638258137925389, 6},
+        {"JO62QM", "JN58TD", 502.04402485312085, 502},
+        {"JO62QM", "FN31PR", 6226.636758442741, 6227},
+        {"RE78", "QF56", 2286.7390387141377, 2287},
+        {"AI00", "RI90", 219.33960684426947, 219},  // across the date line
+        {"AA00", "RR99", 19903.908805331746, 19904},
+        {"AA00", "JR09", 20015.086796020572, 20015},  // antipodes
+    };
+    for (const Case& c : cases) {
+        EXPECT_NEAR(greatCircleKm(c.from, c.to).value_or(-1), c.km, 1e-6) << c.from << ' ' << c.to;
+        EXPECT_NEAR(greatCircleKm(c.to, c.from).value_or(-1), c.km, 1e-6) << c.to << ' ' << c.from;
+        EXPECT_EQ(distanceKm(c.from, c.to), c.wholeKm) << c.from << ' ' << c.to;
+    }
+}
+
+}  // namespace
+}  // namespace tallyrig
