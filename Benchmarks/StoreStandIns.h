@@ -35,6 +35,7 @@ class FixedWidths : public TextMeasurer {
     double width(MeasuredFont, std::string_view text) const override {
         return 7.0 * static_cast<double>(text.size());
     }
+    double height(MeasuredFont) const override { return 16; }
 };
 
 /// A store with a log of `count` QSOs in it.

@@ -21,6 +21,9 @@ class TextMeasurer {
 
     /// The width of `text` (UTF-8) on one line, in logical pixels.
     virtual double width(MeasuredFont font, std::string_view text) const = 0;
+    /// The height of a line from the top of the tallest letter to the bottom of the deepest, in logical
+    /// pixels.
+    virtual double height(MeasuredFont font) const = 0;
 };
 
 }  // namespace quillon

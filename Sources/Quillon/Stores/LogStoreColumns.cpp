@@ -1,4 +1,5 @@
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
+#include "Quillon/Platform/TableMetrics.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
 #include "Tallyrig/Log/PerTag.h"
@@ -243,8 +244,7 @@ double LogStore::fittingWidth(std::string_view name) const {
 std::vector<double> LogStore::fittingWidths(const std::vector<std::string>& names) const {
     constexpr std::size_t mostMeasuredOneByOne = 5999;
     constexpr std::size_t sampleSize = 3000;
-    constexpr double cellMargins = 16;
-    constexpr double reserve = 6;
+    const TableMetrics metrics = TableMetrics::forFontHeight(measurer.height(MeasuredFont::cell));
     const auto wholeWidth = [this](MeasuredFont font, std::string_view shown) {
         return std::ceil(measurer.width(font, beginningOf(shown)));
     };
@@ -287,11 +287,13 @@ std::vector<double> LogStore::fittingWidths(const std::vector<std::string>& name
     std::vector<double> widths;
     widths.reserve(names.size());
     for (const FittedColumn& column : fitted) {
-        const double dot = column.name == "BAND" ? 13 : 0;  // The coloured one in front of the text.
-        const double label = wholeWidth(MeasuredFont::label, ADIFFieldCatalog::label(column.name)) + 12;
-        const double tag = wholeWidth(MeasuredFont::tag, "<" + column.name) + 22;
+        const double dot = column.name == "BAND" ? metrics.bandDotRoom : 0;
+        const double label =
+            wholeWidth(MeasuredFont::label, ADIFFieldCatalog::label(column.name)) + metrics.sortMarkRoom;
+        const double tag = wholeWidth(MeasuredFont::tag, "<" + column.name) + metrics.menuRoom;
         const double content = fitted[column.source].content + dot;
-        widths.push_back(std::clamp(std::max({content, label, tag}) + cellMargins + reserve, 60.0, 320.0));
+        widths.push_back(std::clamp(
+            std::max({content, label, tag}) + metrics.cellMargins + metrics.handleRoom, 60.0, 320.0));
     }
     return widths;
 }

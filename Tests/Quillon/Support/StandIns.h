@@ -55,6 +55,7 @@ class FixedMeasurer : public TextMeasurer {
         }
         return bytes.at(font) * static_cast<double>(text.size());
     }
+    double height(MeasuredFont) const override { return 16; }
 
     std::map<MeasuredFont, double> bytes = {
         {MeasuredFont::cell, 7.3}, {MeasuredFont::label, 6}, {MeasuredFont::tag, 5}};

@@ -50,6 +50,10 @@ QFont fontFor(MeasuredFont font) {
     return QGuiApplication::font();
 }
 
+TableMetrics desktopTableMetrics() {
+    return TableMetrics::forFontHeight(QFontMetricsF(fontFor(MeasuredFont::cell)).height());
+}
+
 FontMeasurer::FontWidths::FontWidths(const QFont& font)
     : metrics(font), letters(asciiSize, unknown), kernings(asciiSize * asciiSize, unknown) {}
 
@@ -85,6 +89,10 @@ double FontMeasurer::width(MeasuredFont font, std::string_view text) const {
     return isPrintableASCII ? fontWidths.ofPrintableASCII(text)
                             : fontWidths.metrics.horizontalAdvance(
                                   QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+double FontMeasurer::height(MeasuredFont font) const {
+    return widths(font).metrics.height();
 }
 
 FontMeasurer::FontWidths& FontMeasurer::widths(MeasuredFont font) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Platform/TableMetrics.h"
 #include "Quillon/Platform/TextMeasurer.h"
 
 #include <QFont>
@@ -18,6 +19,10 @@ QFont fontFor(MeasuredFont font);
 /// The font for captions and notes: the font of the application, a step smaller.
 QFont smallFont();
 
+/// The measures of tables in the font of the cells, as the desktop is set up now. The stores, given a
+/// `FontMeasurer`, reckon with the same.
+TableMetrics desktopTableMetrics();
+
 /// Measures with the fonts of the desktop. Lives on the main thread, while there is an application.
 ///
 /// A log has many thousand short texts of the same few letters, and shaping each one is what opening it would
@@ -26,6 +31,7 @@ QFont smallFont();
 class FontMeasurer : public TextMeasurer {
   public:
     double width(MeasuredFont font, std::string_view text) const override;
+    double height(MeasuredFont font) const override;
 
   private:
     struct FontWidths {
