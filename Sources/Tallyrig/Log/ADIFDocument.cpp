@@ -2,8 +2,10 @@
 
 #include "Tallyrig/Log/RecordEditor.h"
 #include "Tallyrig/Log/RecordSearch.h"
+#include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Text/Text.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -23,6 +25,16 @@ std::string replaced(std::string_view value, std::string_view find, std::string_
         result += replacement;
         value.remove_prefix(at + find.size());
     }
+}
+
+/// The number of records whose value in the column, empty where they have none, fits.
+template <typename Condition>
+std::size_t countValues(const ADIFRecordList& records, std::string_view column, Condition fits) {
+    RecordValues values({column});
+    return static_cast<std::size_t>(std::ranges::count_if(records, [&](const ADIFRecord& record) {
+        values.read(record);
+        return fits(values.valueOrEmpty(0));
+    }));
 }
 
 }  // namespace
@@ -121,6 +133,16 @@ std::size_t ADIFDocument::replaceInColumn(std::string_view name, std::string_vie
             return std::nullopt;
         }
         return editor.setValue(record, column, replaced(record.stored().value(*index), find, replacement));
+    });
+}
+
+std::size_t ADIFDocument::countWithoutValue(std::string_view column) const {
+    return countValues(recordList, column, [](std::string_view value) { return value.empty(); });
+}
+
+std::size_t ADIFDocument::countContaining(std::string_view column, std::string_view find) const {
+    return find.empty() ? 0 : countValues(recordList, column, [&](std::string_view value) {
+        return text::contains(value, find);
     });
 }
 

@@ -49,6 +49,12 @@ class ADIFDocument {
     /// stays as a field.
     std::size_t replaceInColumn(std::string_view name, std::string_view find, std::string_view replacement);
 
+    /// The number of records that have no such field or an empty value in it.
+    std::size_t countWithoutValue(std::string_view column) const;
+    /// The number of records whose value in the column contains `find`, as `replaceInColumn` understands it;
+    /// 0 for an empty `find`.
+    std::size_t countContaining(std::string_view column, std::string_view find) const;
+
     /// Whether both are copies of one document, unchanged: true only if they are equal, and at once.
     bool isSameAs(const ADIFDocument& other) const {
         return header == other.header && recordList.isSameAs(other.recordList);

@@ -74,6 +74,8 @@ TEST(SettingAColumn, CountsTheRecordsThatItChanges) {
     const ADIFDocument log =
         document({{{"MODE", "CW"}}, {{"MODE", ""}}, {{"CALL", "DL1AB"}}, {{"MODE", "SSB"}}});
 
+    EXPECT_EQ(log.countWithoutValue("mode"), 2U) << "what a value for the empty ones will touch";
+
     ADIFDocument all = log;
     EXPECT_EQ(all.setColumn("mode", "SSB", ColumnTarget::allRecords), 3U);
     EXPECT_EQ(pairs(all.records()[2]), (Pairs{{"CALL", "DL1AB"}, {"MODE", "SSB"}}));
@@ -101,6 +103,8 @@ TEST(ReplacingInAColumn, IsLiteralAndKeepsEmptiedFields) {
     ADIFDocument log =
         document({{{"QTH", "Ulm Ulm"}}, {{"QTH", "ulm"}}, {{"CALL", "Ulm"}}, {{"QTH", "Ulm"}}});
     EXPECT_EQ(log.replaceInColumn("qth", "", "x"), 0U);
+    EXPECT_EQ(log.countContaining("qth", ""), 0U);
+    EXPECT_EQ(log.countContaining("qth", "Ulm"), 2U);
     EXPECT_EQ(log.replaceInColumn("qth", "Ulm", ""), 2U);
     EXPECT_EQ(log.records()[0]["QTH"], " ");
     EXPECT_EQ(log.records()[1]["QTH"], "ulm");
