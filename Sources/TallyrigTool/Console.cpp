@@ -1,6 +1,7 @@
 #include "TallyrigTool/Console.h"
 
 #include "Tallyrig/Text/Decoding.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -106,26 +107,7 @@ std::string readStandardInput() {
 }
 
 std::string visible(std::string_view text) {
-    const std::string whole = text::repaired(text);
-    std::string shown;
-    shown.reserve(whole.size());
-    for (std::size_t index = 0; index < whole.size(); ++index) {
-        const auto byte = static_cast<unsigned char>(whole[index]);
-        const auto next = static_cast<unsigned char>(index + 1 < whole.size() ? whole[index + 1] : 0);
-        if (byte < 0x20) {
-            // U+2400 and on are the symbols of the control characters, in their order.
-            shown += "\xE2\x90";
-            shown += static_cast<char>(0x80 + byte);
-        } else if (byte == 0x7F) {
-            shown += "\u2421";
-        } else if (byte == 0xC2 && next < 0xA0) {
-            shown += "\uFFFD";
-            ++index;
-        } else {
-            shown += whole[index];
-        }
-    }
-    return shown;
+    return text::visibleText(text::repaired(text));
 }
 
 std::string counted(std::size_t number, std::string_view singular, std::string_view plural) {

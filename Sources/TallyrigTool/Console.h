@@ -37,8 +37,7 @@ void prepareStandardStreams();
 /// All of standard input. Throws a `Failure` if it cannot be read, or has been read before.
 std::string readStandardInput();
 
-/// `text` for one line of a terminal: control characters, such as a log may hold, become the symbols for
-/// them.
+/// `text`, any bytes, for one line of a terminal: `text::visibleText` with U+FFFD for what is no UTF-8.
 std::string visible(std::string_view text);
 
 /// `number` in front of the word that goes with it: "1 QSO", "2 QSOs".

@@ -1,0 +1,89 @@
+#include "Tallyrig/Text/VisibleText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace tallyrig::text {
+
+namespace {
+
+/// What is not ASCII and has a sign of its own.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 14> signs = {{
+    {"\u061C", "⟨ALM⟩"},
+    {"\u200E", "⟨LRM⟩"},
+    {"\u200F", "⟨RLM⟩"},
+    {"\u2028", "⏎"},
+    {"\u2029", "⏎"},
+    {"\u202A", "⟨LRE⟩"},
+    {"\u202B", "⟨RLE⟩"},
+    {"\u202C", "⟨PDF⟩"},
+    {"\u202D", "⟨LRO⟩"},
+    {"\u202E", "⟨RLO⟩"},
+    {"\u2066", "⟨LRI⟩"},
+    {"\u2067", "⟨RLI⟩"},
+    {"\u2068", "⟨FSI⟩"},
+    {"\u2069", "⟨PDI⟩"},
+}};
+
+constexpr char firstOfHigherControls = '\xC2';
+
+/// Whether a character that has a sign may begin with `byte`.
+bool mayNeedSign(char byte) {
+    const auto code = static_cast<unsigned char>(byte);
+    return code < 0x20 || code == 0x7F || byte == firstOfHigherControls || byte == '\xD8' || byte == '\xE2';
+}
+
+/// Appends the sign for the character at the front of `text`, if it needs one, and returns how many bytes it
+/// stands for, otherwise 0.
+std::size_t appendSign(std::string& shown, std::string_view text) {
+    const auto code = static_cast<unsigned char>(text.front());
+    if (text.starts_with("\r\n") || code == '\n') {
+        shown += "⏎";
+        return code == '\n' ? 1 : 2;
+    }
+    if (code < 0x20) {
+        // U+2400 and on are the pictures of the control characters, in their order.
+        shown += {'\xE2', '\x90', static_cast<char>(0x80 + code)};
+        return 1;
+    }
+    if (code == 0x7F) {
+        shown += "\u2421";
+        return 1;
+    }
+    if (text.size() > 1 && text[0] == firstOfHigherControls && static_cast<unsigned char>(text[1]) < 0xA0) {
+        shown += "\uFFFD";
+        return 2;
+    }
+    const auto* const sign =
+        std::ranges::find_if(signs, [text](const auto& entry) { return text.starts_with(entry.first); });
+    if (sign == signs.end()) {
+        return 0;
+    }
+    shown += sign->second;
+    return sign->first.size();
+}
+
+}  // namespace
+
+std::string visibleText(std::string_view text) {
+    std::string shown;
+    while (!text.empty()) {
+        const auto* const doubtful = std::ranges::find_if(text, mayNeedSign);
+        shown.append(text.begin(), doubtful);
+        text.remove_prefix(static_cast<std::size_t>(doubtful - text.begin()));
+        if (text.empty()) {
+            break;
+        }
+        std::size_t length = appendSign(shown, text);
+        if (length == 0) {
+            shown += text.front();
+            length = 1;
+        }
+        text.remove_prefix(length);
+    }
+    return shown;
+}
+
+}  // namespace tallyrig::text
