@@ -1,5 +1,6 @@
 #include "Quillon/App/QuillonApp.h"
 
+#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Window/ContentView.h"
 
@@ -17,6 +18,7 @@ void setUp(QApplication& application, QTranslator& translator) {
     QApplication::setApplicationVersion(appVersion());
     QApplication::setDesktopFileName(QStringLiteral("quillon"));
     QApplication::setWindowIcon(applicationIcon());
+    makeSecondaryTextReadable();
     const QLocale german(QLocale::German, QLocale::Germany);
     QLocale::setDefault(german);
     if (translator.load(german, QStringLiteral("qtbase"), QStringLiteral("_"),

@@ -7,9 +7,9 @@ namespace quillon {
 /// All are whole numbers. They are the usual ones for every font that fits into a row of 22 pixels, and grow
 /// in proportion to the row for larger ones.
 struct TableMetrics {
-    double rowHeight = 22;    ///< With the line that separates it from the next.
-    double cellMargins = 16;  ///< Left and right of a cell's text together, half of it on each side.
-    double bandDotRoom = 13;  ///< The coloured dot in front of a band, with the space behind it.
+    double rowHeight = 22;     ///< With the line that separates it from the next.
+    double cellMargins = 16;   ///< Left and right of a cell's text together, half of it on each side.
+    double bandDotRoom = 13;   ///< The coloured dot in front of a band, with the space behind it.
     double sortMarkRoom = 12;  ///< The chevron behind the label of a sorted column, with the space before it.
     double handleRoom = 6;     ///< At a column's right edge, for the handle that changes its width.
     double menuRoom = 22;      ///< The button of a column's menu and the handle's room to the right of it.

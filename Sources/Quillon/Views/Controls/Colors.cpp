@@ -1,5 +1,10 @@
 #include "Quillon/Views/Controls/Colors.h"
 
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <cmath>
+
 namespace quillon {
 namespace {
 
@@ -34,6 +39,25 @@ QColor systemTone(SystemColor color) {
     return {0x8E, 0x8E, 0x93};
 }
 
+/// The light that a colour gives off, from 0 for black to 1 for white.
+double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double leastContrast(const QColor& color, const QList<QColor>& grounds) {
+    double least = 21;
+    for (const QColor& ground : grounds) {
+        least = std::min(least, contrast(color, ground));
+    }
+    return least;
+}
+
+/// The share of text in a secondary colour: less of it reads as disabled.
+constexpr double secondaryShare = 0.62;
+
 }  // namespace
 
 QColor screenColor(const PaletteColor& color) {
@@ -48,6 +72,48 @@ QColor screenColor(const PaletteColor& color) {
 QColor withOpacity(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(opacity));
     return color;
+}
+
+QColor blended(const QColor& above, double share, const QColor& below) {
+    const auto part = [share](int over, int under) { return qRound(share * over + (1 - share) * under); };
+    return {part(above.red(), below.red()), part(above.green(), below.green()),
+            part(above.blue(), below.blue())};
+}
+
+double contrast(const QColor& one, const QColor& other) {
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor standingOut(const QColor& color, const QList<QColor>& grounds, double least) {
+    constexpr int steps = 50;
+    for (int step = 0; step <= steps; ++step) {
+        for (const QColor& extreme : {QColor(Qt::black), QColor(Qt::white)}) {
+            const QColor shade = blended(extreme, static_cast<double>(step) / steps, color);
+            if (leastContrast(shade, grounds) >= least) {
+                return shade;
+            }
+        }
+    }
+    return leastContrast(Qt::black, grounds) >= leastContrast(Qt::white, grounds) ? Qt::black : Qt::white;
+}
+
+QColor secondaryTextColor(const QPalette& palette, QPalette::ColorGroup group) {
+    const QColor window = palette.color(group, QPalette::Window);
+    return standingOut(
+        blended(palette.color(group, QPalette::WindowText), secondaryShare, window),
+        {window, palette.color(group, QPalette::Base), palette.color(group, QPalette::AlternateBase)},
+        textContrast);
+}
+
+void makeSecondaryTextReadable() {
+    QPalette palette = QGuiApplication::palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::PlaceholderText, secondaryTextColor(palette, group));
+    }
+    if (palette != QGuiApplication::palette()) {
+        QGuiApplication::setPalette(palette);
+    }
 }
 
 }  // namespace quillon

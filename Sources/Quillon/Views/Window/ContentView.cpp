@@ -3,6 +3,7 @@
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
@@ -335,6 +336,7 @@ void ContentView::showTitle() {
 void ContentView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
         matchIconsToPalette();
+        makeSecondaryTextReadable();
     }
     QMainWindow::changeEvent(event);
 }

@@ -1,0 +1,50 @@
+#include "Quillon/Views/Controls/Colors.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+namespace quillon {
+namespace {
+
+/// Palettes of desktops: window, base, alternate base, text.
+const QColor desktops[][4] = {
+    {"#efefef", "#ffffff", "#f7f7f7", "#000000"},
+    {"#2a2e32", "#1b1e20", "#232629", "#fcfcfc"},
+    {"#222020", "#3d3d3d", "#5c5b5a", "#ffffff"},
+};
+
+TEST(Contrast, IsReckonedByTheLightOfBothColors) {
+    EXPECT_DOUBLE_EQ(contrast(Qt::black, Qt::white), 21);
+    EXPECT_NEAR(contrast(QColor("#767676"), Qt::white), 4.54, 0.01) << "known for the palest readable gray";
+    EXPECT_NEAR(contrast(Qt::red, Qt::white), 4.0, 0.01);
+}
+
+TEST(Color, StandsOutFromEachGround) {
+    const QColor pale("#9acdf2");
+    EXPECT_EQ(standingOut(pale, {Qt::black}, shapeContrast), pale) << "what stands out stays";
+    const QColor darker = standingOut(pale, {Qt::white, "#dddddd"}, shapeContrast);
+    EXPECT_GE(contrast(darker, "#dddddd"), shapeContrast);
+    EXPECT_LT(contrast(darker, "#dddddd"), shapeContrast + 0.3) << "no further than needed";
+    EXPECT_EQ(standingOut(pale, {Qt::white, Qt::black, "#eeeeee"}, 6), QColor(Qt::black)) << "best of two";
+}
+
+TEST(SecondaryText, IsReadableOnEveryDesktop) {
+    const QPalette before = QApplication::palette();
+    for (const auto& [window, base, alternate, text] : desktops) {
+        SCOPED_TRACE(window.name().toStdString());
+        QPalette palette(text, window, window, window, window, text, text, base, window);
+        palette.setColor(QPalette::AlternateBase, alternate);
+        QApplication::setPalette(palette);
+        makeSecondaryTextReadable();
+        const QColor secondary = QApplication::palette().color(QPalette::PlaceholderText);
+        for (const QColor& ground : {window, base, alternate}) {
+            EXPECT_GE(contrast(secondary, ground), textContrast) << ground.name().toStdString();
+        }
+        EXPECT_LT(contrast(secondary, window), contrast(text, window)) << "it stands back behind the text";
+    }
+    QApplication::setPalette(before);
+}
+
+}  // namespace
+}  // namespace quillon
