@@ -27,10 +27,10 @@ struct ADIFRecordList::Leaf {
 
 /// No leaf is empty.
 struct ADIFRecordList::Branch {
-    std::vector<std::shared_ptr<Leaf>> leaves;
+    std::vector<Shared<Leaf>> leaves;
     std::vector<std::size_t> ends;  ///< Behind each leaf, counted from the start of the branch.
 
-    void append(std::shared_ptr<Leaf> leaf) {
+    void append(Shared<Leaf> leaf) {
         ends.push_back(startOf(ends, ends.size()) + leaf->records.size());
         leaves.push_back(std::move(leaf));
     }
@@ -38,20 +38,19 @@ struct ADIFRecordList::Branch {
 
 /// No branch is empty.
 struct ADIFRecordList::Root {
-    std::vector<std::shared_ptr<Branch>> branches;
+    std::vector<Shared<Branch>> branches;
     std::vector<std::size_t> ends;  ///< Behind each branch, counted from the start of the list.
     bool idsAscend = true;
 
     std::size_t size() const { return ends.empty() ? 0 : ends.back(); }
     const ADIFRecord& last() const { return branches.back()->leaves.back()->records.back(); }
 
-    /// Appends at the end a leaf that nobody else holds.
-    void append(std::shared_ptr<Leaf> leaf) {
+    void append(Shared<Leaf> leaf) {
         if (branches.empty() || branches.back()->leaves.size() == branchCapacity) {
-            branches.push_back(std::make_shared<Branch>());
+            branches.push_back(Shared<Branch>::make());
             ends.push_back(size());
         }
-        branches.back()->append(std::move(leaf));
+        branches.back().own().append(std::move(leaf));
         ends.back() = startOf(ends, ends.size() - 1) + branches.back()->ends.back();
     }
 };
@@ -89,23 +88,30 @@ ADIFRecordList::Iterator& ADIFRecordList::Iterator::operator++() {
     return *this;
 }
 
-ADIFRecordList::ADIFRecordList() : root(std::make_shared<Root>()) {}
+ADIFRecordList::ADIFRecordList() : root(Shared<Root>::make()) {}
 
 ADIFRecordList::ADIFRecordList(std::vector<ADIFRecord> records) : ADIFRecordList() {
     for (std::size_t begin = 0; begin < records.size(); begin += leafCapacity) {
         const std::size_t count = std::min(leafCapacity, records.size() - begin);
         const auto from = std::make_move_iterator(records.begin() + static_cast<std::ptrdiff_t>(begin));
-        auto leaf = std::make_shared<Leaf>();
-        leaf->records.assign(from, from + static_cast<std::ptrdiff_t>(count));
-        for (const ADIFRecord& record : leaf->records) {
-            const ADIFRecord* const previous = &record != leaf->records.data() ? &record - 1
-                                               : root->size() > 0              ? &root->last()
-                                                                               : nullptr;
-            root->idsAscend = root->idsAscend && (previous == nullptr || previous->id() < record.id());
+        Leaf leaf;
+        leaf.records.assign(from, from + static_cast<std::ptrdiff_t>(count));
+        Root& own = root.own();
+        for (const ADIFRecord& record : leaf.records) {
+            const ADIFRecord* const previous = &record != leaf.records.data() ? &record - 1
+                                               : own.size() > 0               ? &own.last()
+                                                                              : nullptr;
+            own.idsAscend = own.idsAscend && (previous == nullptr || previous->id() < record.id());
         }
-        root->append(std::move(leaf));
+        own.append(Shared<Leaf>::make(std::move(leaf)));
     }
 }
+
+ADIFRecordList::ADIFRecordList(const ADIFRecordList& other) = default;
+ADIFRecordList::ADIFRecordList(ADIFRecordList&& other) noexcept = default;
+ADIFRecordList& ADIFRecordList::operator=(const ADIFRecordList& other) = default;
+ADIFRecordList& ADIFRecordList::operator=(ADIFRecordList&& other) noexcept = default;
+ADIFRecordList::~ADIFRecordList() = default;
 
 std::size_t ADIFRecordList::size() const {
     return root->size();
@@ -120,11 +126,11 @@ const ADIFRecord& ADIFRecordList::operator[](std::size_t index) const {
 }
 
 ADIFRecordList::Iterator ADIFRecordList::begin() const {
-    return {root.get(), 0, 0, 0};
+    return {&*root, 0, 0, 0};
 }
 
 ADIFRecordList::Iterator ADIFRecordList::end() const {
-    return {root.get(), root->branches.size(), 0, 0};
+    return {&*root, root->branches.size(), 0, 0};
 }
 
 ADIFRecordList::Iterator ADIFRecordList::at(std::size_t index) const {
@@ -135,7 +141,7 @@ ADIFRecordList::Iterator ADIFRecordList::at(std::size_t index) const {
     const Branch& branch = *root->branches[branchIndex];
     const std::size_t within = index - startOf(root->ends, branchIndex);
     const std::size_t leafIndex = childAt(branch.ends, within);
-    return {root.get(), branchIndex, leafIndex, within - startOf(branch.ends, leafIndex)};
+    return {&*root, branchIndex, leafIndex, within - startOf(branch.ends, leafIndex)};
 }
 
 std::optional<std::size_t> ADIFRecordList::indexOf(UUID id) const {
@@ -155,9 +161,9 @@ std::optional<std::size_t> ADIFRecordList::indexOf(UUID id) const {
         return std::nullopt;
     }
     const auto& leaves = (*branch)->leaves;
-    const auto leaf = std::partition_point(
-        leaves.begin(), leaves.end(),
-        [&](const std::shared_ptr<Leaf>& node) { return node->records.back().id() < id; });
+    const auto leaf = std::partition_point(leaves.begin(), leaves.end(), [&](const Shared<Leaf>& node) {
+        return node->records.back().id() < id;
+    });
     const auto& records = (*leaf)->records;
     const auto record = std::partition_point(
         records.begin(), records.end(), [&](const ADIFRecord& candidate) { return candidate.id() < id; });
@@ -169,43 +175,17 @@ std::optional<std::size_t> ADIFRecordList::indexOf(UUID id) const {
            static_cast<std::size_t>(record - records.begin());
 }
 
-ADIFRecordList::Root& ADIFRecordList::ownRoot() {
-    if (root.use_count() != 1) {
-        root = std::make_shared<Root>(*root);
-    }
-    return *root;
-}
-
-ADIFRecordList::Branch& ADIFRecordList::ownBranch(std::size_t index) {
-    auto& branch = ownRoot().branches[index];
-    if (branch.use_count() != 1) {
-        branch = std::make_shared<Branch>(*branch);
-    }
-    return *branch;
-}
-
-ADIFRecordList::Leaf& ADIFRecordList::ownLeaf(Branch& branch, std::size_t index) {
-    auto& leaf = branch.leaves[index];
-    if (leaf.use_count() != 1) {
-        leaf = std::make_shared<Leaf>(*leaf);
-    }
-    return *leaf;
-}
-
 void ADIFRecordList::append(ADIFRecord record) {
-    Root& own = ownRoot();
+    Root& own = root.own();
     own.idsAscend = own.idsAscend && (own.size() == 0 || own.last().id() < record.id());
     if (own.branches.empty() || own.branches.back()->leaves.back()->records.size() >= leafCapacity) {
-        if (!own.branches.empty() && own.branches.back()->leaves.size() < branchCapacity) {
-            ownBranch(own.branches.size() - 1);
-        }
-        auto leaf = std::make_shared<Leaf>();
-        leaf->records.push_back(std::move(record));
-        own.append(std::move(leaf));
+        Leaf leaf;
+        leaf.records.push_back(std::move(record));
+        own.append(Shared<Leaf>::make(std::move(leaf)));
         return;
     }
-    Branch& branch = ownBranch(own.branches.size() - 1);
-    ownLeaf(branch, branch.leaves.size() - 1).records.push_back(std::move(record));
+    Branch& branch = own.branches.back().own();
+    branch.leaves.back().own().records.push_back(std::move(record));
     ++branch.ends.back();
     ++own.ends.back();
 }
@@ -215,23 +195,25 @@ void ADIFRecordList::replace(std::size_t index, ADIFRecord record) {
 }
 
 void ADIFRecordList::modify(std::size_t index, const std::function<void(ADIFRecord&)>& change) {
-    const std::size_t branchIndex = childAt(root->ends, index);
-    Branch& branch = ownBranch(branchIndex);
-    const std::size_t within = index - startOf(root->ends, branchIndex);
+    Root& own = root.own();
+    const std::size_t branchIndex = childAt(own.ends, index);
+    Branch& branch = own.branches[branchIndex].own();
+    const std::size_t within = index - startOf(own.ends, branchIndex);
     const std::size_t leafIndex = childAt(branch.ends, within);
-    ADIFRecord& record = ownLeaf(branch, leafIndex).records[within - startOf(branch.ends, leafIndex)];
+    Leaf& leaf = branch.leaves[leafIndex].own();
+    ADIFRecord& record = leaf.records[within - startOf(branch.ends, leafIndex)];
     const UUID id = record.id();
     change(record);
-    root->idsAscend = root->idsAscend && record.id() == id;
+    own.idsAscend = own.idsAscend && record.id() == id;
 }
 
 std::size_t ADIFRecordList::removeIf(const std::function<bool(const ADIFRecord&)>& isRemoved) {
-    auto kept = std::make_shared<Root>();
-    kept->idsAscend = root->idsAscend;
+    Root kept;
+    kept.idsAscend = root->idsAscend;
     std::size_t removed = 0;
-    for (const auto& branch : root->branches) {
-        auto newBranch = std::make_shared<Branch>();
-        for (const auto& leaf : branch->leaves) {
+    for (const Shared<Branch>& branch : root->branches) {
+        Branch newBranch;
+        for (const Shared<Leaf>& leaf : branch->leaves) {
             std::vector<bool> isGone;
             isGone.reserve(leaf->records.size());
             for (const ADIFRecord& record : leaf->records) {
@@ -240,59 +222,52 @@ std::size_t ADIFRecordList::removeIf(const std::function<bool(const ADIFRecord&)
             const auto gone = static_cast<std::size_t>(std::ranges::count(isGone, true));
             removed += gone;
             if (gone == 0) {
-                newBranch->append(leaf);
+                newBranch.append(leaf);
             } else if (gone < leaf->records.size()) {
-                auto newLeaf = std::make_shared<Leaf>();
-                newLeaf->records.reserve(leaf->records.size() - gone);
+                Leaf newLeaf;
+                newLeaf.records.reserve(leaf->records.size() - gone);
                 for (std::size_t slot = 0; slot < isGone.size(); ++slot) {
                     if (!isGone[slot]) {
-                        newLeaf->records.push_back(leaf->records[slot]);
+                        newLeaf.records.push_back(leaf->records[slot]);
                     }
                 }
-                newBranch->append(std::move(newLeaf));
+                newBranch.append(Shared<Leaf>::make(std::move(newLeaf)));
             }
         }
-        if (!newBranch->leaves.empty()) {
-            const bool isWhole = newBranch->leaves == branch->leaves;
-            kept->ends.push_back(kept->size() + newBranch->ends.back());
-            kept->branches.push_back(isWhole ? branch : std::move(newBranch));
+        if (!newBranch.leaves.empty()) {
+            const bool isWhole = newBranch.leaves == branch->leaves;
+            kept.ends.push_back(kept.size() + newBranch.ends.back());
+            kept.branches.push_back(isWhole ? branch : Shared<Branch>::make(std::move(newBranch)));
         }
     }
     if (removed > 0) {
-        root = std::move(kept);
+        root = Shared<Root>::make(std::move(kept));
     }
     return removed;
 }
 
 std::size_t ADIFRecordList::transform(
     const std::function<std::optional<ADIFRecord>(const ADIFRecord&)>& change) {
+    // What `change` is asked about stays as it was until all are asked.
+    const Shared<Root> before = root;
     std::size_t changed = 0;
-    const std::size_t branchCount = root->branches.size();
-    for (std::size_t branchIndex = 0; branchIndex < branchCount; ++branchIndex) {
-        const std::size_t leafCount = root->branches[branchIndex]->leaves.size();
-        for (std::size_t leafIndex = 0; leafIndex < leafCount; ++leafIndex) {
-            const std::shared_ptr<Leaf> leaf = root->branches[branchIndex]->leaves[leafIndex];
-            std::shared_ptr<Leaf> newLeaf;
-            for (std::size_t slot = 0; slot < leaf->records.size(); ++slot) {
-                auto record = change(leaf->records[slot]);
-                if (!record) {
-                    continue;
+    for (std::size_t branch = 0; branch < before->branches.size(); ++branch) {
+        const std::vector<Shared<Leaf>>& leaves = before->branches[branch]->leaves;
+        for (std::size_t leaf = 0; leaf < leaves.size(); ++leaf) {
+            const std::vector<ADIFRecord>& records = leaves[leaf]->records;
+            for (std::size_t slot = 0; slot < records.size(); ++slot) {
+                if (auto record = change(records[slot])) {
+                    Leaf& own = root.own().branches[branch].own().leaves[leaf].own();
+                    own.records[slot] = *std::move(record);
+                    ++changed;
                 }
-                ++changed;
-                if (!newLeaf) {
-                    newLeaf = std::make_shared<Leaf>(*leaf);
-                }
-                newLeaf->records[slot] = *std::move(record);
-            }
-            if (newLeaf) {
-                ownBranch(branchIndex).leaves[leafIndex] = std::move(newLeaf);
             }
         }
     }
     if (changed > 0) {
         // A record given back may have any id; those of the editing operations keep theirs.
         UUID previous;
-        root->idsAscend = std::all_of(begin(), end(), [&](const ADIFRecord& record) {
+        root.own().idsAscend = std::all_of(begin(), end(), [&](const ADIFRecord& record) {
             return std::exchange(previous, record.id()) < record.id();
         });
     }

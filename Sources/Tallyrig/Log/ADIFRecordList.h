@@ -1,12 +1,12 @@
 #pragma once
 
 #include "Tallyrig/Log/ADIFRecord.h"
+#include "Tallyrig/Log/Shared.h"
 #include "Tallyrig/Log/UUID.h"
 
 #include <cstddef>
 #include <functional>
 #include <iterator>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -14,7 +14,8 @@ namespace tallyrig {
 
 /// The ordered records of a log.
 ///
-/// A value that copies in constant time. The records lie in leaves of at most 128, the leaves under branches
+/// A value that copies in constant time; a copy may be read on one thread while another is changed on a
+/// second. The records lie in leaves of at most 128, the leaves under branches
 /// of at most 128: a copy in which one record is changed, added or removed costs a leaf, a branch and the
 /// short list of branches, not the log.
 class ADIFRecordList {
@@ -57,6 +58,11 @@ class ADIFRecordList {
 
     ADIFRecordList();
     explicit ADIFRecordList(std::vector<ADIFRecord> records);
+    ADIFRecordList(const ADIFRecordList& other);
+    ADIFRecordList(ADIFRecordList&& other) noexcept;
+    ADIFRecordList& operator=(const ADIFRecordList& other);
+    ADIFRecordList& operator=(ADIFRecordList&& other) noexcept;
+    ~ADIFRecordList();
 
     std::size_t size() const;
     bool empty() const { return size() == 0; }
@@ -89,11 +95,7 @@ class ADIFRecordList {
     friend bool operator==(const ADIFRecordList& left, const ADIFRecordList& right);
 
   private:
-    Root& ownRoot();
-    Branch& ownBranch(std::size_t index);
-    Leaf& ownLeaf(Branch& branch, std::size_t index);
-
-    std::shared_ptr<Root> root;
+    Shared<Root> root;
 };
 
 }  // namespace tallyrig

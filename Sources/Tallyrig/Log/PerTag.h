@@ -11,7 +11,10 @@ namespace tallyrig {
 
 /// What a pass over a log has to know of each tag, worked out once for each table of tags instead of once for
 /// each field. The records of a log share one table, or a few after it was edited; a log put together from
-/// single records has as many as records, so only so many are kept. Lives no longer than the tables.
+/// single records has as many as records, so only so many are kept.
+///
+/// Tables are known by their address, so that one that is gone may be mistaken for another: this must not
+/// outlive the document whose records it was asked about, and belongs to one thread.
 template <typename Knowledge>
 class PerTag {
   public:

@@ -15,6 +15,9 @@ namespace tallyrig {
 
 /// The values of a few fields of one record after the other: what `record[name]` gives, without comparing
 /// names record by record.
+///
+/// What it learns of a log it keeps by address (`PerTag`): it must not outlive the document, nor serve
+/// another one when that is gone.
 class RecordValues {
   public:
     RecordValues() = default;
