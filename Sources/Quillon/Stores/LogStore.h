@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
 #include "Quillon/Stores/AppMode.h"
+#include "Quillon/Stores/RecordChanges.h"
 #include "Tallyrig/Formats/CabrilloHeader.h"
 #include "Tallyrig/Formats/EDIHeader.h"
 #include "Tallyrig/Log/ADIFDocument.h"
@@ -100,20 +101,47 @@ class LogStore : public QObject {
     bool showEDIExport() const { return state.showEDIExport; }
     void setShowEDIExport(bool show);
 
-    // Undo.
+    // Undo. A step brings back log, columns and `isDirty`; the selection keeps those of its records that the
+    // log then holds.
     bool canUndo() const { return state.canUndo; }
     bool canRedo() const { return state.canRedo; }
     void undo();
     void redo();
+    /// What the latest `undo` or `redo` brought about; nothing if the log was edited or replaced since.
+    /// Cost: a walk along the records.
+    RecordChanges changesOfLastStep() const;
 
-    // Cells, fields, records.
+    // Cells and fields. An id that the log does not hold and an index beyond the record's fields read as
+    // empty, and writing to them does nothing, as does writing what is there already. The texts returned are
+    // good until the log is edited or replaced. Writes to one cell that follow on each other make one step
+    // back.
+    /// The value of the record's first field of this name, given in any case; empty if it has none.
+    std::string_view cell(tallyrig::UUID recordID, std::string_view column) const;
+    /// An empty `value` removes all fields of this name from the record.
+    void setCell(tallyrig::UUID recordID, std::string_view column, std::string_view value);
+    /// The value of the record's field at `fieldIndex`.
+    std::string_view field(tallyrig::UUID recordID, std::size_t fieldIndex) const;
+    /// An empty `value` leaves the field in place.
+    void setField(tallyrig::UUID recordID, std::size_t fieldIndex, std::string_view value);
     TextBinding cellBinding(tallyrig::UUID recordID, const std::string& column);
     TextBinding fieldBinding(tallyrig::UUID recordID, std::size_t fieldIndex);
+    /// Appends an empty field to the record, and a column for it if there is none.
     void addField(tallyrig::UUID recordID, std::string_view name);
-    void removeField(tallyrig::UUID recordID, std::size_t index);
+    /// The column stays.
+    void removeField(tallyrig::UUID recordID, std::size_t fieldIndex);
+
+    // Records. These forget the findings of the last check and hide them.
+    /// Appends a QSO with an empty call and selects it.
     void addRecord();
+    /// Appends the QSOs in this ADI text with ids of their own, a column for each field that has none, and
+    /// selects them: one step back. Returns their number; with 0, for a text without any, nothing happens.
+    std::size_t pasteRecords(std::string_view adif);
+    /// Removes all selected records, those that the search hides as well (`hiddenSelectionCount`).
     void deleteSelected();
+    /// Sets the column, of any case, in all records or in those without a value; an empty `value` removes the
+    /// field. Where nothing is to be changed, nothing happens, here and below.
     void setColumnValue(std::string_view column, std::string_view value, tallyrig::ColumnTarget target);
+    /// Replaces every occurrence of `find`, to the letter; an empty one does nothing.
     void replaceInColumn(std::string_view column, std::string_view find, std::string_view replacement);
 
     // Columns.
@@ -176,8 +204,11 @@ class LogStore : public QObject {
     void selectRecord(std::size_t index);
     /// Selects every displayed record.
     void selectAllDisplayed();
-    /// The single selected record; absent with none or several.
+    /// The single selected record; null with none or several. Good until the log is edited or replaced.
     const tallyrig::ADIFRecord* selectedRecord() const;
+    /// How many of the selected records the search hides. Cost: a walk over the rows while a search is in
+    /// force.
+    std::size_t hiddenSelectionCount() const;
     /// The selected records as ADI text without header, in the order of the document; for the clipboard.
     std::string selectionAsADIF() const;
 
@@ -271,6 +302,8 @@ class LogStore : public QObject {
         std::vector<EditSnapshot> undoStack;
         std::vector<EditSnapshot> redoStack;
         std::optional<std::string> coalesceKey;
+        /// The stack on top of which lies the state before the latest step; null if an edit came after it.
+        const std::vector<EditSnapshot>* beforeStep = nullptr;
     };
     class Operation;
     class Display;
@@ -294,8 +327,6 @@ class LogStore : public QObject {
     void resetHistory();
     void noteHistory();
 
-    void writeCell(tallyrig::UUID recordID, const std::string& column, std::string_view value);
-    void writeField(tallyrig::UUID recordID, std::size_t fieldIndex, std::string_view value);
     void commitBulkEdit(EditSnapshot before, std::size_t changedRecords);
 
     /// The columns in which to show this log.

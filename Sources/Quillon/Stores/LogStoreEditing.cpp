@@ -1,5 +1,6 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/LogStoreOperation.h"
+#include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFRecord.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -34,6 +35,7 @@ void LogStore::commitUndo(EditSnapshot snapshot, std::optional<std::string> coal
     }
     state.redoStack.clear();
     state.coalesceKey = std::move(coalescingKey);
+    state.beforeStep = nullptr;
     noteHistory();
 }
 
@@ -61,7 +63,14 @@ void LogStore::step(std::vector<EditSnapshot>& from, std::vector<EditSnapshot>& 
     to.push_back(currentSnapshot());
     apply(std::move(snapshot));
     state.coalesceKey.reset();
+    state.beforeStep = &to;
     noteHistory();
+}
+
+RecordChanges LogStore::changesOfLastStep() const {
+    return state.beforeStep == nullptr
+               ? RecordChanges()
+               : changesBetween(state.beforeStep->back().document.records(), state.document.records());
 }
 
 void LogStore::apply(EditSnapshot snapshot) {
@@ -79,6 +88,7 @@ void LogStore::resetHistory() {
     state.undoStack.clear();
     state.redoStack.clear();
     state.coalesceKey.reset();
+    state.beforeStep = nullptr;
     noteHistory();
 }
 
@@ -87,20 +97,12 @@ void LogStore::noteHistory() {
     state.canRedo = !state.redoStack.empty();
 }
 
-TextBinding LogStore::cellBinding(UUID recordID, const std::string& column) {
-    const QPointer<LogStore> store(this);
-    return {[store, recordID, column] {
-                const auto index = store ? store->indexOf(recordID) : std::nullopt;
-                return std::string(index ? store->document().records()[*index].valueOrEmpty(column) : "");
-            },
-            [store, recordID, column](std::string_view value) {
-                if (store) {
-                    store->writeCell(recordID, column, value);
-                }
-            }};
+std::string_view LogStore::cell(UUID recordID, std::string_view column) const {
+    const auto index = indexOf(recordID);
+    return index ? state.document.records()[*index].valueOrEmpty(column) : std::string_view();
 }
 
-void LogStore::writeCell(UUID recordID, const std::string& column, std::string_view value) {
+void LogStore::setCell(UUID recordID, std::string_view column, std::string_view value) {
     const auto index = indexOf(recordID);
     if (!index || text::equal(state.document.records()[*index].valueOrEmpty(column), value)) {
         return;
@@ -113,23 +115,25 @@ void LogStore::writeCell(UUID recordID, const std::string& column, std::string_v
     state.isDirty = true;
 }
 
-TextBinding LogStore::fieldBinding(UUID recordID, std::size_t fieldIndex) {
+TextBinding LogStore::cellBinding(UUID recordID, const std::string& column) {
     const QPointer<LogStore> store(this);
-    return {[store, recordID, fieldIndex] {
-                const auto index = store ? store->indexOf(recordID) : std::nullopt;
-                if (!index || fieldIndex >= store->document().records()[*index].fields().size()) {
-                    return std::string();
-                }
-                return std::string(store->document().records()[*index].fields()[fieldIndex].value);
-            },
-            [store, recordID, fieldIndex](std::string_view value) {
+    return {[store, recordID, column] { return std::string(store ? store->cell(recordID, column) : ""); },
+            [store, recordID, column](std::string_view value) {
                 if (store) {
-                    store->writeField(recordID, fieldIndex, value);
+                    store->setCell(recordID, column, value);
                 }
             }};
 }
 
-void LogStore::writeField(UUID recordID, std::size_t fieldIndex, std::string_view value) {
+std::string_view LogStore::field(UUID recordID, std::size_t fieldIndex) const {
+    const auto index = indexOf(recordID);
+    if (!index || fieldIndex >= state.document.records()[*index].fields().size()) {
+        return {};
+    }
+    return state.document.records()[*index].fields()[fieldIndex].value;
+}
+
+void LogStore::setField(UUID recordID, std::size_t fieldIndex, std::string_view value) {
     const auto index = indexOf(recordID);
     if (!index) {
         return;
@@ -142,6 +146,18 @@ void LogStore::writeField(UUID recordID, std::size_t fieldIndex, std::string_vie
     commitTyping("field:" + recordID.text() + ":" + std::to_string(fieldIndex));
     state.document.records().modify(*index, [&](ADIFRecord& record) { record.setValue(fieldIndex, value); });
     state.isDirty = true;
+}
+
+TextBinding LogStore::fieldBinding(UUID recordID, std::size_t fieldIndex) {
+    const QPointer<LogStore> store(this);
+    return {[store, recordID, fieldIndex] {
+                return std::string(store ? store->field(recordID, fieldIndex) : "");
+            },
+            [store, recordID, fieldIndex](std::string_view value) {
+                if (store) {
+                    store->setField(recordID, fieldIndex, value);
+                }
+            }};
 }
 
 void LogStore::addField(UUID recordID, std::string_view name) {
@@ -180,6 +196,31 @@ void LogStore::addRecord() {
     state.document.records().append(std::move(record));
     state.isDirty = true;
     clearCheckResults();
+}
+
+std::size_t LogStore::pasteRecords(std::string_view adif) {
+    tallyrig::ADIFDocument pasted = tallyrig::ADIFParser::parse(adif);
+    // Any text may stand in the clipboard, and what looks like a tag makes a field.
+    pasted.records().removeIf([](const ADIFRecord& record) { return record.stored().allValues().empty(); });
+    if (pasted.records().empty()) {
+        return 0;
+    }
+    const Operation operation(*this);
+    commitUndo(currentSnapshot());
+    Selection ids;
+    for (const ADIFRecord& record : pasted.records()) {
+        ids.insert(record.id());
+        state.document.records().append(record);
+    }
+    for (const std::string& name : pasted.fieldNames()) {
+        if (!columnExists(name)) {
+            state.columns.push_back(name);
+        }
+    }
+    changeSelection(std::move(ids));
+    state.isDirty = true;
+    clearCheckResults();
+    return pasted.records().size();
 }
 
 void LogStore::deleteSelected() {

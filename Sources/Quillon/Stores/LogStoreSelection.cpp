@@ -1,4 +1,5 @@
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Stores/LogStoreDisplay.h"
 #include "Quillon/Stores/LogStoreOperation.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 
@@ -89,6 +90,17 @@ LogStore::Selection LogStore::idsInRows(std::size_t first, std::size_t end) cons
 const ADIFRecord* LogStore::selectedRecord() const {
     const auto index = state.selection.size() == 1 ? indexOf(*state.selection.begin()) : std::nullopt;
     return index ? &state.document.records()[*index] : nullptr;
+}
+
+std::size_t LogStore::hiddenSelectionCount() const {
+    const Display::Rows* const rows = display->filtered(state);
+    if (rows == nullptr || state.selection.empty()) {
+        return 0;
+    }
+    const tallyrig::ADIFRecordList& records = state.document.records();
+    const auto shown = std::ranges::count_if(
+        *rows, [&](std::uint32_t index) { return state.selection.contains(records[index].id()); });
+    return state.selection.size() - static_cast<std::size_t>(shown);
 }
 
 std::string LogStore::selectionAsADIF() const {

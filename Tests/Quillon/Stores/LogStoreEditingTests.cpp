@@ -66,16 +66,15 @@ TEST_F(Cells, OutliveRecordAndStore) {
 
 TEST_F(Fields, StayInPlaceWhenEmptied) {
     openLog({"CALL=A CALL=B"});
-    const TextBinding second = store.fieldBinding(id(0), 1);
-    second.write("C");
+    store.setField(id(0), 1, "C");
     EXPECT_EQ(cell(0, "CALL"), "A");
-    EXPECT_EQ(second.read(), "C");
-    second.write("");
+    EXPECT_EQ(store.field(id(0), 1), "C");
+    store.setField(id(0), 1, "");
     EXPECT_EQ(store.document().records()[0].fields().size(), 2U);
     told.sent();
-    second.write("");
-    store.fieldBinding(id(0), 2).write("x");
-    EXPECT_EQ(store.fieldBinding(id(0), 2).read(), "");
+    store.setField(id(0), 1, "");
+    store.setField(id(0), 2, "x");
+    EXPECT_EQ(store.field(id(0), 2), "");
     EXPECT_EQ(told.sent(), "");
 }
 
@@ -109,18 +108,37 @@ TEST_F(Records, AreAddedAtTheEndAndSelected) {
     EXPECT_EQ(cell(1, "CALL"), "");
 }
 
+TEST_F(Records, ArePastedBehindTheOthersInOneStep) {
+    openLog({"CALL=A"});
+    EXPECT_EQ(store.pasteRecords("no <b>log</b> <eor>"), 0U);
+    EXPECT_EQ(told.sent(), "");
+    EXPECT_EQ(store.pasteRecords("<call:1>B<eor> <eor> <call:1>A<band:3>20m<eor>"), 2U);
+    EXPECT_EQ(told.sent(), "columns displayedRecords document history isDirty selection windowTitle");
+    EXPECT_EQ(shown(), "A B A");
+    EXPECT_EQ(selected(), "B A");
+    EXPECT_EQ(columns(), "CALL BAND");
+    select({2});
+    EXPECT_EQ(store.pasteRecords(store.selectionAsADIF()), 1U);
+    EXPECT_EQ(store.selection(), LogStore::Selection{id(3)});
+    store.undo();
+    store.undo();
+    EXPECT_EQ(shown() + columns(), "ACALL");
+}
+
 TEST_F(Records, AreDeletedEvenWhereTheSearchHidesThem) {
     openLog({"CALL=A", "CALL=B", "CALL=C"});
     select({0, 1});
+    EXPECT_EQ(store.hiddenSelectionCount(), 0U);
     store.setSearchText("b");
+    EXPECT_EQ(store.hiddenSelectionCount(), 1U);
     store.deleteSelected();
-    EXPECT_EQ(store.document().records().size(), 1U);
-    EXPECT_EQ(cell(0, "CALL"), "C");
+    EXPECT_EQ(shown(), "");
+    store.setSearchText("");
+    EXPECT_EQ(shown(), "C");
     told.sent();
     store.deleteSelected();
     EXPECT_EQ(told.sent(), "");
     store.undo();
-    store.setSearchText("");
     EXPECT_EQ(shown(), "A B C");
     EXPECT_TRUE(store.selection().empty());
 }
@@ -186,8 +204,8 @@ TEST_F(Undo, MakesOneStepOfTypingInOneCell) {
     type(0, "CALL", "DL");
     EXPECT_EQ(steps(), 3);
 
-    store.fieldBinding(id(0), 0).write("D");
-    store.fieldBinding(id(0), 0).write("DL");
+    store.setField(id(0), 0, "D");
+    store.setField(id(0), 0, "DL");
     type(0, "CALL", "DL1");  // The same text, reached in another way.
     EXPECT_EQ(steps(), 2);
 }
@@ -257,6 +275,37 @@ TEST_F(Undo, RestoresColumnsAndClearsWhatNoLongerFits) {
     EXPECT_EQ(told.sent(), "columns history");
     EXPECT_EQ(columns(), "CALL");
     EXPECT_EQ(selected(), "A");
+}
+
+TEST_F(Undo, TellsWhatItBroughtAbout) {
+    openLog({"CALL=A", "CALL=B BAND=1 X=1", "CALL=C"});
+    const auto changed = [this] {
+        const RecordChanges changes = store.changesOfLastStep();
+        std::string text;
+        for (const tallyrig::UUID record : changes.records) {
+            text += store.cell(record, "CALL");
+        }
+        return text + ":" + changes.fieldName;
+    };
+    type(1, "BAND", "2");
+    EXPECT_EQ(changed(), ":");
+    store.undo();
+    EXPECT_EQ(changed(), "B:BAND");
+    store.redo();
+    EXPECT_EQ(changed(), "B:BAND");
+    type(1, "BAND", "");
+    store.undo();
+    EXPECT_EQ(changed(), "B:BAND");
+    select({0, 2});
+    store.deleteSelected();
+    EXPECT_EQ(changed(), ":");
+    store.undo();
+    EXPECT_EQ(changed(), "AC:");
+    store.redo();
+    EXPECT_EQ(changed(), ":");
+    store.addColumn("Y");
+    store.undo();
+    EXPECT_EQ(changed(), ":");
 }
 
 TEST_F(Undo, KeepsSelectedWhatIsStillThere) {

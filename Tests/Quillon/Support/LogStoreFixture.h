@@ -45,7 +45,7 @@ class LogStoreTest : public ::testing::Test {
         return std::string(store.document().records()[index][column].value_or("(absent)"));
     }
     void type(std::size_t index, const std::string& column, std::string_view text) {
-        store.cellBinding(id(index), column).write(text);
+        store.setCell(id(index), column, text);
     }
     /// Selects the records at these positions of the document.
     void select(std::initializer_list<std::size_t> indices) {

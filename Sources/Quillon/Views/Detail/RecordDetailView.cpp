@@ -130,7 +130,7 @@ void RecordDetailView::addRow() {
 
 void RecordDetailView::write(std::size_t index, const QString& text) {
     if (shown) {
-        store.fieldBinding(shown->id(), index).write(text.toStdString());
+        store.setField(shown->id(), index, text.toStdString());
     }
 }
 

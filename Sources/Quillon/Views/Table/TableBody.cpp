@@ -225,7 +225,7 @@ void TableBody::startEditing(CellPosition cell) {
     if (cellEditor->isOpen() || !current) {
         return;
     }
-    const std::string value = store.cellBinding(currentContent.record, currentContent.column).read();
+    const std::string_view value = store.cell(currentContent.record, currentContent.column);
     if (value.size() > longestEditableValue) {
         store.setErrorMessage(tooLongMessage(value.size()));
         return;
@@ -236,7 +236,7 @@ void TableBody::startEditing(CellPosition cell) {
 }
 
 void TableBody::writeCurrent(const QString& draft) {
-    store.cellBinding(currentContent.record, currentContent.column).write(draft.toStdString());
+    store.setCell(currentContent.record, currentContent.column, draft.toStdString());
 }
 
 void TableBody::finishEditing(const QString& draft, InlineEditor::Leave leave) {
