@@ -2,10 +2,13 @@
 
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Views/Controls/Hairline.h"
+#include "Quillon/Views/Controls/Strings.h"
 
-#include <QLocale>
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -41,6 +44,25 @@ class HorizontalLine : public QWidget {
     }
 };
 
+/// The text in lines of at most 90 letters of middle width.
+QStringList wrapped(const QString& text) {
+    constexpr int lettersInLine = 90;
+    const QFont font = QToolTip::font();
+    const int lineWidth = lettersInLine * QFontMetrics(font).averageCharWidth();
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(lineWidth);
+        lines.append(text.mid(line.textStart(), line.textLength()));
+    }
+    layout.endLayout();
+    return lines.size() > 1 ? lines : QStringList(text);
+}
+
 }  // namespace
 
 ElidedLabel::ElidedLabel(Qt::TextElideMode elideMode, QWidget* parent) : QLabel(parent), elide(elideMode) {
@@ -66,8 +88,19 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
                           fontMetrics().elidedText(text(), elide, area.width()), foregroundRole());
 }
 
+QLabel* titleLabel(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.2);
+    label->setFont(font);
+    return label;
+}
+
 QLabel* headingLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
     label->setFont(fontFor(MeasuredFont::label));
     return label;
 }
@@ -91,15 +124,22 @@ QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
 
 QString tooLongMessage(std::size_t size) {
     return QStringLiteral("Der Wert ist mit %1 Bytes zu lang, um ihn hier zu bearbeiten.")
-        .arg(QLocale(QLocale::German).toString(static_cast<qulonglong>(size)));
+        .arg(numberText(size));
 }
 
 QString plainToolTip(const QString& text) {
-    if (text.isEmpty()) {
-        return {};
+    QStringList lines;
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        lines += wrapped(line);
     }
-    const QString lines = text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"));
-    return QStringLiteral("<span>") + lines + QStringLiteral("</span>");
+    QString result = lines.join(QLatin1Char('\n'));
+    if (Qt::mightBeRichText(result)) {
+        // Qt guesses by what a tag begins with: a sign that nobody sees leads it away.
+        constexpr QChar wordJoiner(0x2060);
+        result.replace(QLatin1Char('<'), QLatin1Char('<') + QString(wordJoiner));
+        result.replace(QLatin1Char('&'), QLatin1Char('&') + QString(wordJoiner));
+    }
+    return result;
 }
 
 }  // namespace quillon

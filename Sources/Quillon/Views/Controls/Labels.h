@@ -22,6 +22,9 @@ class ElidedLabel : public QLabel {
     Qt::TextElideMode elide;
 };
 
+/// The heading of a sheet: bold, a step larger than running text.
+QLabel* titleLabel(const QString& text, QWidget* parent = nullptr);
+
 /// The heading of a section: bold, in the small size.
 QLabel* headingLabel(const QString& text, QWidget* parent = nullptr);
 
@@ -38,8 +41,9 @@ QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent = nullp
 /// Why a value of that many bytes cannot be edited.
 QString tooLongMessage(std::size_t size);
 
-/// Text in plain letters for places that would take a "<" for the beginning of a tag; a long one is broken
-/// into lines, its own line breaks are kept.
+/// `text` as a tool tip: taken letter by letter, also where it looks like markup, and without markup of its
+/// own, for a tool tip is what a screen reader tells as well. Its line breaks are kept; a line of more than
+/// 90 letters or so goes on in the next.
 QString plainToolTip(const QString& text);
 
 }  // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Text/Characters.h"
 
+#include <QLocale>
 #include <QString>
 
 #include <cstddef>
@@ -29,6 +30,11 @@ inline QString toQString(std::string_view text) {
         result.prepend(QChar(QChar::ByteOrderMark));
     }
     return result;
+}
+
+/// A number as it is read in German, such as "100.000".
+inline QString numberText(std::size_t number) {
+    return QLocale(QLocale::German).toString(static_cast<qulonglong>(number));
 }
 
 }  // namespace quillon

@@ -324,7 +324,7 @@ TEST_F(TableRows, ShowTheirFindingsInAGutter) {
 
     QHelpEvent help(QEvent::ToolTip, {10, 30}, body.mapToGlobal(QPoint(10, 30)));
     QApplication::sendEvent(&body, &help);
-    EXPECT_EQ(QToolTip::text(), "<span>Unbekanntes Band: 21m<br>Unbekannter Modus: XY</span>");
+    EXPECT_EQ(QToolTip::text(), "Unbekanntes Band: 21m\nUnbekannter Modus: XY");
     store.addRecord();
     EXPECT_EQ(body.cellArea({0, 0}).left(), before);
 
