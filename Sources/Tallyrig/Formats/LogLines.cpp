@@ -135,17 +135,6 @@ std::string timeOfColumn(std::string_view column) {
     return digits;
 }
 
-std::string_view firstCharacters(std::string_view text, std::size_t count) {
-    // A plain byte behind them cannot belong to the last of them.
-    if (text.size() <= count || isPlain(text.substr(0, count + 1))) {
-        return text.substr(0, count);
-    }
-    const std::vector<std::string_view> characters = text::characters(text);
-    return characters.size() <= count
-               ? text
-               : text.substr(0, static_cast<std::size_t>(characters[count].data() - text.data()));
-}
-
 void appendColumn(std::string& line, std::string_view text, std::size_t width) {
     if (isPlain(text)) {
         line += text.substr(0, width);

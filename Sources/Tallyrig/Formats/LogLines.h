@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Text/Characters.h"
 
 #include <cstddef>
 #include <initializer_list>
@@ -45,8 +46,7 @@ std::string numericCharacters(std::string_view text);
 /// The digits of a time column, with the seconds "00" behind four.
 std::string timeOfColumn(std::string_view column);
 
-/// The front of `text`, `count` characters long, or all of it where it is shorter.
-std::string_view firstCharacters(std::string_view text, std::size_t count);
+using text::firstCharacters;
 
 /// Appends `text` as a column of exactly `width` characters: cut, or filled up with blanks behind.
 void appendColumn(std::string& line, std::string_view text, std::size_t width);

@@ -81,6 +81,18 @@ std::vector<std::string_view> characters(std::string_view text) {
     return result;
 }
 
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+    // In ASCII only CR LF is longer than a byte, and an ASCII byte behind the front cannot belong to it.
+    const std::string_view front = text.substr(0, count);
+    const std::string_view next = text.substr(front.size(), 1);
+    if (isASCII(front) && isASCII(next) && front.find('\r') == std::string_view::npos) {
+        return front;
+    }
+    const std::vector<std::string_view> all = characters(text);
+    return all.size() <= count ? text
+                               : text.substr(0, static_cast<std::size_t>(all[count].data() - text.data()));
+}
+
 std::string_view beginning(std::string_view text, std::size_t mostBytes) {
     if (text.size() <= mostBytes) {
         return text;

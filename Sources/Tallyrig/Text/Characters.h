@@ -14,6 +14,9 @@ std::size_t characterCount(std::string_view text);
 /// The characters of `text` in order. They refer to `text` and, joined, are `text` again.
 std::vector<std::string_view> characters(std::string_view text);
 
+/// The front of `text`, `count` characters long, or all of it where it is shorter.
+std::string_view firstCharacters(std::string_view text, std::size_t count);
+
 /// The front of `text` (UTF-8), `mostBytes` at most, with no code point cut in two.
 std::string_view beginning(std::string_view text, std::size_t mostBytes);
 

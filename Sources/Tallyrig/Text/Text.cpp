@@ -117,6 +117,19 @@ std::string upper(std::string_view text) {
     return result;
 }
 
+std::string_view upper(std::string_view text, std::string& buffer) {
+    if (!isASCII(text)) {
+        buffer = upper(text);
+        return buffer;
+    }
+    if (std::ranges::none_of(text, [](char c) { return c != upperASCII(c); })) {
+        return text;
+    }
+    buffer.resize(text.size());
+    std::ranges::transform(text, buffer.begin(), upperASCII);
+    return buffer;
+}
+
 std::string lower(std::string_view text) {
     std::string result;
     if (isASCII(text)) {

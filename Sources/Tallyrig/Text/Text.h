@@ -19,6 +19,8 @@ bool isASCII(std::string_view text);
 
 /// The full Unicode upper-case mapping, independent of locale: "ß" gives "SS".
 std::string upper(std::string_view text);
+/// The same without a copy where `text` is in upper case already: the result refers to `text` or to `buffer`.
+std::string_view upper(std::string_view text, std::string& buffer);
 
 /// The full Unicode lower-case mapping, independent of locale.
 std::string lower(std::string_view text);
