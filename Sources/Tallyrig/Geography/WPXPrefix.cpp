@@ -1,0 +1,100 @@
+#include "Tallyrig/Geography/WPXPrefix.h"
+
+#include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Pieces.h"
+#include "Tallyrig/Text/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace tallyrig {
+
+namespace {
+
+/// What may stand behind a call without making it another prefix. The list is longer than the one for
+/// countries.
+bool isPlainSuffix(std::string_view part) {
+    constexpr std::array<std::string_view, 12> plainSuffixes = {"P",    "M",  "MM",  "AM", "A", "QRP",
+                                                                "QRPP", "LH", "LGT", "J",  "B", "PM"};
+    return std::ranges::find(plainSuffixes, part) != plainSuffixes.end();
+}
+
+/// The last character of `text` that is a number, empty if there is none. It refers to `text`.
+std::string_view lastNumber(std::string_view text) {
+    if (text::isASCII(text)) {
+        const std::size_t at = text.find_last_of("0123456789");
+        return at == std::string_view::npos ? std::string_view() : text.substr(at, 1);
+    }
+    const std::vector<std::string_view> characters = text::characters(text);
+    const auto last = std::find_if(characters.rbegin(), characters.rend(), text::isNumeric);
+    return last == characters.rend() ? std::string_view() : *last;
+}
+
+/// Up to and including the last number; a call without one gets a zero.
+std::string prefixOfPart(std::string_view part) {
+    const std::string_view number = lastNumber(part);
+    return number.empty() ? std::string(part) + "0" : std::string(part.begin(), number.end());
+}
+
+std::string withLastDigit(std::string prefix, std::string_view digit) {
+    const std::string_view number = lastNumber(prefix);
+    if (number.empty()) {
+        return prefix.append(digit);
+    }
+    return prefix.replace(static_cast<std::size_t>(number.data() - prefix.data()), number.size(), digit);
+}
+
+/// The parts of a call, and of those that are no plain suffix the shortest two; of parts of one length the
+/// first is the shorter.
+struct Parts {
+    std::size_t count = 0;
+    std::string_view first;
+
+    std::size_t significantCount = 0;
+    std::string_view shortest;
+    std::size_t shortestLength = 0;
+    std::string_view next;
+    std::size_t nextLength = 0;
+
+    void add(std::string_view part) {
+        if (count++ == 0) {
+            first = part;
+        }
+        if (isPlainSuffix(part)) {
+            return;
+        }
+        const std::size_t length = text::characterCount(part);
+        if (significantCount == 0 || length < shortestLength) {
+            next = shortest;
+            nextLength = shortestLength;
+            shortest = part;
+            shortestLength = length;
+        } else if (significantCount == 1 || length < nextLength) {
+            next = part;
+            nextLength = length;
+        }
+        ++significantCount;
+    }
+};
+
+}  // namespace
+
+std::string WPXPrefix::prefix(std::string_view call) {
+    std::string buffer;
+    Parts parts;
+    text::forEachPiece(text::upper(text::trimmedOfBlanks(call), buffer), '/',
+                       [&](std::string_view part) { parts.add(part); });
+    if (parts.count == 1) {
+        return prefixOfPart(parts.first);
+    }
+    if (parts.significantCount == 0) {
+        return {};
+    }
+    const bool isCallArea = parts.shortestLength == 1 && text::isNumeric(parts.shortest);
+    return parts.significantCount > 1 && isCallArea ? withLastDigit(prefixOfPart(parts.next), parts.shortest)
+                                                    : prefixOfPart(parts.shortest);
+}
+
+}  // namespace tallyrig
