@@ -84,9 +84,9 @@ std::vector<std::string> ADIFDocument::fieldNames() const {
 }
 
 void ADIFDocument::renameColumn(std::string_view from, std::string_view to) {
-    const std::string source = text::upper(from);
-    const std::string target = text::upper(to);
-    if (text::equal(source, target)) {
+    const FieldName source(from);
+    const FieldName target(to);
+    if (text::equal(source.upper(), target.upper())) {
         return;
     }
     RecordEditor editor;
@@ -94,20 +94,20 @@ void ADIFDocument::renameColumn(std::string_view from, std::string_view to) {
 }
 
 void ADIFDocument::duplicateColumn(std::string_view name, std::string_view as) {
-    const std::string source = text::upper(name);
-    const std::string copy = text::upper(as);
+    const FieldName source(name);
+    const FieldName copy(as);
     RecordEditor editor;
     recordList.transform([&](const ADIFRecord& record) { return editor.duplicate(record, source, copy); });
 }
 
 void ADIFDocument::removeColumn(std::string_view name) {
-    const std::string removed = text::upper(name);
+    const FieldName removed(name);
     RecordEditor editor;
     recordList.transform([&](const ADIFRecord& record) { return editor.remove(record, removed); });
 }
 
 std::size_t ADIFDocument::setColumn(std::string_view name, std::string_view value, ColumnTarget target) {
-    const std::string column = text::upper(name);
+    const FieldName column(name);
     const std::string newValue(value);
     RecordEditor editor;
     return recordList.transform([&](const ADIFRecord& record) -> std::optional<ADIFRecord> {
@@ -125,7 +125,7 @@ std::size_t ADIFDocument::replaceInColumn(std::string_view name, std::string_vie
     if (find.empty()) {
         return 0;
     }
-    const std::string column = text::upper(name);
+    const FieldName column(name);
     RecordEditor editor;
     return recordList.transform([&](const ADIFRecord& record) -> std::optional<ADIFRecord> {
         const auto index = indexOfField(record.stored(), column);

@@ -6,43 +6,18 @@
 
 namespace tallyrig {
 
-namespace {
-
-/// A name as it is looked up: in upper case, without a copy where it is that already.
-class LookupName {
-  public:
-    explicit LookupName(std::string_view name) : view(name) {
-        for (const char c : name) {
-            if ((c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80) {
-                text = text::upper(name);
-                view = text;
-                return;
-            }
-        }
-    }
-    LookupName(const LookupName&) = delete;
-    LookupName& operator=(const LookupName&) = delete;
-    operator std::string_view() const { return view; }
-
-  private:
-    std::string text;
-    std::string_view view;
-};
-
-}  // namespace
-
 ADIFRecord::ADIFRecord() : ADIFRecord(std::span<const ADIFField>()) {}
 
 ADIFRecord::ADIFRecord(std::span<const ADIFField> fields, UUID id)
     : ADIFRecord(RecordEditor().make(fields, id)) {}
 
 std::optional<std::string_view> ADIFRecord::operator[](std::string_view name) const {
-    const auto index = indexOfField(*storage.get(), LookupName(name));
+    const auto index = indexOfField(*storage.get(), name);
     return index ? std::optional(storage->value(*index)) : std::nullopt;
 }
 
 bool ADIFRecord::has(std::string_view name) const {
-    return indexOfField(*storage.get(), LookupName(name)).has_value();
+    return indexOfField(*storage.get(), name).has_value();
 }
 
 void ADIFRecord::set(std::string_view name, std::optional<std::string_view> value) {
@@ -50,13 +25,13 @@ void ADIFRecord::set(std::string_view name, std::optional<std::string_view> valu
         removeField(name);
         return;
     }
-    *this = RecordEditor().setValue(*this, LookupName(name), *value);
+    *this = RecordEditor().setValue(*this, name, *value);
 }
 
 void ADIFRecord::renameField(std::string_view from, std::string_view to) {
-    const LookupName source(from);
-    const LookupName target(to);
-    if (text::equal(source, target)) {
+    const FieldName source(from);
+    const FieldName target(to);
+    if (text::equal(source.upper(), target.upper())) {
         return;
     }
     if (auto changed = RecordEditor().rename(*this, source, target)) {
@@ -65,13 +40,13 @@ void ADIFRecord::renameField(std::string_view from, std::string_view to) {
 }
 
 void ADIFRecord::duplicateField(std::string_view name, std::string_view as) {
-    if (auto changed = RecordEditor().duplicate(*this, LookupName(name), LookupName(as))) {
+    if (auto changed = RecordEditor().duplicate(*this, name, as)) {
         *this = *std::move(changed);
     }
 }
 
 void ADIFRecord::removeField(std::string_view name) {
-    if (auto changed = RecordEditor().remove(*this, LookupName(name))) {
+    if (auto changed = RecordEditor().remove(*this, name)) {
         *this = *std::move(changed);
     }
 }

@@ -6,8 +6,8 @@ namespace tallyrig {
 
 namespace {
 
-/// Neither U+0000 nor U+0001 in front can be mistaken for the other case, whatever stands in the name: the
-/// name's length comes first.
+/// One text for a name and a type that no other two have: the name's length in front says where it ends,
+/// whatever stands in it, and the letter behind whether there is a type.
 std::string key(std::string_view name, std::optional<std::string_view> type) {
     std::string text = std::to_string(name.size());
     text += type ? 't' : 'n';

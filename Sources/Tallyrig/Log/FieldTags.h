@@ -14,7 +14,7 @@ namespace tallyrig {
 struct FieldTag {
     std::string name;
     std::optional<std::string> type;
-    bool hasASCIIName = true;  ///< Such a name equals another only if their bytes do.
+    bool hasASCIIName = true;  ///< Such a name equals another in ASCII only if their bytes do.
 };
 
 /// The distinct pairs of name and type in a log, each stored once and known to its fields by number. A name

@@ -1,7 +1,5 @@
 #include "Tallyrig/Log/RecordEditor.h"
 
-#include "Tallyrig/Log/RecordSearch.h"
-
 #include <algorithm>
 
 namespace tallyrig {
@@ -37,42 +35,42 @@ ADIFRecord RecordEditor::laidDown(UUID id) {
     return ADIFRecord(allocator.allocate(id, drafts, tags));
 }
 
-ADIFRecord RecordEditor::setValue(const ADIFRecord& record, std::string_view name, std::string_view value) {
+ADIFRecord RecordEditor::setValue(const ADIFRecord& record, const FieldName& name, std::string_view value) {
     take(record);
     if (const auto index = indexOfField(*record.storage.get(), name)) {
         drafts[*index].value = value;
     } else {
-        drafts.push_back({tag(name, std::nullopt), value, UUID::fresh()});
+        drafts.push_back({tag(name.upper(), std::nullopt), value, UUID::fresh()});
     }
     return laidDown(record.id());
 }
 
-std::optional<ADIFRecord> RecordEditor::rename(const ADIFRecord& record, std::string_view from,
-                                               std::string_view to) {
+std::optional<ADIFRecord> RecordEditor::rename(const ADIFRecord& record, const FieldName& from,
+                                               const FieldName& to) {
     const auto index = indexOfField(*record.storage.get(), from);
     if (!index) {
         return std::nullopt;
     }
     take(record);
     const FieldTag& old = record.storage->tag(*index);
-    drafts[*index].tag = tag(to, old.type);
+    drafts[*index].tag = tag(to.upper(), old.type);
     return laidDown(record.id());
 }
 
-std::optional<ADIFRecord> RecordEditor::duplicate(const ADIFRecord& record, std::string_view name,
-                                                  std::string_view as) {
+std::optional<ADIFRecord> RecordEditor::duplicate(const ADIFRecord& record, const FieldName& name,
+                                                  const FieldName& as) {
     const auto index = indexOfField(*record.storage.get(), name);
     if (!index) {
         return std::nullopt;
     }
     take(record);
     const FieldDraft source = drafts[*index];
-    const FieldDraft copy{tag(as, record.storage->tag(*index).type), source.value, UUID::fresh()};
+    const FieldDraft copy{tag(as.upper(), record.storage->tag(*index).type), source.value, UUID::fresh()};
     drafts.insert(drafts.begin() + static_cast<std::ptrdiff_t>(*index) + 1, copy);
     return laidDown(record.id());
 }
 
-std::optional<ADIFRecord> RecordEditor::remove(const ADIFRecord& record, std::string_view name) {
+std::optional<ADIFRecord> RecordEditor::remove(const ADIFRecord& record, const FieldName& name) {
     const RecordStorage& storage = *record.storage.get();
     if (!indexOfField(storage, name)) {
         return std::nullopt;

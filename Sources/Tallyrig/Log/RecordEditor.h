@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Log/ADIFRecord.h"
 #include "Tallyrig/Log/FieldTags.h"
+#include "Tallyrig/Log/RecordSearch.h"
 #include "Tallyrig/Log/RecordStorage.h"
 
 #include <cstddef>
@@ -16,14 +17,13 @@ namespace tallyrig {
 /// Changes records by laying down new ones. One editor serves a whole column of them: the changed records
 /// then share the names that were added, as those did that were read together.
 ///
-/// Names given here are in upper case already. Each operation gives the changed record, or nothing where the
-/// record stays as it is.
+/// Each operation gives the changed record, or nothing where the record stays as it is.
 class RecordEditor {
   public:
-    ADIFRecord setValue(const ADIFRecord& record, std::string_view name, std::string_view value);
-    std::optional<ADIFRecord> rename(const ADIFRecord& record, std::string_view from, std::string_view to);
-    std::optional<ADIFRecord> duplicate(const ADIFRecord& record, std::string_view name, std::string_view as);
-    std::optional<ADIFRecord> remove(const ADIFRecord& record, std::string_view name);
+    ADIFRecord setValue(const ADIFRecord& record, const FieldName& name, std::string_view value);
+    std::optional<ADIFRecord> rename(const ADIFRecord& record, const FieldName& from, const FieldName& to);
+    std::optional<ADIFRecord> duplicate(const ADIFRecord& record, const FieldName& name, const FieldName& as);
+    std::optional<ADIFRecord> remove(const ADIFRecord& record, const FieldName& name);
 
     ADIFRecord withValueAt(const ADIFRecord& record, std::size_t index, std::string_view value);
     ADIFRecord withField(const ADIFRecord& record, const ADIFField& field);

@@ -1,7 +1,5 @@
 #include "Tallyrig/Log/RecordValues.h"
 
-#include "Tallyrig/Log/RecordSearch.h"
-
 #include <algorithm>
 
 namespace tallyrig {
@@ -39,7 +37,7 @@ void RecordValues::read(const ADIFRecord& record) {
 
 std::size_t RecordValues::indexOf(const FieldTag& tag) const {
     const auto found =
-        std::ranges::find_if(names, [&](const std::string& name) { return isNamed(tag, name); });
+        std::ranges::find_if(names, [&](const std::string& name) { return text::equal(tag.name, name); });
     return static_cast<std::size_t>(found - names.begin());
 }
 

@@ -5,12 +5,13 @@
 
 namespace tallyrig::text {
 
-/// `text` for one line on a screen, with a sign in the place of every character that is not seen but acts on the
-/// text around it. Logs come from anywhere, and such characters clear a terminal or turn round what is read.
+/// `text` for one line on a screen, with a sign in the place of every character that is not seen but acts on
+/// the text around it. Logs come from anywhere, and such characters clear a terminal or turn round what is
+/// read.
 ///
-/// A line break (LF, CR LF, U+2028, U+2029) becomes "⏎", the other control characters of ASCII the pictures of
-/// them ("␛"), those above it U+FFFD, and the characters that direct the reading order their names ("⟨RLO⟩").
-/// Everything else stays as it is. `text` is well-formed UTF-8.
+/// A line break (LF, CR LF, U+2028, U+2029) becomes "⏎", the other control characters of ASCII the pictures
+/// of them ("␛"), those above it U+FFFD, and the characters that direct the reading order their names
+/// ("⟨RLO⟩"). Everything else stays as it is. `text` is well-formed UTF-8.
 std::string visibleText(std::string_view text);
 
 }  // namespace tallyrig::text

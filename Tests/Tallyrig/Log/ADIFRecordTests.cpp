@@ -44,6 +44,7 @@ TEST(Lookup, FindsTheFirstFieldOfANameInAnyCase) {
     EXPECT_FALSE(twice.has(""));
     EXPECT_EQ(record({{"stra\u00DFe", "x"}})["STRASSE"], "x");
     EXPECT_EQ(record({{"o\u0308", "x"}})["\u00F6"], "x") << "canonically equivalent names are one name";
+    EXPECT_EQ(record({{"K_INDEX", "3"}})["\u212A_INDEX"], "3") << "and so is the kelvin sign a K";
 }
 
 TEST(Writing, ChangesTheFirstFieldAndKeepsItsPlace) {
