@@ -1,48 +1,23 @@
 #include "TallyrigTool/Console.h"
 
+#include "Quillon/Platform/Files/Descriptor.h"
+#include "Quillon/Platform/Files/Files.h"
+#include "Quillon/Platform/Files/SystemError.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <utility>
+#include <variant>
 
 namespace tallyrig::tool {
 
 namespace {
 
 constexpr std::size_t pieceSize = 256 * 1024;
-
-/// Writes all of `text` and returns 0, or the error number that stopped it.
-int writeAll(int stream, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = ::write(stream, text.data(), text.size());
-        if (written < 0 && errno != EINTR) {
-            return errno;
-        }
-        text.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-    }
-    return 0;
-}
-
-std::string reason(int error) {
-    switch (error) {
-        case EPIPE:
-            return "Der Empfänger nimmt nichts mehr an.";
-        case ENOSPC:
-            return "Es ist kein Platz mehr frei.";
-        case EBADF:
-            return "Sie ist geschlossen.";
-        case EISDIR:
-            return "Sie ist ein Ordner.";
-        default:
-            return std::strerror(error);
-    }
-}
 
 }  // namespace
 
@@ -62,18 +37,20 @@ void Output::flush() {
 }
 
 void Output::put(std::string_view text) {
-    if (const int error = writeAll(STDOUT_FILENO, text)) {
-        throw Failure{"Die Standardausgabe konnte nicht geschrieben werden: " + reason(error)};
+    if (const int error = quillon::writeAll(STDOUT_FILENO, text)) {
+        throw Failure{"Die Standardausgabe konnte nicht geschrieben werden: " +
+                      quillon::systemErrorSentence(error)};
     }
 }
 
 void complain(std::string_view message) {
     // Where even this cannot be written the exit status has to do.
-    writeAll(STDERR_FILENO, "tallyrig: " + visible(message) + "\n");
+    quillon::writeAll(STDERR_FILENO, "tallyrig: " + visible(message) + "\n");
 }
 
 void prepareStandardStreams() {
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
         if (::fcntl(stream, F_GETFD) == -1) {
             // The wrong direction on purpose: to use the stream fails as it does while it is closed.
@@ -88,22 +65,11 @@ std::string readStandardInput() {
         throw Failure{"-: Die Standardeingabe kann nur einmal gelesen werden."};
     }
     wasRead = true;
-    std::string bytes;
-    std::size_t size = 0;
-    while (true) {
-        if (bytes.size() < size + pieceSize) {
-            bytes.resize(2 * bytes.size() + pieceSize);
-        }
-        const ssize_t count = ::read(STDIN_FILENO, bytes.data() + size, bytes.size() - size);
-        if (count < 0 && errno != EINTR) {
-            throw Failure{"-: Die Standardeingabe konnte nicht gelesen werden: " + reason(errno)};
-        }
-        if (count == 0) {
-            bytes.resize(size);
-            return bytes;
-        }
-        size += count < 0 ? 0 : static_cast<std::size_t>(count);
+    std::variant<std::string, quillon::FileError> result = quillon::readStandardInput();
+    if (const auto* const error = std::get_if<quillon::FileError>(&result)) {
+        throw Failure{"-: Die Standardeingabe konnte nicht gelesen werden: " + error->message};
     }
+    return std::get<std::string>(std::move(result));
 }
 
 std::string visible(std::string_view text) {

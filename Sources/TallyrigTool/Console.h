@@ -30,7 +30,8 @@ class Output {
 /// Prints `message` to standard error, the program's name in front.
 void complain(std::string_view message);
 
-/// Lets a closed output show itself as a failed write rather than end the program, and keeps files that are
+/// Lets a closed output and a file that may not grow further show themselves as failed writes rather than end
+/// the program, and keeps files that are
 /// opened later from taking the place of a standard stream that was closed at the start.
 void prepareStandardStreams();
 

@@ -401,7 +401,7 @@ TEST_F(Failure, NamesWhyAFileCannotBeRead) {
         {"fehlt.adi", "fehlt.adi: Die Datei existiert nicht."},
         {"Examples", "Examples: Das ist ein Ordner und keine Datei."},
         {"- <&-", "-: Die Standardeingabe konnte nicht gelesen werden: Sie ist geschlossen."},
-        {"- <.", "-: Die Standardeingabe konnte nicht gelesen werden: Sie ist ein Ordner."},
+        {"- <.", "-: Die Standardeingabe konnte nicht gelesen werden: Das ist ein Ordner und keine Datei."},
         {"'\x1b[31m.adi'", "␛[31m.adi: Die Datei existiert nicht."},
     };
     for (const auto& [arguments, complaint] : cases) {

@@ -1,11 +1,11 @@
 #include "Quillon/App/QuillonApp.h"
 
+#include "Quillon/Platform/FileNames.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 
@@ -35,7 +35,7 @@ QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
     contentView = std::make_unique<ContentView>(logStore, *settings, arguments);
     QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
         if (logStore.fileURL()) {
-            panels.setFolder(QFileInfo(*logStore.fileURL()).absolutePath());
+            panels.setFolder(folderOf(*logStore.fileURL()));
         }
     });
 }

@@ -1,6 +1,7 @@
 #include "Quillon/Platform/FileNames.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace quillon {
 
@@ -13,11 +14,13 @@ QString nameOf(const QString& path) {
 }  // namespace
 
 QString absolutePath(const QString& path) {
-    if (path.isEmpty()) {
-        return path;
-    }
-    return QDir::cleanPath(path.startsWith(QLatin1Char('/')) ? path
-                                                             : QDir::currentPath() + QLatin1Char('/') + path);
+    return path.isEmpty() || path.startsWith(QLatin1Char('/'))
+               ? path
+               : QDir::currentPath() + QLatin1Char('/') + path;
+}
+
+QString folderOf(const QString& path) {
+    return QFileInfo(path.left(path.lastIndexOf(QLatin1Char('/')) + 1)).canonicalFilePath();
 }
 
 QString extensionOf(const QString& path) {

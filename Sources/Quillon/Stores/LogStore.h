@@ -84,6 +84,8 @@ class LogStore : public QObject {
     void openWithPanel();
     /// Opens the first of the program's `arguments` (the program's name left out) that names an existing
     /// path, passing over what follows `--crosscheck`. Nothing happens if a file is open already.
+    /// `errorMessage` tells of the other paths, that they were not opened, and of one that leads nowhere if
+    /// there is no other.
     void openFromCommandLineIfNeeded(const QStringList& arguments);
     void save();
     void saveWithPanel();

@@ -9,9 +9,12 @@
 #include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 #include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <string>
 #include <variant>
 
 namespace quillon {
@@ -33,8 +36,29 @@ std::string textFor(const QString& path, const ADIFDocument& document, const Set
     return tallyrig::ADIFWriter{"Quillon", programVersion, version, writeHeader}.write(document);
 }
 
-QString failure(const QString& what, const FileError& why) {
-    return what + QLatin1Char('\n') + QString::fromStdString(why.message);
+QString failure(const QString& what, const QString& path, const std::string& why) {
+    const QString lastPart = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    const QString name = lastPart.isEmpty() ? path : lastPart;
+    return what + QStringLiteral("\n„") +
+           QString::fromStdString(tallyrig::text::visibleText(name.toStdString() + "“: " + why));
+}
+
+/// Whether an argument that names nothing may have been meant as the path of a log.
+bool mayBePath(const QString& argument) {
+    return !argument.isEmpty() && !argument.startsWith(QLatin1Char('-'));
+}
+
+QString notOpenedMessage(const QStringList& paths) {
+    constexpr qsizetype mostNamed = 10;
+    QString message = QStringLiteral("Es ist immer nur ein Log offen. Nicht geöffnet:");
+    for (const QString& path : paths.first(std::min(paths.size(), mostNamed))) {
+        message +=
+            QLatin1Char('\n') + QString::fromStdString(tallyrig::text::visibleText(path.toStdString()));
+    }
+    if (paths.size() > mostNamed) {
+        message += QStringLiteral("\nund %1 weitere").arg(paths.size() - mostNamed);
+    }
+    return message;
 }
 
 }  // namespace
@@ -87,7 +111,11 @@ void LogStore::open(const QString& path) {
     const QString fullPath = absolutePath(path);
     const auto content = readFile(fullPath.toStdString());
     if (const auto* error = std::get_if<FileError>(&content)) {
-        state.errorMessage = failure(QStringLiteral("Datei konnte nicht geöffnet werden:"), *error);
+        // What is no UTF-8 in a name has become this character, and the file is not found by it.
+        const bool isNameBroken = fullPath.contains(QChar::ReplacementCharacter);
+        state.errorMessage =
+            failure(QStringLiteral("Datei konnte nicht geöffnet werden:"), fullPath,
+                    isNameBroken ? "Der Name ist nicht in UTF-8 geschrieben." : error->message);
         return;
     }
     showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, fullPath);
@@ -104,13 +132,28 @@ void LogStore::openFromCommandLineIfNeeded(const QStringList& arguments) {
     if (state.fileURL) {
         return;
     }
+    const Operation operation(*this);
+    QStringList paths;  ///< And what is none, but looks like one.
+    qsizetype first = -1;
     for (qsizetype index = 0; index < arguments.size(); ++index) {
         // What follows the word is the folder of a cross-check.
-        const bool belongsToOther = index > 0 && arguments[index - 1] == QLatin1String("--crosscheck");
-        if (!belongsToOther && QFileInfo::exists(absolutePath(arguments[index]))) {
-            open(arguments[index]);
-            return;
+        if (index > 0 && arguments[index - 1] == QLatin1String("--crosscheck")) {
+            continue;
         }
+        const bool isThere = QFileInfo::exists(absolutePath(arguments[index]));
+        if (isThere && first < 0) {
+            first = paths.size();
+        }
+        if (isThere || mayBePath(arguments[index])) {
+            paths.append(arguments[index]);
+        }
+    }
+    if (paths.isEmpty()) {
+        return;
+    }
+    open(paths.takeAt(std::max<qsizetype>(first, 0)));
+    if (!state.errorMessage && !paths.isEmpty()) {
+        state.errorMessage = notOpenedMessage(paths);
     }
 }
 
@@ -135,7 +178,8 @@ void LogStore::write(const QString& path) {
     const QString fullPath = absolutePath(path);
     const std::string content = textFor(fullPath, state.document, settings);
     if (const auto error = replaceFile(fullPath.toStdString(), content)) {
-        state.errorMessage = failure(QStringLiteral("Speichern fehlgeschlagen:"), *error);
+        state.errorMessage = failure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath,
+                                     error->message + " „Speichern unter…“ wählt einen anderen Ort.");
         return;
     }
     state.fileURL = fullPath;
@@ -163,8 +207,9 @@ void LogStore::exportText(const std::string& text, const FileType& type, const Q
         return;
     }
     const Operation operation(*this);
-    if (const auto error = replaceFile(absolutePath(*path).toStdString(), text)) {
-        state.errorMessage = failure(failurePrefix, *error);
+    const QString fullPath = absolutePath(*path);
+    if (const auto error = replaceFile(fullPath.toStdString(), text)) {
+        state.errorMessage = failure(failurePrefix, fullPath, error->message);
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include <QDir>
 
+#include <filesystem>
 #include <memory>
+#include <tuple>
 
 namespace quillon {
 namespace {
@@ -77,10 +79,10 @@ TEST_F(OpeningLogs, KeepsTheOldOneWhereTheNewCannotBeRead) {
     type(0, "CALL", "B");
     told.sent();
     store.open(folder.path("missing.adi"));
-    EXPECT_EQ(error(), "Datei konnte nicht geöffnet werden:\nDie Datei existiert nicht.");
+    EXPECT_EQ(error(), "Datei konnte nicht geöffnet werden:\n„missing.adi“: Die Datei existiert nicht.");
     EXPECT_EQ(told.sent(), "errorMessage");
     store.open(QDir::rootPath());
-    EXPECT_EQ(error(), "Datei konnte nicht geöffnet werden:\nDas ist ein Ordner und keine Datei.");
+    EXPECT_EQ(error(), "Datei konnte nicht geöffnet werden:\n„/“: Das ist ein Ordner und keine Datei.");
     EXPECT_EQ(title(), "log.adi — bearbeitet");
     EXPECT_EQ(shown(), "B");
     EXPECT_TRUE(store.canUndo());
@@ -108,43 +110,53 @@ TEST_F(OpeningLogs, AsksInAPanelForAnyLogFile) {
     EXPECT_EQ(told.sent(), "");
 }
 
-TEST_F(CommandLine, OpensTheFirstPathThatIsThere) {
-    folder.write("a.adi", adi({"CALL=A"}));
-    folder.write("b.adi", adi({"CALL=B"}));
-    const QString a = folder.path("a.adi");
-    const QString b = folder.path("b.adi");
+TEST_F(CommandLine, OpensTheFirstPathThatIsThereAndTellsOfTheOthers) {
+    const QString a = folder.write("a.adi", adi({"CALL=A"}));
+    const QString b = folder.write("b.adi", adi({"CALL=B"}));
+    const QString none = folder.path(QString::fromUtf8("n\xFCnf.adi"));
     const QString cross = "--crosscheck";
-    const struct {
-        QStringList arguments;
-        const char* opened;
-    } cases[] = {
-        {{cross, a, b}, "B"},    {{a, cross, b}, "A"}, {{"-x", folder.path("none"), b}, "B"},
-        {{cross, cross, a}, ""}, {{cross, a}, ""},     {{}, ""},
-        {{"", a}, "A"},
+    const std::string only = "Es ist immer nur ein Log offen. Nicht geöffnet:\n";
+    const std::string failed = "Datei konnte nicht geöffnet werden:\n";
+    const std::tuple<QStringList, std::string, std::string> cases[] = {
+        {{cross, a, b}, "B", "(none)"},
+        {{a, cross, b}, "A", "(none)"},
+        {{"-x", "", b}, "B", "(none)"},
+        {{cross, cross, a}, "", "(none)"},
+        {{"missing", b, a}, "B", only + "missing\n" + a.toStdString()},
+        {{"-x", "missing"}, "", failed + "„missing“: Die Datei existiert nicht."},
+        {{none}, "", failed + "„n\uFFFDnf.adi“: Der Name ist nicht in UTF-8 geschrieben."},
     };
-    for (const auto& [arguments, opened] : cases) {
+    for (const auto& [arguments, opened, message] : cases) {
         LogStore other(settings, panels, measurer);
         other.openFromCommandLineIfNeeded(arguments);
         const auto& records = other.document().records();
-        EXPECT_EQ(records.empty() ? "" : records[0].valueOrEmpty("CALL"), opened)
-            << arguments.join(' ').toStdString();
-        EXPECT_EQ(other.errorMessage(), std::nullopt);
+        EXPECT_EQ(records.empty() ? "" : records[0].valueOrEmpty("CALL"), opened) << message;
+        EXPECT_EQ(other.errorMessage().value_or("(none)").toStdString(), message);
     }
+    store.openFromCommandLineIfNeeded({a});
+    store.openFromCommandLineIfNeeded({b});
+    EXPECT_EQ(shown(), "A");
 }
 
-TEST_F(CommandLine, DoesNothingOnceALogIsOpenAndMakesPathsAbsolute) {
-    folder.write("a.adi", adi({"CALL=A"}));
-    store.openFromCommandLineIfNeeded({QDir::current().relativeFilePath(folder.path("a.adi"))});
-    EXPECT_EQ(store.fileURL(), folder.path("a.adi"));
+TEST_F(CommandLine, LeavesItToTheSystemWhereAPathLeads) {
+    const std::filesystem::path top = folder.path(".").toStdString();
+    std::filesystem::create_directories(top / "far/logs");
+    std::filesystem::create_directory_symlink("far/logs", top / "link");
+    folder.write("r.adi", adi({"CALL=NEAR"}));
+    folder.write("far/r.adi", adi({"CALL=FAR"}));
+    std::filesystem::copy_file(folder.write("c.adi", adi({"CALL=COLON"})).toStdString(), top / ":r.adi");
     const QString before = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(folder.path(".")));
-    std::filesystem::copy_file("a.adi", ":a.adi");
-    LogStore other(settings, panels, measurer);
-    other.openFromCommandLineIfNeeded({":a.adi"});
+    for (const auto& [argument, call] : {std::pair("link/../r.adi", "FAR"), std::pair(":r.adi", "COLON")}) {
+        LogStore other(settings, panels, measurer);
+        other.openFromCommandLineIfNeeded({argument});
+        ASSERT_EQ(other.document().records().size(), 1U);
+        EXPECT_EQ(other.document().records()[0]["CALL"], call);
+        other.save();
+    }
     QDir::setCurrent(before);
-    EXPECT_EQ(other.document().records().size(), 1U);
-    store.openFromCommandLineIfNeeded({folder.write("b.adi", adi({"CALL=B"}))});
-    EXPECT_EQ(shown(), "A");
+    EXPECT_NE(folder.read("far/r.adi").find("PROGRAMID"), std::string::npos);
+    EXPECT_EQ(folder.read("r.adi").find("PROGRAMID"), std::string::npos);
 }
 
 TEST_F(SavingLogs, WritesTheWholeLogWhateverTheTableShows) {
@@ -207,12 +219,13 @@ TEST_F(SavingLogs, ChangesNothingWhereItFails) {
     openLog({"CALL=A"});
     type(0, "CALL", "B");
     told.sent();
-    panels.answers = {folder.path("missing/log.adi"), QDir::rootPath()};
+    panels.answers = {folder.path("missing/log.adi")};
     store.saveWithPanel();
-    EXPECT_EQ(error(), "Speichern fehlgeschlagen:\nDer Ordner existiert nicht.");
-    store.saveWithPanel();
-    EXPECT_EQ(error(), "Speichern fehlgeschlagen:\nDas ist ein Ordner und keine Datei.");
-    EXPECT_EQ(told.sent(), "errorMessage2");
+    EXPECT_EQ(
+        error(),
+        "Speichern fehlgeschlagen:\n„log.adi“: Der Ordner existiert nicht. „Speichern unter…“ wählt einen "
+        "anderen Ort.");
+    EXPECT_EQ(told.sent(), "errorMessage");
     EXPECT_EQ(title(), "log.adi — bearbeitet");
     EXPECT_EQ(folder.names(), "log.adi");
 }

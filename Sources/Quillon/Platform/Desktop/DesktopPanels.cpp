@@ -109,7 +109,7 @@ std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
         return std::nullopt;
     }
     const QString path = dialog.selectedFiles().constFirst();
-    folder = QFileInfo(path).absolutePath();
+    folder = folderOf(path);
     // The store now reads or writes the file; it returns to the event loop when it is done.
     showBusyCursorUntilIdle();
     return path;

@@ -1,105 +1,57 @@
 #include "Quillon/Platform/Files/Files.h"
 
+#include "Quillon/Platform/Files/Attributes.h"
+#include "Quillon/Platform/Files/Descriptor.h"
+#include "Quillon/Platform/Files/SystemError.h"
+#include "Quillon/Platform/Files/TemporaryFile.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <new>
-#include <stdexcept>
-#include <string>
 #include <utility>
 
 namespace quillon {
 
 namespace {
 
-enum class Access { reading, writing };
-
-/// The cause that `errno` names, as a sentence for a person.
-FileError errorFrom(int cause, Access access) {
-    const bool isReading = access == Access::reading;
-    switch (cause) {
-        case ENOENT:
-            return {isReading ? "Die Datei existiert nicht." : "Der Ordner existiert nicht."};
-        case ENOTDIR:
-            return {"Ein Teil des Pfads ist kein Ordner."};
-        case EACCES:
-        case EPERM:
-            return {isReading ? "Keine Berechtigung, die Datei zu lesen."
-                              : "Keine Berechtigung, die Datei zu schreiben."};
-        case EISDIR:
-            return {"Das ist ein Ordner und keine Datei."};
-        case ENOSPC:
-        case EDQUOT:
-            return {"Auf dem Datenträger ist kein Platz mehr."};
-        case EROFS:
-            return {"Der Datenträger ist schreibgeschützt."};
-        case ELOOP:
-            return {"Der Pfad führt über zu viele symbolische Verknüpfungen."};
-        case ENAMETOOLONG:
-            return {"Der Dateiname ist zu lang."};
-        case EFBIG:
-        case EOVERFLOW:
-        case ENOMEM:
-            return {"Die Datei ist zu groß."};
-        case EIO:
-            return {"Der Datenträger meldet einen Ein-/Ausgabefehler."};
-        case EBUSY:
-        case ETXTBSY:
-            return {"Die Datei wird gerade benutzt."};
-        case EMFILE:
-        case ENFILE:
-            return {"Es sind zu viele Dateien geöffnet."};
-        default:
-            return {"Das System meldet den Fehler " + std::to_string(cause) + "."};
-    }
+bool isForbidden(int error) {
+    return error == EACCES || error == EPERM;
 }
 
-/// A file descriptor, closed at the end.
-class Descriptor {
-  public:
-    explicit Descriptor(int opened) : descriptor(opened) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (isOpen()) {
-            ::close(descriptor);
-        }
-    }
-    bool isOpen() const { return descriptor >= 0; }
-    int number() const { return descriptor; }
-    /// Some file systems tell only here that what was written found no room.
-    bool close() { return ::close(std::exchange(descriptor, -1)) == 0; }
+FileError readingError(int error) {
+    return {isForbidden(error) ? "Keine Berechtigung, die Datei zu lesen." : systemErrorSentence(error)};
+}
 
-  private:
-    int descriptor;
-};
-
-/// The file that takes the place of another, removed unless it was moved there.
-class TemporaryFile {
-  public:
-    explicit TemporaryFile(std::string filePath) : path(std::move(filePath)) {}
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() {
-        if (!path.empty()) {
-            ::unlink(path.c_str());
-        }
+FileError writingError(int error) {
+    if (error == ENOENT) {
+        return {"Der Ordner existiert nicht."};
     }
-    bool moveTo(const std::string& target) {
-        if (std::rename(path.c_str(), target.c_str()) != 0) {
-            return false;
-        }
-        path.clear();
-        return true;
-    }
+    return {isForbidden(error) ? "Keine Berechtigung, die Datei zu schreiben." : systemErrorSentence(error)};
+}
 
-  private:
-    std::string path;
-};
+FileError creatingError(int error, const std::string& folder) {
+    return isForbidden(error) ? FileError{"Im Ordner „" + (folder.empty() ? "." : folder) +
+                                          "“ darf keine Datei angelegt werden."}
+                              : writingError(error);
+}
+
+std::variant<std::string, FileError> contentOf(int descriptor, std::size_t expected) {
+    ReadBytes read = readAll(descriptor, expected);
+    if (read.error != 0) {
+        return readingError(read.error);
+    }
+    return std::move(read.bytes);
+}
+
+/// The error number for a file of this kind that is to be read or replaced; 0 for a regular file.
+int refusalOf(const struct stat& status) {
+    if (S_ISREG(status.st_mode)) {
+        return 0;
+    }
+    return S_ISDIR(status.st_mode) ? EISDIR : ENXIO;
+}
 
 /// Everything up to the first file name, with its slash; empty for a bare name.
 std::string folderOf(const std::string& path) {
@@ -122,17 +74,6 @@ std::optional<std::string> linkTarget(std::string path) {
     return std::nullopt;
 }
 
-bool writeAll(int descriptor, std::string_view content) {
-    while (!content.empty()) {
-        const ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written < 0 && errno != EINTR) {
-            return false;
-        }
-        content.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
-    }
-    return true;
-}
-
 /// Makes the new name of a file last through a loss of power, where the file system can.
 void syncFolder(const std::string& folder) {
     const Descriptor opened(
@@ -142,117 +83,63 @@ void syncFolder(const std::string& folder) {
     }
 }
 
-/// Devices and pipes are written to: they cannot be replaced.
-std::optional<FileError> writeInPlace(const std::string& path, std::string_view content) {
-    Descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
-    if (!file.isOpen() || !writeAll(file.number(), content) || !file.close()) {
-        return errorFrom(errno, Access::writing);
-    }
-    return std::nullopt;
-}
-
-/// Creates a file that was not there in `folder` and puts its path into `path`.
-int createBeside(const std::string& folder, mode_t mode, std::string& path) {
-    for (int attempt = 0;; ++attempt) {
-        path = folder + ".quillon-" + std::to_string(::getpid()) + "-" + std::to_string(attempt) + ".tmp";
-        const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-        if (descriptor >= 0 || errno != EEXIST) {
-            return descriptor;
-        }
-    }
-}
-
-/// Makes the new file as accessible as the one it replaces, as far as the system allows it: not every one may
-/// give a file away, and not every file system knows owners and permissions. That is no reason not to save.
-bool takeOver(int descriptor, const struct stat& old) {
-    struct stat created = {};
-    if (::fstat(descriptor, &created) != 0) {
-        return false;
-    }
-    mode_t mode = old.st_mode & 07777U;
-    if (created.st_uid != old.st_uid && ::fchown(descriptor, old.st_uid, old.st_gid) == 0) {
-        created.st_gid = old.st_gid;
-    }
-    if (created.st_gid != old.st_gid && ::fchown(descriptor, static_cast<uid_t>(-1), old.st_gid) != 0) {
-        // Another group must not get the rights of the old one.
-        mode &= ~static_cast<mode_t>(S_IRWXG);
-    }
-    if ((created.st_mode & 07777U) != mode) {
-        static_cast<void>(::fchmod(descriptor, mode));
-    }
-    return true;
-}
-
-/// All bytes up to the end. `expected` is their number as far as it is known: files of the kernel say 0, and
-/// others may grow or shrink while they are read.
-std::variant<std::string, FileError> readAll(int descriptor, std::size_t expected) {
-    // One byte more than expected lets the last read see the end without growing.
-    std::string content(std::max<std::size_t>(expected + 1, 4096), '\0');
-    std::size_t length = 0;
-    while (true) {
-        const ssize_t count = ::read(descriptor, content.data() + length, content.size() - length);
-        if (count < 0 && errno != EINTR) {
-            return errorFrom(errno, Access::reading);
-        }
-        if (count == 0) {
-            content.resize(length);
-            return content;
-        }
-        length += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-        if (length == content.size()) {
-            content.resize(content.size() * 2);
-        }
-    }
-}
-
 }  // namespace
 
 std::variant<std::string, FileError> readFile(const std::string& path) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat status = {};
-    if (!file.isOpen() || ::fstat(file.number(), &status) != 0) {
-        return errorFrom(errno, Access::reading);
+    // Looked at before it is opened: whoever waits to write into a pipe would go on, and find nobody reading.
+    if (::stat(path.c_str(), &status) != 0) {
+        return readingError(errno);
     }
-    if (S_ISDIR(status.st_mode)) {
-        return errorFrom(EISDIR, Access::reading);
+    if (const int refusal = refusalOf(status); refusal != 0) {
+        return readingError(refusal);
     }
-    try {
-        return readAll(file.number(), static_cast<std::size_t>(status.st_size));
-    } catch (const std::bad_alloc&) {
-        return errorFrom(ENOMEM, Access::reading);
-    } catch (const std::length_error&) {
-        return errorFrom(EFBIG, Access::reading);
+    // Some files of the kernel are regular and yet never end; this way they say so.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.isOpen()) {
+        // Another process, such as a file server, is asked to let go of it.
+        return readingError(errno == EAGAIN ? EBUSY : errno);
     }
+    if (::fstat(file.number(), &status) != 0) {
+        return readingError(errno);
+    }
+    return contentOf(file.number(), static_cast<std::size_t>(status.st_size));
+}
+
+std::variant<std::string, FileError> readStandardInput() {
+    return contentOf(STDIN_FILENO, 0);
 }
 
 std::optional<FileError> replaceFile(const std::string& path, std::string_view content) {
     struct stat old = {};
     const bool isThere = ::stat(path.c_str(), &old) == 0;
-    if (isThere && S_ISDIR(old.st_mode)) {
-        return errorFrom(EISDIR, Access::writing);
-    }
-    if (isThere && !S_ISREG(old.st_mode)) {
-        return writeInPlace(path, content);
+    if (const int refusal = isThere ? refusalOf(old) : 0; refusal != 0) {
+        return writingError(refusal);
     }
     // Renaming needs no right to the file itself, but a file protected against writing was meant to stay.
     if (isThere && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) {
-        return errorFrom(errno, Access::writing);
+        return writingError(errno);
     }
     const auto target = linkTarget(path);
     if (!target) {
-        return errorFrom(ELOOP, Access::writing);
+        return writingError(ELOOP);
     }
-    std::string temporaryPath;
-    Descriptor file(createBeside(folderOf(*target), isThere ? 0600 : 0666, temporaryPath));
+    const std::string folder = folderOf(*target);
+    TemporaryFile file(folder, isThere ? 0600 : 0666);
     if (!file.isOpen()) {
-        return errorFrom(errno, Access::writing);
+        return creatingError(errno, folder);
     }
-    TemporaryFile temporary(std::move(temporaryPath));
-    if (!writeAll(file.number(), content) || (isThere && !takeOver(file.number(), old)) ||
-        ::fsync(file.number()) != 0 || !file.close() || !temporary.moveTo(*target)) {
-        return errorFrom(errno, Access::writing);
+    if (const int error = writeAll(file.number(), content); error != 0) {
+        return writingError(error);
     }
-    syncFolder(folderOf(*target));
+    if (isThere && !carryOverAttributes(path, old, file.number())) {
+        return FileError{
+            "Die Datei gehört einem anderen Benutzer und würde ihm durch das Speichern genommen."};
+    }
+    if (::fsync(file.number()) != 0 || !file.moveTo(*target)) {
+        return writingError(errno);
+    }
+    syncFolder(folder);
     return std::nullopt;
 }
 

@@ -7,18 +7,30 @@
 
 namespace quillon {
 
-/// Why the system refused, as one German sentence for a person, such as "Die Datei existiert nicht.".
+/// Why the system refused, as one German sentence for a person, such as "Die Datei existiert nicht.". It
+/// leaves the file to the caller to name, but names the folder where that is what stands in the way.
 struct FileError {
     std::string message;
 };
 
-/// The whole content of the file at `path` (UTF-8), or why it could not be read. A directory is an error; a
-/// file that shrinks while it is read gives what was there.
+/// The whole content of the file at `path` (UTF-8), or why it could not be read. Only regular files are read:
+/// nothing else is waited for, and nobody at the other end of a pipe notices. A file that grows or shrinks
+/// while it is read gives what was there.
 std::variant<std::string, FileError> readFile(const std::string& path);
 
-/// Makes `content` the whole of the file at `path`: written beside it and then renamed, so that the file is
-/// replaced whole or, on failure, not at all and nothing is left behind. Follows a symbolic link to its
-/// target, and keeps the permissions of a file that is there. Absent on success.
+/// Everything up to the end of standard input, whatever that is, or why it could not be read.
+std::variant<std::string, FileError> readStandardInput();
+
+/// Makes `content` the whole of the file at `path` (UTF-8): it is written beside the file and then renamed,
+/// so that the file is replaced whole or, on failure, not at all. Absent on success.
+///
+/// Follows a symbolic link to its target. Owner, group, permissions, access control list and extended
+/// attributes of a file that is there are kept as far as the system lets them; where it does not, nobody may
+/// read or write the file who could not before, and a file that would get another owner is not replaced.
+/// Anything but a regular file is refused.
+///
+/// What is written has no name until it is complete, where the file system can do that. A process that dies
+/// leaves at most one file ".quillon-N.tmp" behind, which the next to save in that folder removes.
 std::optional<FileError> replaceFile(const std::string& path, std::string_view content);
 
 }  // namespace quillon
