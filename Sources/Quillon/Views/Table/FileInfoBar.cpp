@@ -1,16 +1,17 @@
 #include "Quillon/Views/Table/FileInfoBar.h"
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/CopyableList.h"
+#include "Quillon/Views/Controls/DisclosureButton.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Table/FileInfoModel.h"
 #include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Text/VisibleText.h"
 
-#include <QFontDatabase>
-#include <QGridLayout>
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QStringList>
-#include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <string_view>
@@ -18,27 +19,15 @@
 namespace quillon {
 namespace {
 
-constexpr int nameWidthPx = 160;
 constexpr int largestDetailsHeightPx = 160;
-/// A header can hold a whole book, or a file that is no log at all.
-constexpr int longestTextShown = 20'000;
 
 QString headerValue(const tallyrig::ADIFDocument& document, std::string_view name) {
     const auto& fields = document.headerFields();
     const auto field = std::find_if(
         fields.begin(), fields.end(),
         [name](const tallyrig::ADIFField& candidate) { return tallyrig::text::equal(candidate.name, name); });
-    return field == fields.end() ? QString() : toQString(cutToShow(field->value));
-}
-
-QLabel* detailLabel(const QString& text) {
-    const bool isCut = text.size() > longestTextShown;
-    auto* label = new QLabel(isCut ? text.left(longestTextShown) + QStringLiteral(" …") : text);
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setWordWrap(true);
-    return label;
+    return field == fields.end() ? QString()
+                                 : toQString(tallyrig::text::visibleText(cutToShow(field->value)));
 }
 
 }  // namespace
@@ -60,20 +49,18 @@ QString fileInfoSummary(const tallyrig::ADIFDocument& document) {
 FileInfoBar::FileInfoBar(const LogStore& logStore, QWidget* parent)
     : QWidget(parent),
       store(logStore),
-      disclosure(new QToolButton(this)),
+      disclosure(new DisclosureButton(QStringLiteral("Datei-Info"), this)),
       summary(new ElidedLabel(Qt::ElideRight, this)),
-      details(new QScrollArea(this)) {
-    disclosure->setText(QStringLiteral("Datei-Info"));
-    disclosure->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    disclosure->setAutoRaise(true);
-    disclosure->setFocusPolicy(Qt::TabFocus);
+      model(new FileInfoModel(this)),
+      details(new CopyableList(FileInfoModel::wholeRole, this)),
+      nothing(noteLabel(QStringLiteral("Keine Angaben in der Datei"), this)) {
+    setAccessibleName(QStringLiteral("Datei-Info"));
     summary->setForegroundRole(QPalette::PlaceholderText);
     summary->setAccessibleName(QStringLiteral("Zusammenfassung der Datei-Info"));
     details->setAccessibleName(QStringLiteral("Kopf der Datei"));
-    details->setFrameShape(QFrame::NoFrame);
-    details->setWidgetResizable(true);
-    details->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    details->setMaximumHeight(largestDetailsHeightPx);
+    details->setModel(model);
+    details->setItemDelegate(new FileInfoDelegate(details));
+    nothing->setContentsMargins(12, 2, 12, 6);
 
     auto* line = new QHBoxLayout;
     line->setContentsMargins(4, 2, 8, 2);
@@ -85,56 +72,36 @@ FileInfoBar::FileInfoBar(const LogStore& logStore, QWidget* parent)
     layout->setSpacing(0);
     layout->addLayout(line);
     layout->addWidget(details);
+    layout->addWidget(nothing);
 
-    connect(disclosure, &QToolButton::clicked, this, [this] { setExpanded(!expanded); });
+    connect(disclosure, &DisclosureButton::expandedChanged, this, &FileInfoBar::refresh);
     connect(&store, &LogStore::documentChanged, this, &FileInfoBar::refresh);
     refresh();
 }
 
+bool FileInfoBar::isExpanded() const {
+    return disclosure->isExpanded();
+}
+
 void FileInfoBar::setExpanded(bool isOpen) {
-    expanded = isOpen;
-    refresh();
+    disclosure->setExpanded(isOpen);
 }
 
 void FileInfoBar::refresh() {
-    disclosure->setAccessibleDescription(expanded ? QStringLiteral("geöffnet")
-                                                  : QStringLiteral("geschlossen"));
-    disclosure->setArrowType(expanded ? Qt::DownArrow : Qt::RightArrow);
     summary->setText(fileInfoSummary(store.document()));
-    details->setVisible(expanded);
-    if (expanded) {
-        fillDetails();
+    if (isExpanded()) {
+        model->setDocument(store.document());
+        fitDetails();
     }
+    details->setVisible(isExpanded() && model->rowCount() > 0);
+    nothing->setVisible(isExpanded() && model->rowCount() == 0);
 }
 
-void FileInfoBar::fillDetails() {
-    const tallyrig::ADIFDocument& document = store.document();
-    if (details->widget() != nullptr && document.headerComment() == shownComment &&
-        document.headerFields() == shownFields) {
-        return;
-    }
-    shownComment = document.headerComment();
-    shownFields = document.headerFields();
-    auto* content = new QWidget;
-    auto* grid = new QGridLayout(content);
-    grid->setContentsMargins(12, 4, 12, 8);
-    grid->setVerticalSpacing(3);
-    grid->setColumnMinimumWidth(0, nameWidthPx);
-    grid->setColumnStretch(1, 1);
-    int row = 0;
-    const std::string_view comment = tallyrig::text::trimmed(shownComment);
-    if (!comment.empty()) {
-        grid->addWidget(detailLabel(toQString(comment)), row++, 0, 1, 2);
-    }
-    for (const tallyrig::ADIFField& field : shownFields) {
-        QLabel* name = detailLabel(toQString(cutToShow(field.name)));
-        name->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        name->setFixedWidth(nameWidthPx);
-        grid->addWidget(name, row, 0);
-        grid->addWidget(detailLabel(toQString(field.value)), row++, 1);
-    }
-    grid->setRowStretch(row, 1);
-    details->setWidget(content);
+void FileInfoBar::fitDetails() {
+    const int rowHeight = details->sizeHintForRow(0);
+    const int mostRows = largestDetailsHeightPx / std::max(rowHeight, 1) + 1;
+    details->setFixedHeight(
+        std::min(largestDetailsHeightPx, std::min(model->rowCount(), mostRows) * rowHeight + 4));
 }
 
 }  // namespace quillon

@@ -4,15 +4,14 @@
 
 #include <QWidget>
 
-#include <string>
-#include <vector>
-
-class QScrollArea;
-class QToolButton;
+class QLabel;
 
 namespace quillon {
 
+class CopyableList;
+class DisclosureButton;
 class ElidedLabel;
+class FileInfoModel;
 class LogStore;
 
 /// What the header of the log says about the program that wrote it and its ADIF version; empty if it says
@@ -27,20 +26,20 @@ class FileInfoBar : public QWidget {
     /// The store outlives the bar.
     explicit FileInfoBar(const LogStore& logStore, QWidget* parent = nullptr);
 
-    bool isExpanded() const { return expanded; }
+    bool isExpanded() const;
     void setExpanded(bool isOpen);
 
   private:
     void refresh();
-    void fillDetails();
+    /// So high that the whole header is in view, up to a limit.
+    void fitDetails();
 
     const LogStore& store;
-    QToolButton* disclosure;
+    DisclosureButton* disclosure;
     ElidedLabel* summary;
-    QScrollArea* details;
-    bool expanded = false;
-    std::string shownComment;  ///< What the details were made from.
-    std::vector<tallyrig::ADIFField> shownFields;
+    FileInfoModel* model;
+    CopyableList* details;
+    QLabel* nothing;  ///< What stands in the place of `details` without a header.
 };
 
 }  // namespace quillon

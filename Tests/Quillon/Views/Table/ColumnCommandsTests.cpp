@@ -10,7 +10,6 @@ using testing::TableViewTest;
 
 class RenamingAColumn : public TableViewTest {};
 class AddingAColumn : public TableViewTest {};
-class FileInfo : public TableViewTest {};
 
 TEST_F(RenamingAColumn, ChecksTheNameAndAsksForOfficialFields) {
     struct Case {
@@ -84,24 +83,6 @@ TEST_F(AddingAColumn, TakesAnyValidNameAndComplainsOfOthers) {
         view.columnToolbar().addMenu().actions().last()->trigger();
         EXPECT_EQ(columns(), c.columnsAfter) << c.name.value_or("(cancelled)");
         EXPECT_EQ(store.errorMessage().has_value(), c.complains) << c.name.value_or("(cancelled)");
-    }
-}
-
-TEST_F(FileInfo, SumsUpTheHeader) {
-    struct Case {
-        const char* header;
-        const char* summary;
-    };
-    const Case cases[] = {
-        {"<PROGRAMID:4>Prog<PROGRAMVERSION:3>1.2<ADIF_VER:5>3.1.7", "Prog 1.2 · ADIF 3.1.7"},
-        {"<PROGRAMID:4>Prog", "Prog"},
-        {"<PROGRAMVERSION:3>1.2<ADIF_VER:5>3.1.7", "ADIF 3.1.7"},
-        {"<CREATED_TIMESTAMP:3>now", ""},
-    };
-    for (const Case& c : cases) {
-        store.open(
-            folder.write(QStringLiteral("log.adi"), std::string("x") + c.header + "<EOH><CALL:1>A<EOR>"));
-        EXPECT_EQ(fileInfoSummary(store.document()).toStdString(), c.summary) << c.header;
     }
 }
 

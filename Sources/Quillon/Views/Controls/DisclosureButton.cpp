@@ -1,0 +1,69 @@
+#include "Quillon/Views/Controls/DisclosureButton.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace quillon {
+
+namespace {
+
+class DisclosureInterface : public QAccessibleWidget {
+  public:
+    explicit DisclosureInterface(DisclosureButton& button)
+        : QAccessibleWidget(&button, QAccessible::Button, button.text()) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = button().isExpanded();
+        state.collapsed = !button().isExpanded();
+        return state;
+    }
+    QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction()) {
+            button().click();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+  private:
+    DisclosureButton& button() const { return *static_cast<DisclosureButton*>(widget()); }
+};
+
+QAccessibleInterface* disclosureInterface(const QString&, QObject* object) {
+    auto* button = qobject_cast<DisclosureButton*>(object);
+    return button != nullptr ? new DisclosureInterface(*button) : nullptr;
+}
+
+}  // namespace
+
+DisclosureButton::DisclosureButton(const QString& text, QWidget* parent) : QToolButton(parent) {
+    // A factory that is there already is not installed twice.
+    QAccessible::installFactory(disclosureInterface);
+    setText(text);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setArrowType(Qt::RightArrow);
+    setAutoRaise(true);
+    setFocusPolicy(Qt::TabFocus);
+    connect(this, &QToolButton::clicked, this, [this] { setExpanded(!expanded); });
+}
+
+void DisclosureButton::setExpanded(bool isOpen) {
+    if (expanded == isOpen) {
+        return;
+    }
+    expanded = isOpen;
+    setArrowType(expanded ? Qt::DownArrow : Qt::RightArrow);
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+    emit expandedChanged();
+}
+
+}  // namespace quillon

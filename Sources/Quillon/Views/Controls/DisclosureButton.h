@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QToolButton>
+
+namespace quillon {
+
+/// A button that opens and closes what stands below it, with an arrow that shows which; those who do not see
+/// it are told as well.
+class DisclosureButton : public QToolButton {
+    Q_OBJECT
+
+  public:
+    explicit DisclosureButton(const QString& text, QWidget* parent = nullptr);
+
+    bool isExpanded() const { return expanded; }
+    void setExpanded(bool isOpen);
+
+  signals:
+    void expandedChanged();
+
+  private:
+    bool expanded = false;
+};
+
+}  // namespace quillon
