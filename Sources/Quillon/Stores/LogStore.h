@@ -262,6 +262,8 @@ class LogStore : public QObject {
     void showCabrilloExportChanged();
     void showEDIExportChanged();
     void bulkEditColumnChanged();
+    /// The log was written to `path`, which did not become its own file. Sent when the file is there.
+    void exported(const QString& path);
 
   private:
     /// What undo restores.

@@ -206,11 +206,12 @@ void LogStore::exportText(const std::string& text, const FileType& type, const Q
     if (!path) {
         return;
     }
-    const Operation operation(*this);
     const QString fullPath = absolutePath(*path);
     if (const auto error = replaceFile(fullPath.toStdString(), text)) {
-        state.errorMessage = failure(failurePrefix, fullPath, error->message);
+        setErrorMessage(failure(failurePrefix, fullPath, error->message));
+        return;
     }
+    emit exported(fullPath);
 }
 
 void LogStore::exportCabrillo(const tallyrig::CabrilloHeader& header) {

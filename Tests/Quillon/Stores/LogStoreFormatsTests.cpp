@@ -93,7 +93,7 @@ TEST_F(OtherFormats, ExportsLeaveTheLogAndItsFileAlone) {
     EXPECT_EQ(panels.proposedNames.last(), "log.edi");
     EXPECT_NE(saved("a.edi").find("240115;1234;K1XYZ;"), std::string::npos);
     EXPECT_EQ(title(), "log.adi — bearbeitet");
-    EXPECT_EQ(told.sent(), "");
+    EXPECT_EQ(told.sent(), "exported2");
 }
 
 TEST_F(OtherFormats, AFailedExportSaysSo) {

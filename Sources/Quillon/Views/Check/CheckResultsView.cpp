@@ -4,13 +4,16 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/IssueDelegate.h"
 #include "Quillon/Views/Check/IssueListModel.h"
+#include "Quillon/Views/Controls/CopyableList.h"
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Validation/FindingPlace.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
+#include <QLineEdit>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -18,6 +21,8 @@
 namespace quillon {
 
 namespace {
+
+constexpr int filterWidthPx = 200;
 
 QToolButton* headButton(const QString& iconName, const QString& text, QWidget* parent) {
     auto* button = new QToolButton(parent);
@@ -29,17 +34,17 @@ QToolButton* headButton(const QString& iconName, const QString& text, QWidget* p
     return button;
 }
 
-/// A text with its icon in front, in a widget of their own; gives the text.
-QLabel* addCount(QHBoxLayout& head, const QIcon& picture) {
-    auto* group = new QWidget(head.parentWidget());
-    auto* layout = new QHBoxLayout(group);
-    layout->setContentsMargins(0, 0, 10, 0);
-    layout->setSpacing(6);
-    layout->addWidget(pictureWidget(picture, 16, group));
-    auto* text = new QLabel(group);
-    layout->addWidget(text);
-    head.addWidget(group);
-    return text;
+/// The number of findings of a severity, at the same time the switch that shows and hides them.
+QToolButton* countSwitch(tallyrig::ValidationSeverity severity, const QString& toolTip, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setIcon(severityIcon(severity));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setToolTip(toolTip);
+    button->setAutoRaise(true);
+    button->setCheckable(true);
+    button->setChecked(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
 }
 
 }  // namespace
@@ -60,13 +65,17 @@ CheckResultsView::CheckResultsView(LogStore& logStore, QWidget* parent)
     nothingFound =
         new EmptyState(checkIcon(), QStringLiteral("Keine Probleme gefunden"),
                        QStringLiteral("Pflichtfelder, Formate und Dubletten sind in Ordnung."), this);
+    nothingPasses = new EmptyState(QStringLiteral("search"), QStringLiteral("Keine passenden Befunde"),
+                                   QStringLiteral("Kein Befund passt zum Filter."), this);
     body = new QStackedLayout;
     body->addWidget(findings);
     body->addWidget(nothingFound);
+    body->addWidget(nothingPasses);
     layout->addLayout(body, 1);
 
     // The model was connected first: its rows are the new ones by the time of `refresh`.
     connect(&store, &LogStore::checkResultsChanged, this, &CheckResultsView::refresh);
+    connect(model, &IssueListModel::filtered, this, &CheckResultsView::showBody);
     refresh();
 }
 
@@ -75,11 +84,30 @@ QWidget* CheckResultsView::makeHead() {
     auto* layout = new QHBoxLayout(head);
     layout->setContentsMargins(12, 3, 6, 3);
     layout->setSpacing(6);
-    errors = addCount(*layout, severityIcon(tallyrig::ValidationSeverity::error));
-    warnings = addCount(*layout, severityIcon(tallyrig::ValidationSeverity::warning));
-    noProblems = addCount(*layout, successIcon());
-    noProblems->setText(QStringLiteral("Keine Probleme"));
+    errors = countSwitch(tallyrig::ValidationSeverity::error, QStringLiteral("Fehler zeigen"), head);
+    warnings = countSwitch(tallyrig::ValidationSeverity::warning, QStringLiteral("Warnungen zeigen"), head);
+    noProblems = new QWidget(head);
+    auto* noProblemsLayout = new QHBoxLayout(noProblems);
+    noProblemsLayout->setContentsMargins(0, 0, 10, 0);
+    noProblemsLayout->setSpacing(6);
+    noProblemsLayout->addWidget(pictureWidget(successIcon(), 16, noProblems));
+    noProblemsLayout->addWidget(new QLabel(QStringLiteral("Keine Probleme"), noProblems));
+    filterField = new QLineEdit(head);
+    filterField->setPlaceholderText(QStringLiteral("Filtern"));
+    filterField->setAccessibleName(QStringLiteral("Befunde filtern"));
+    filterField->setClearButtonEnabled(true);
+    filterField->setMaximumWidth(filterWidthPx);
+    filterField->setAcceptDrops(false);
+    for (QToolButton* count : {errors, warnings}) {
+        connect(count, &QToolButton::toggled, this, &CheckResultsView::applyFilter);
+        layout->addWidget(count);
+    }
+    connect(filterField, &QLineEdit::textChanged, this, &CheckResultsView::applyFilter);
+    connect(filterField, &QLineEdit::returnPressed, this, [this] { list->setFocus(); });
+    new QShortcut(Qt::Key_Escape, filterField, filterField, &QLineEdit::clear, Qt::WidgetShortcut);
+    layout->addWidget(noProblems);
     layout->addStretch(1);
+    layout->addWidget(filterField, 2);
 
     QToolButton* again = headButton(QStringLiteral("view-refresh"), QStringLiteral("Erneut prüfen"), head);
     connect(again, &QToolButton::clicked, this, [this] {
@@ -98,19 +126,19 @@ QWidget* CheckResultsView::makeHead() {
 }
 
 QWidget* CheckResultsView::makeList() {
-    list = new QListView(this);
+    list = new CopyableList(Qt::DisplayRole, this);
     list->setAccessibleName(QStringLiteral("Befunde"));
-    list->setFrameShape(QFrame::NoFrame);
-    list->setUniformItemSizes(true);
-    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setModel(model);
     list->setItemDelegate(new IssueDelegate(*model, list));
-    connect(list, &QListView::clicked, this, &CheckResultsView::choose);
+    // A second look at a finding that is chosen already.
+    connect(list, &QListView::clicked, this, [this](const QModelIndex& finding) {
+        if (list->chosenCount() == 1) {
+            choose(finding);
+        }
+    });
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        const QModelIndexList chosen = list->selectionModel()->selectedIndexes();
-        if (!chosen.isEmpty()) {
-            choose(chosen.first());
+        if (list->chosenCount() == 1) {
+            choose(list->selectionModel()->selection().first().topLeft());
         }
     });
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
@@ -122,20 +150,40 @@ QWidget* CheckResultsView::makeList() {
 void CheckResultsView::refresh() {
     const std::size_t errorCount = store.errorCount();
     const std::size_t warningCount = store.warningCount();
-    errors->setText(QString::number(errorCount) + QStringLiteral(" Fehler"));
-    warnings->setText(QString::number(warningCount) + QStringLiteral(" Warnungen"));
-    errors->parentWidget()->setVisible(errorCount > 0);
-    warnings->parentWidget()->setVisible(warningCount > 0);
-    noProblems->parentWidget()->setVisible(errorCount + warningCount == 0);
-    body->setCurrentWidget(errorCount + warningCount == 0 ? nothingFound : list);
+    errors->setText(numberText(errorCount) + QStringLiteral(" Fehler"));
+    warnings->setText(numberText(warningCount) + QStringLiteral(" Warnungen"));
+    errors->setVisible(errorCount > 0);
+    warnings->setVisible(warningCount > 0);
+    noProblems->setVisible(errorCount + warningCount == 0);
+    filterField->setVisible(errorCount + warningCount > 0);
+    showBody();
+}
+
+void CheckResultsView::showBody() {
+    const bool isEmpty = model->rowCount() == 0 && !model->isFiltering();
+    body->setCurrentWidget(store.validationIssues().empty() ? nothingFound : isEmpty ? nothingPasses : list);
+}
+
+void CheckResultsView::applyFilter() {
+    model->setFilter({errors->isChecked(), warnings->isChecked(), filterField->text()});
+    showBody();
 }
 
 void CheckResultsView::choose(const QModelIndex& finding) {
-    const auto index = static_cast<std::size_t>(finding.data(IssueListModel::recordIndexRole).toULongLong());
-    store.selectRecord(index);
-    if (index < store.document().records().size()) {
-        emit recordChosen(store.document().records()[index].id());
+    const auto index = static_cast<std::size_t>(finding.data(IssueListModel::issueIndexRole).toULongLong());
+    // Taken along: what changes in the store from here on may replace the findings.
+    const tallyrig::ValidationIssue issue = store.validationIssues()[index];
+    const auto& records = store.document().records();
+    if (issue.recordIndex >= records.size()) {
+        return;
     }
+    const tallyrig::ADIFRecord record = records[issue.recordIndex];
+    if (!store.displayedRow(record.id())) {
+        store.setSearchText(QString());
+    }
+    store.selectRecord(issue.recordIndex);
+    const tallyrig::FindingPlace place = tallyrig::placeOf(issue.kind, record);
+    emit findingChosen(record.id(), std::string(place.field), place.position);
 }
 
 }  // namespace quillon

@@ -4,18 +4,24 @@
 
 #include <QWidget>
 
+#include <cstddef>
+#include <optional>
+#include <string>
+
 class QLabel;
-class QListView;
+class QLineEdit;
 class QModelIndex;
 class QStackedLayout;
+class QToolButton;
 
 namespace quillon {
 
+class CopyableList;
 class IssueListModel;
 class LogStore;
 
 /// The strip under the table with the findings of the last check. Choosing one, by mouse or keyboard, selects
-/// its QSO.
+/// its QSO; a search that hides it is ended first.
 class CheckResultsView : public QWidget {
     Q_OBJECT
 
@@ -24,8 +30,9 @@ class CheckResultsView : public QWidget {
     explicit CheckResultsView(LogStore& logStore, QWidget* parent = nullptr);
 
   signals:
-    /// The record of a finding was chosen; it is selected by now.
-    void recordChosen(tallyrig::UUID id);
+    /// A finding about this field of a record was chosen; the record is selected by now. `position` is the
+    /// field's in the record, absent if it has none of that name.
+    void findingChosen(tallyrig::UUID record, const std::string& field, std::optional<std::size_t> position);
     /// The user is done with the list, by Return or Escape.
     void left();
 
@@ -33,15 +40,19 @@ class CheckResultsView : public QWidget {
     QWidget* makeHead();
     QWidget* makeList();
     void refresh();
+    void showBody();
+    void applyFilter();
     void choose(const QModelIndex& finding);
 
     LogStore& store;
-    QLabel* errors = nullptr;
-    QLabel* warnings = nullptr;
-    QLabel* noProblems = nullptr;
+    QToolButton* errors = nullptr;
+    QToolButton* warnings = nullptr;
+    QWidget* noProblems = nullptr;
+    QLineEdit* filterField = nullptr;
     IssueListModel* model;
-    QListView* list = nullptr;
+    CopyableList* list = nullptr;
     QWidget* nothingFound = nullptr;
+    QWidget* nothingPasses = nullptr;
     QStackedLayout* body = nullptr;
 };
 

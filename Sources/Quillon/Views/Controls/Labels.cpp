@@ -3,6 +3,7 @@
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/Characters.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -125,6 +126,24 @@ QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
 QString tooLongMessage(std::size_t size) {
     return QStringLiteral("Der Wert ist mit %1 Bytes zu lang, um ihn hier zu bearbeiten.")
         .arg(numberText(size));
+}
+
+QString whyNotEditable(std::string_view value) {
+    // The time for the accents of one letter grows with the square of their number.
+    constexpr std::size_t largestCharacter = 200;
+    if (value.size() > longestEditableValue) {
+        return tooLongMessage(value.size());
+    }
+    const auto isASCII = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::ranges::all_of(value, isASCII)) {
+        return {};
+    }
+    const auto characters = tallyrig::text::characters(value);
+    const bool isLaidOutFast = std::ranges::all_of(
+        characters, [](std::string_view character) { return character.size() <= largestCharacter; });
+    return isLaidOutFast ? QString()
+                         : QStringLiteral(
+                               "Der Wert hat ein Zeichen mit zu vielen Akzenten, um ihn hier zu bearbeiten.");
 }
 
 QString plainToolTip(const QString& text) {

@@ -3,6 +3,9 @@
 #include <QIcon>
 #include <QLabel>
 
+#include <cstddef>
+#include <string_view>
+
 namespace quillon {
 
 /// A label on one line that takes what room there is and leaves out the part of its text that does not fit.
@@ -40,6 +43,10 @@ QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent = nullp
 
 /// Why a value of that many bytes cannot be edited.
 QString tooLongMessage(std::size_t size);
+
+/// Why a text field cannot take `value` (UTF-8) for editing, empty if it can: it is too long, or one of its
+/// letters carries so many accents that laying it out takes seconds.
+QString whyNotEditable(std::string_view value);
 
 /// `text` as a tool tip: taken letter by letter, also where it looks like markup, and without markup of its
 /// own, for a tool tip is what a screen reader tells as well. Its line breaks are kept; a line of more than

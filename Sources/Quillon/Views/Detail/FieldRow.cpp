@@ -2,22 +2,37 @@
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
+#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QToolButton>
 
 #include <algorithm>
 #include <limits>
 
 namespace quillon {
+
+namespace {
+
+/// Left of a field, for the mark.
+constexpr int markRoomPx = 8;
+
+/// The name of a field may be any text.
+QString shownName(std::string_view name) {
+    return toQString(tallyrig::text::visibleText(cutToShow(name)));
+}
+
+}  // namespace
 
 LogTextField::LogTextField(QWidget* parent) : QLineEdit(parent) {
     // The limit of a line edit would cut off the end of a long remark.
@@ -49,6 +64,10 @@ bool LogTextField::event(QEvent* event) {
 }
 
 void LogTextField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::ControlModifier) {
+        emit removeRequested();
+        return;
+    }
     if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
         event->ignore();
         return;
@@ -64,6 +83,9 @@ void LogTextField::contextMenuEvent(QContextMenuEvent* event) {
             menu->removeAction(action);
         }
     }
+    menu->addSeparator();
+    menu->addAction(icon(QStringLiteral("list-remove")), QStringLiteral("Feld entfernen"),
+                    QKeySequence(Qt::CTRL | Qt::Key_Delete), this, &LogTextField::removeRequested);
     menu->popup(event->globalPos());
 }
 
@@ -82,7 +104,7 @@ FieldRow::FieldRow(QWidget* parent)
     remove->setFocusPolicy(Qt::TabFocus);
 
     auto* layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(markRoomPx, 2, 0, 2);
     layout->setHorizontalSpacing(4);
     layout->setVerticalSpacing(2);
     layout->addWidget(label, 0, 0);
@@ -91,6 +113,7 @@ FieldRow::FieldRow(QWidget* parent)
     layout->setColumnStretch(0, 1);
 
     connect(valueEdit, &QLineEdit::textEdited, this, &FieldRow::valueEdited);
+    connect(valueEdit, &LogTextField::removeRequested, this, &FieldRow::removeClicked);
     connect(remove, &QToolButton::clicked, this, &FieldRow::removeClicked);
 }
 
@@ -98,16 +121,36 @@ void FieldRow::show(std::string_view name, std::string_view value) {
     const QString newName = toQString(name);
     if (fieldName != newName) {
         fieldName = newName;
-        const QString germanName = toQString(cutToShow(ADIFFieldCatalog::label(name)));
+        const QString germanName = shownName(ADIFFieldCatalog::label(name));
         label->setText(germanName);
-        label->setToolTip(plainToolTip(toQString(cutToShow(name))));
+        label->setToolTip(plainToolTip(shownName(name)));
         valueEdit->setAccessibleName(germanName);
         remove->setAccessibleName(QStringLiteral("Feld entfernen: ") + germanName);
     }
-    const bool isTooLong = value.size() > longestEditableValue;
-    valueEdit->setReadOnly(isTooLong);
-    valueEdit->setToolTip(isTooLong ? tooLongMessage(value.size()) : QString());
-    valueEdit->showText(isTooLong ? toQString(cutToShow(value)) + QStringLiteral(" …") : toQString(value));
+    const QString obstacle = whyNotEditable(value);
+    valueEdit->setReadOnly(!obstacle.isEmpty());
+    valueEdit->setToolTip(obstacle);
+    valueEdit->showText(obstacle.isEmpty() ? toQString(value)
+                                           : toQString(cutToShow(value)) + QStringLiteral(" …"));
+}
+
+void FieldRow::setMarked(bool mark) {
+    if (marked != mark) {
+        marked = mark;
+        label->setForegroundRole(marked ? QPalette::WindowText : QPalette::PlaceholderText);
+        update();
+    }
+}
+
+void FieldRow::paintEvent(QPaintEvent*) {
+    if (marked) {
+        constexpr double tint = 0.25;
+        constexpr int barWidthPx = 3;
+        QPainter painter(this);
+        const QColor accent = palette().color(QPalette::Highlight);
+        painter.fillRect(rect(), withOpacity(accent, tint));
+        painter.fillRect(0, 0, barWidthPx, height(), accent);
+    }
 }
 
 }  // namespace quillon

@@ -22,21 +22,29 @@ class LogTextField : public QLineEdit {
     /// Shows `text` without moving the cursor of someone who is typing just that.
     void showText(const QString& text);
 
+  signals:
+    /// By Ctrl+Delete or from the context menu.
+    void removeRequested();
+
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
-/// One field of a QSO in the detail pane: its name, its value to be edited, and a button to remove it.
+/// One field of a QSO in the detail pane: its name, its value to be edited, and a button to remove it. Such a
+/// button is not where the tab key goes from one value to the next: a space meant for a text would press it.
 class FieldRow : public QWidget {
     Q_OBJECT
 
   public:
     explicit FieldRow(QWidget* parent = nullptr);
 
-    /// `name` and `value` in UTF-8. A value that is too long to be edited is shown in part.
+    /// `name` and `value` in UTF-8. A value that cannot be edited here is shown in part.
     void show(std::string_view name, std::string_view value);
+    /// Whether the row stands out from the others.
+    void setMarked(bool mark);
+    bool isMarked() const { return marked; }
     LogTextField& valueField() const { return *valueEdit; }
     QToolButton& removeButton() const { return *remove; }
 
@@ -44,8 +52,12 @@ class FieldRow : public QWidget {
     void valueEdited(const QString& text);
     void removeClicked();
 
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
   private:
     QString fieldName;
+    bool marked = false;
     ElidedLabel* label;
     LogTextField* valueEdit;
     QToolButton* remove;

@@ -3,11 +3,14 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Detail/FieldRow.h"
 
+#include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedLayout>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -17,7 +20,17 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t rowsAtOnce = 100;
+constexpr std::size_t fieldsOnPage = 200;
+
+QToolButton* pageButton(Qt::ArrowType arrow, const QString& text, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setArrowType(arrow);
+    button->setAutoRaise(true);
+    button->setToolTip(text);
+    button->setAccessibleName(text);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
 
 }  // namespace
 
@@ -35,33 +48,68 @@ RecordDetailView::RecordDetailView(LogStore& logStore, QWidget* parent)
 
     auto* content = new QWidget(list->viewport());
     auto* outer = new QVBoxLayout(content);
-    outer->setContentsMargins(12, 12, 12, 12);
-    outer->setSpacing(10);
-    outer->addWidget(headingLabel(QStringLiteral("Felder"), content));
+    outer->setContentsMargins(4, 12, 12, 12);
+    outer->setSpacing(8);
+    auto* heading = headingLabel(QStringLiteral("Felder"), content);
+    heading->setIndent(8);
+    outer->addWidget(heading);
     column = new QVBoxLayout;
-    column->setSpacing(8);
+    column->setSpacing(4);
     outer->addLayout(column);
     outer->addStretch(1);
     list->setWidget(content);
-    pages->addWidget(empty);
-    pages->addWidget(list);
     // The first row holds the place of all of them among what the tab key goes through.
     addRow();
     rows.front()->hide();
 
-    connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this,
-            &RecordDetailView::showMoreRowsNearEnd);
+    auto* page = new QWidget(this);
+    auto* pageLayout = new QVBoxLayout(page);
+    pageLayout->setContentsMargins(0, 0, 0, 0);
+    pageLayout->setSpacing(0);
+    pageLayout->addWidget(list, 1);
+    pageLayout->addWidget(makePager());
+    pages->addWidget(empty);
+    pages->addWidget(page);
+
     connect(&store, &LogStore::selectionChanged, this, &RecordDetailView::refresh);
     connect(&store, &LogStore::documentChanged, this, &RecordDetailView::refresh);
     refresh();
 }
 
+QWidget* RecordDetailView::makePager() {
+    pager = new QWidget(this);
+    auto* layout = new QHBoxLayout(pager);
+    layout->setContentsMargins(12, 4, 12, 4);
+    pageLabel = noteLabel(QString(), pager);
+    previousPage = pageButton(Qt::LeftArrow, QStringLiteral("Vorige Felder"), pager);
+    nextPage = pageButton(Qt::RightArrow, QStringLiteral("Weitere Felder"), pager);
+    layout->addWidget(pageLabel, 1);
+    layout->addWidget(previousPage);
+    layout->addWidget(nextPage);
+    const auto turnTo = [this](std::size_t first) {
+        showPage(first);
+        list->verticalScrollBar()->setValue(0);
+    };
+    connect(previousPage, &QToolButton::clicked, this,
+            [this, turnTo] { turnTo(firstField - std::min(firstField, fieldsOnPage)); });
+    connect(nextPage, &QToolButton::clicked, this, [this, turnTo] { turnTo(firstField + fieldsOnPage); });
+    return pager;
+}
+
 void RecordDetailView::focusLastField() {
-    if (shown && !shown->fields().empty()) {
-        showRows(shown->fields().size());
-        LogTextField& field = rows[shown->fields().size() - 1]->valueField();
-        field.setFocus(Qt::OtherFocusReason);
-        list->ensureWidgetVisible(&field);
+    if (fieldCount() > 0) {
+        bringIntoView(fieldCount() - 1).valueField().setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void RecordDetailView::markField(std::optional<std::size_t> position) {
+    marked = position && *position < fieldCount() ? position : std::nullopt;
+    if (marked) {
+        markedName = shown->fields()[*marked].name;
+        bringIntoView(*marked);
+    }
+    if (shown) {
+        showPage(firstField);
     }
 }
 
@@ -77,36 +125,56 @@ void RecordDetailView::refresh() {
 void RecordDetailView::showRecord(const tallyrig::ADIFRecord& record) {
     const bool isSameRecord = shown && shown->id() == record.id();
     shown = record;
-    showRows(isSameRecord ? std::max(shownRows, rowsAtOnce) : rowsAtOnce);
-    pages->setCurrentWidget(list);
+    if (!isSameRecord) {
+        marked.reset();
+    }
+    showPage(isSameRecord ? firstField : 0);
+    pages->setCurrentIndex(1);
 }
 
-void RecordDetailView::showRows(std::size_t count) {
+void RecordDetailView::showPage(std::size_t first) {
     const auto fields = shown->fields();
-    shownRows = std::min(count, fields.size());
-    while (rows.size() < shownRows) {
+    const std::size_t lastPage = fields.empty() ? 0 : (fields.size() - 1) / fieldsOnPage * fieldsOnPage;
+    firstField = std::min(first, lastPage);
+    const std::size_t count = std::min(fieldsOnPage, fields.size() - firstField);
+    if (marked && (*marked >= fields.size() || fields[*marked].name != markedName)) {
+        marked.reset();
+    }
+    while (rows.size() < count) {
         addRow();
     }
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        if (index < shownRows) {
-            rows[index]->show(fields[index].name, fields[index].value);
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (row < count) {
+            rows[row]->show(fields[firstField + row].name, fields[firstField + row].value);
+            rows[row]->setMarked(marked == firstField + row);
         }
-        rows[index]->setVisible(index < shownRows);
+        rows[row]->setVisible(row < count);
     }
+    pager->setVisible(fields.size() > fieldsOnPage);
+    pageLabel->setText(
+        QStringLiteral("%1 bis %2 von %3 Feldern")
+            .arg(numberText(firstField + 1), numberText(firstField + count), numberText(fields.size())));
+    previousPage->setEnabled(firstField > 0);
+    nextPage->setEnabled(firstField < lastPage);
 }
 
-void RecordDetailView::showMoreRowsNearEnd() {
-    const QScrollBar* const bar = list->verticalScrollBar();
-    if (shown && shownRows < shown->fields().size() && bar->value() > bar->maximum() - 2 * bar->pageStep()) {
-        showRows(shownRows + rowsAtOnce);
+FieldRow& RecordDetailView::bringIntoView(std::size_t position) {
+    const std::size_t page = position / fieldsOnPage * fieldsOnPage;
+    if (page != firstField) {
+        showPage(page);
     }
+    FieldRow* const row = rows[position - firstField];
+    // A row that was just added has its place when the events at hand are done.
+    QTimer::singleShot(0, row, [this, row] { list->ensureWidgetVisible(row); });
+    return *row;
 }
 
 void RecordDetailView::showNoRecord() {
     shown.reset();
+    marked.reset();
     const std::size_t count = store.selection().size();
     if (count > 1) {
-        empty->setTexts(QString::number(count) + QStringLiteral(" QSOs ausgewählt"),
+        empty->setTexts(numberText(count) + QStringLiteral(" QSOs ausgewählt"),
                         QStringLiteral("Mehrfachbearbeitung folgt später."));
     } else {
         empty->setTexts(QStringLiteral("Kein QSO ausgewählt"),
@@ -122,27 +190,29 @@ void RecordDetailView::addRow() {
     connect(row, &FieldRow::removeClicked, this, [this, index] { remove(index); });
     column->addWidget(row);
     if (!rows.empty()) {
-        setTabOrder(&rows.back()->removeButton(), &row->valueField());
-        setTabOrder(&row->valueField(), &row->removeButton());
+        // First all values, then all buttons.
+        setTabOrder(&rows.back()->valueField(), &row->valueField());
+        setTabOrder(&rows.back()->removeButton(), &row->removeButton());
     }
     rows.push_back(row);
 }
 
-void RecordDetailView::write(std::size_t index, const QString& text) {
+void RecordDetailView::write(std::size_t row, const QString& text) {
     if (shown) {
-        store.setField(shown->id(), index, text.toStdString());
+        store.setField(shown->id(), firstField + row, text.toStdString());
     }
 }
 
-void RecordDetailView::remove(std::size_t index) {
+void RecordDetailView::remove(std::size_t row) {
     if (!shown) {
         return;
     }
-    store.removeField(shown->id(), index);
-    // The row at hand now shows the next field; behind the last one, the keyboard goes on with the field
-    // before.
-    if (shown && index > 0 && index == shown->fields().size()) {
-        rows[index - 1]->removeButton().setFocus();
+    const std::size_t position = firstField + row;
+    store.removeField(shown->id(), position);
+    // The keyboard goes on in the value of the field that moved up, or else of the last one, and not on the
+    // button, where a second press would remove that field as well.
+    if (fieldCount() > 0) {
+        bringIntoView(std::min(position, fieldCount() - 1)).valueField().setFocus(Qt::OtherFocusReason);
     }
 }
 

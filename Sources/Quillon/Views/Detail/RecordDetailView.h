@@ -6,10 +6,13 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <vector>
 
+class QLabel;
 class QScrollArea;
 class QStackedLayout;
+class QToolButton;
 class QVBoxLayout;
 
 namespace quillon {
@@ -20,8 +23,7 @@ class LogStore;
 
 /// The selected QSO field by field, to be edited. With none or several selected it says so.
 ///
-/// Records have a few dozen fields, and rarely some have thousands: rows are made a screenful or two ahead of
-/// where the user has scrolled to.
+/// Records have a few dozen fields, and rarely some have thousands: those are shown a page at a time.
 class RecordDetailView : public QWidget {
     Q_OBJECT
 
@@ -31,17 +33,23 @@ class RecordDetailView : public QWidget {
 
     /// Puts the cursor into the value of the record's last field, if there is one.
     void focusLastField();
+    /// Brings the record's field at `position` into view and lets it stand out until another QSO is shown;
+    /// absent for none.
+    void markField(std::optional<std::size_t> position);
 
   private:
+    QWidget* makePager();
     void refresh();
     void showRecord(const tallyrig::ADIFRecord& record);
     void showNoRecord();
-    /// Shows the fields up to `count`, at most as many as there are.
-    void showRows(std::size_t count);
-    void showMoreRowsNearEnd();
+    /// Shows the fields from `first` on, as many as a page holds.
+    void showPage(std::size_t first);
+    /// Shows the page with the field at `position`, below the number of fields, and gives its row.
+    FieldRow& bringIntoView(std::size_t position);
     void addRow();
-    void write(std::size_t index, const QString& text);
-    void remove(std::size_t index);
+    void write(std::size_t row, const QString& text);
+    void remove(std::size_t row);
+    std::size_t fieldCount() const { return shown ? shown->fields().size() : 0; }
 
     LogStore& store;
     std::optional<tallyrig::ADIFRecord> shown;
@@ -49,8 +57,14 @@ class RecordDetailView : public QWidget {
     EmptyState* empty;
     QScrollArea* list;
     QVBoxLayout* column;
-    std::vector<FieldRow*> rows;  ///< As many as were ever needed at once; the first `shownRows` are shown.
-    std::size_t shownRows = 0;
+    QWidget* pager = nullptr;
+    QToolButton* previousPage = nullptr;
+    QToolButton* nextPage = nullptr;
+    QLabel* pageLabel = nullptr;
+    std::vector<FieldRow*> rows;  ///< As many as were ever needed at once.
+    std::size_t firstField = 0;   ///< The position of the field in the first row.
+    std::optional<std::size_t> marked;
+    std::string markedName;  ///< Of the field at `marked`, which other fields may come to stand at.
 };
 
 }  // namespace quillon

@@ -53,7 +53,7 @@ bool TableDialogs::confirmRename(const QString& from, const QString& to, std::si
     box.setText(QStringLiteral("%1 in %2 umbenennen?").arg(from, to));
     box.setInformativeText(QStringLiteral("%1 ist ein offizielles ADIF-Feld. Es wird in %2 QSO(s) umbenannt "
                                           "und von anderen Programmen danach nicht mehr erkannt. "
-                                          "(Rückgängig mit ⌘Z.)")
+                                          "(Rückgängig mit Strg+Z.)")
                                .arg(from, QString::number(recordCount)));
     QPushButton* cancel = box.addButton(QStringLiteral("Abbrechen"), QMessageBox::RejectRole);
     const QPushButton* rename = box.addButton(QStringLiteral("Umbenennen"), QMessageBox::AcceptRole);

@@ -4,6 +4,7 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
 #include "Quillon/Views/Controls/Colors.h"
+#include "Quillon/Views/Controls/ErrorAlert.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
@@ -17,7 +18,9 @@
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableQuestions.h"
 #include "Quillon/Views/Window/Commands.h"
-#include "Quillon/Views/Window/ErrorAlert.h"
+#include "Quillon/Views/Window/DropHint.h"
+#include "Quillon/Views/Window/NoHits.h"
+#include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/StatusLine.h"
 
 #include <QAction>
@@ -52,14 +55,15 @@ constexpr PaneWidths sidebarWidths = {.least = 220, .ideal = 250, .most = 320};
 constexpr PaneWidths tableWidths = {.least = 420, .ideal = 600};
 constexpr PaneWidths detailWidths = {.least = 260, .ideal = 300, .most = 400};
 
-/// The first local file among what is dragged; empty if there is none.
-QString draggedFile(const QMimeData& data) {
+/// The local files among what is dragged.
+QStringList draggedFiles(const QMimeData& data) {
+    QStringList files;
     for (const QUrl& url : data.urls()) {
         if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
-            return url.toLocalFile();
+            files.append(url.toLocalFile());
         }
     }
-    return {};
+    return files;
 }
 
 }  // namespace
@@ -80,8 +84,13 @@ ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList ar
     buildMenus();
     buildPanes();
     buildToolBar();
+    paneKeys = std::make_unique<PaneKeys>(*this, [this] { return panes(); });
+    dropHint = new DropHint(*this);
     followStore();
-    new ErrorAlert(logStore, *this);
+    auto* alert = new ErrorAlert(
+        QStringLiteral("Fehler"), [this] { return logStore.errorMessage(); },
+        [this] { logStore.setErrorMessage(std::nullopt); }, *this);
+    connect(&logStore, &LogStore::errorMessageChanged, alert, &ErrorAlert::refresh);
 }
 
 ContentView::~ContentView() = default;
@@ -157,7 +166,7 @@ void ContentView::buildPanes() {
     setCentralWidget(area);
 
     auto* splitter = new PaneSplitter(area);
-    auto* sidebar = new SidebarPane(logStore, settings, splitter);
+    sidebar = new SidebarPane(logStore, settings, splitter);
     auto* work = new QWidget(splitter);
     tableColumn = new QVBoxLayout(work);
     tableColumn->setContentsMargins(0, 0, 0, 0);
@@ -172,13 +181,19 @@ void ContentView::buildPanes() {
 
     areaLayout->addWidget(splitter, 1);
     areaLayout->addWidget(horizontalLine(area));
-    areaLayout->addWidget(new StatusLine(logStore, area));
+    statusLine = new StatusLine(logStore, area);
+    areaLayout->addWidget(statusLine);
 
     for (const Command& command : commands()) {
         if (command.reach == ShortcutReach::table) {
             table->addAction(commandActions->action(command.id));
         }
     }
+    auto* noHits = new NoHits(logStore, table->body());
+    connect(noHits, &NoHits::searchEnded, this, &ContentView::focusTable);
+    endSearchKey = new QShortcut(
+        Qt::Key_Escape, &table->body(), this, [this] { logStore.setSearchText(QString()); },
+        Qt::WidgetShortcut);
     connect(sidebar, &SidebarPane::fieldAdded, detail, &RecordDetailView::focusLastField);
 }
 
@@ -234,11 +249,17 @@ void ContentView::followStore() {
     connect(&logStore, &LogStore::bulkEditColumnChanged, this, &ContentView::showBulkEdit);
     connect(&logStore, &LogStore::showCabrilloExportChanged, this, &ContentView::showCabrilloExport);
     connect(&logStore, &LogStore::showEDIExportChanged, this, &ContentView::showEDIExport);
+    connect(&logStore, &LogStore::exported, this, [this](const QString& path) {
+        statusLine->showNotice(qsoCount(logStore.document().records().size()) + QStringLiteral(" nach „") +
+                               QFileInfo(path).fileName() + QStringLiteral("“ exportiert"));
+    });
     connect(&logStore, &LogStore::searchTextChanged, this, [this] {
         if (searchField->text() != logStore.searchText()) {
             searchField->setText(logStore.searchText());
         }
+        endSearchKey->setEnabled(!logStore.searchText().isEmpty());
     });
+    endSearchKey->setEnabled(!logStore.searchText().isEmpty());
     searchField->setText(logStore.searchText());
     showTitle();
     showResults();
@@ -266,6 +287,10 @@ void ContentView::focusTable() {
     table->body().setFocus();
 }
 
+QWidgetList ContentView::panes() const {
+    return {searchField, sidebar, table, results, detail};
+}
+
 void ContentView::showResults() {
     if (results == nullptr && logStore.showCheckResults()) {
         results = new QWidget(this);
@@ -278,7 +303,11 @@ void ContentView::showResults() {
         layout->addWidget(view);
         tableColumn->addWidget(results);
         setTabOrder(&table->body(), view);
-        connect(view, &CheckResultsView::recordChosen, table, &QSOTableView::scrollToRecord);
+        connect(view, &CheckResultsView::findingChosen, this,
+                [this](tallyrig::UUID record, const std::string&, std::optional<std::size_t> position) {
+                    table->scrollToRecord(record);
+                    detail->markField(position);
+                });
         connect(view, &CheckResultsView::left, this, &ContentView::focusTable);
     }
     if (results != nullptr) {
@@ -342,16 +371,28 @@ void ContentView::changeEvent(QEvent* event) {
 }
 
 void ContentView::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedFile(*event->mimeData()).isEmpty()) {
+    if (!draggedFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
+        dropHint->show();
     }
 }
 
+void ContentView::dragLeaveEvent(QDragLeaveEvent*) {
+    dropHint->hide();
+}
+
 void ContentView::dropEvent(QDropEvent* event) {
-    const QString path = draggedFile(*event->mimeData());
-    if (!path.isEmpty()) {
-        event->acceptProposedAction();
-        openFile(path);
+    dropHint->hide();
+    const QStringList files = draggedFiles(*event->mimeData());
+    if (files.isEmpty()) {
+        return;
+    }
+    event->acceptProposedAction();
+    openFile(files.first());
+    if (files.size() > 1) {
+        statusLine->showNotice(QStringLiteral("Nur „%1“ wurde geöffnet, die erste von %2 Dateien")
+                                   .arg(QFileInfo(files.first()).fileName())
+                                   .arg(files.size()));
     }
 }
 

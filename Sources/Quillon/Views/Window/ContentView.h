@@ -10,14 +10,19 @@
 class QBoxLayout;
 class QDialog;
 class QLineEdit;
+class QShortcut;
 
 namespace quillon {
 
 class CommandActions;
+class DropHint;
 class LogStore;
+class PaneKeys;
 class QSOTableView;
 class RecordDetailView;
 class Settings;
+class SidebarPane;
+class StatusLine;
 class TableQuestions;
 
 /// The one main window: sidebar, work area and detail pane side by side, menus and tool bar above them, the
@@ -53,6 +58,7 @@ class ContentView : public QMainWindow {
   protected:
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -64,6 +70,8 @@ class ContentView : public QMainWindow {
     void comeUp();
     void openFile(const QString& path);
     void focusTable();
+    /// What F6 goes through; some may be absent or hidden.
+    QWidgetList panes() const;
     void showResults();
     void showBulkEdit();
     void showCabrilloExport();
@@ -78,11 +86,16 @@ class ContentView : public QMainWindow {
     Settings& settings;
     QStringList startArguments;
     std::unique_ptr<TableQuestions> questions;
+    std::unique_ptr<PaneKeys> paneKeys;  ///< Goes before the panes that it looks at.
     CommandActions* commandActions = nullptr;
     QLineEdit* searchField = nullptr;
     QSOTableView* table = nullptr;
     RecordDetailView* detail = nullptr;
+    StatusLine* statusLine = nullptr;
+    DropHint* dropHint = nullptr;
     QBoxLayout* tableColumn = nullptr;
+    QShortcut* endSearchKey = nullptr;
+    SidebarPane* sidebar = nullptr;
     QWidget* results = nullptr;  ///< Null until there are results to show.
     QPointer<QDialog> bulkEdit;
     QPointer<QDialog> cabrilloExport;

@@ -2,21 +2,25 @@
 
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/Strings.h"
 
 #include <QDir>
 #include <QHBoxLayout>
 
 namespace quillon {
 
+QString qsoCount(std::size_t count) {
+    return numberText(count) + (count == 1 ? QStringLiteral(" QSO") : QStringLiteral(" QSOs"));
+}
+
 StatusTexts statusTexts(const LogStore& store) {
     StatusTexts texts;
-    const std::size_t count = store.document().records().size();
-    texts.records = QString::number(count) + (count == 1 ? QStringLiteral(" QSO") : QStringLiteral(" QSOs"));
+    texts.records = qsoCount(store.document().records().size());
     if (!store.searchText().isEmpty()) {
-        texts.filtered = QString::number(store.filteredCount()) + QStringLiteral(" gefiltert");
+        texts.filtered = numberText(store.filteredCount()) + QStringLiteral(" gefiltert");
     }
     if (!store.selection().empty()) {
-        texts.selected = QString::number(store.selection().size()) + QStringLiteral(" ausgewählt");
+        texts.selected = numberText(store.selection().size()) + QStringLiteral(" ausgewählt");
     }
     if (store.fileURL()) {
         texts.path = QDir::toNativeSeparators(*store.fileURL());
@@ -30,7 +34,9 @@ StatusLine::StatusLine(const LogStore& logStore, QWidget* parent)
       records(new QLabel(this)),
       filtered(new QLabel(this)),
       selected(new QLabel(this)),
+      notice(new ElidedLabel(Qt::ElideRight, this)),
       path(new ElidedLabel(Qt::ElideMiddle, this)) {
+    setAccessibleName(QStringLiteral("Statuszeile"));
     path->setForegroundRole(QPalette::PlaceholderText);
     path->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     path->setAccessibleName(QStringLiteral("Datei"));
@@ -41,6 +47,7 @@ StatusLine::StatusLine(const LogStore& logStore, QWidget* parent)
     layout->addWidget(records);
     layout->addWidget(filtered);
     layout->addWidget(selected);
+    layout->addWidget(notice, 1);
     layout->addStretch(1);
     layout->addWidget(path, 1000);
 
@@ -59,8 +66,15 @@ void StatusLine::refresh() {
     filtered->setVisible(!texts.filtered.isEmpty());
     selected->setText(texts.selected);
     selected->setVisible(!texts.selected.isEmpty());
+    notice->hide();
     path->setText(texts.path);
     path->setToolTip(plainToolTip(texts.path));
+}
+
+void StatusLine::showNotice(const QString& text) {
+    notice->setText(text);
+    notice->setToolTip(plainToolTip(text));
+    notice->show();
 }
 
 }  // namespace quillon

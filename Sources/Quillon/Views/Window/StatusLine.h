@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <cstddef>
+
 class QLabel;
 
 namespace quillon {
@@ -21,13 +23,19 @@ struct StatusTexts {
 
 StatusTexts statusTexts(const LogStore& store);
 
+/// Such as "1 QSO" or "100.000 QSOs".
+QString qsoCount(std::size_t count);
+
 /// The line at the foot of the window: how many QSOs there are, are left by the search and are selected, and
-/// the file behind the log.
+/// the file behind the log. What was done last can be told there, too, until something changes.
 class StatusLine : public QWidget {
     Q_OBJECT
 
   public:
     explicit StatusLine(const LogStore& logStore, QWidget* parent = nullptr);
+
+    /// Tells `text` until log, file, search or selection change.
+    void showNotice(const QString& text);
 
   private:
     void refresh();
@@ -36,6 +44,7 @@ class StatusLine : public QWidget {
     QLabel* records;
     QLabel* filtered;
     QLabel* selected;
+    ElidedLabel* notice;
     ElidedLabel* path;
 };
 

@@ -2,10 +2,14 @@
 
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
+#include "Quillon/Views/Check/IssueListModel.h"
+#include "Quillon/Views/Controls/CopyableList.h"
 
 #include <gtest/gtest.h>
 
-#include <QListView>
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -17,8 +21,16 @@ class CheckResults : public testing::LogStoreTest {
     CheckResults() {
         view.resize(600, 200);
         view.show();
+        QObject::connect(&view, &CheckResultsView::findingChosen,
+                         [this](tallyrig::UUID record, const std::string& field, auto position) {
+                             chosen += cell(*store.indexOf(record), "CALL") + " " + field + " " +
+                                       (position ? std::to_string(*position) : "-") + "\n";
+                         });
+        openLog({"CALL=DL1ABC QSO_DATE=2024 TIME_ON=9999 BAND=20m MODE=CW",
+                 "CALL=DL2ABC QSO_DATE=20240101 TIME_ON=1200 BAND=20m MODE=CW",
+                 "CALL=DL3ABC QSO_DATE=20240101 TIME_ON=1200 BAND=21m MODE=CW"});
+        store.runCheck();
     }
-    QListView& list() const { return *view.findChild<QListView*>(); }
     std::string findings() const {
         std::string texts;
         for (int row = 0; row < list().model()->rowCount(); ++row) {
@@ -26,85 +38,92 @@ class CheckResults : public testing::LogStoreTest {
         }
         return texts;
     }
-    void clickRow(int row) {
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+    CopyableList& list() const { return *view.findChild<CopyableList*>(); }
+    QAbstractButton& button(const char* text) const { return *testing::shownButton(view, text); }
+    void clickRow(int row, Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, keys,
                           list().visualRect(list().model()->index(row, 0)).center());
     }
-    std::string chosen() {
-        std::string calls;
-        for (const QList<QVariant>& arguments : choices) {
-            const auto index = store.indexOf(arguments[0].value<tallyrig::UUID>());
-            calls += cell(*index, "CALL") + " ";
-        }
-        choices.clear();
-        return calls;
-    }
 
-    /// Two errors in the first record, one finding in the third.
-    const std::vector<std::string> faultyLog = {
-        "CALL=DL1ABC QSO_DATE=2024 TIME_ON=9999 BAND=20m MODE=CW",
-        "CALL=DL2ABC QSO_DATE=20240101 TIME_ON=1200 BAND=20m MODE=CW",
-        "CALL=DL3ABC QSO_DATE=20240101 TIME_ON=1200 BAND=21m MODE=CW"};
     CheckResultsView view{store};
-    QSignalSpy choices{&view, &CheckResultsView::recordChosen};
+    std::string chosen;
 };
 
-TEST_F(CheckResults, SayWhenNothingWasFound) {
-    openLog({faultyLog[1]});
-    store.runCheck();
+TEST_F(CheckResults, AreListedByRecordFromOneUntilNothingIsFound) {
+    const std::string all =
+        "Zeile 1: Ungültiges Datum: 2024\n"
+        "Zeile 1: Ungültige Zeit (Zeit (Anfang)): 9999\n"
+        "Zeile 3: Unbekanntes Band: 21m\n";
+    EXPECT_EQ(findings(), all);
+    EXPECT_NE(testing::shownButton(view, "2 Fehler"), nullptr);
+    type(2, "BAND", "20m");
+    type(0, "QSO_DATE", "20240101");
+    type(0, "TIME_ON", "1300");
+    EXPECT_EQ(findings(), all) << "until the next check";
+    button("Erneut prüfen").click();
     EXPECT_EQ(
         testing::shownTexts(view),
         "Keine Probleme\nKeine Probleme gefunden\nPflichtfelder, Formate und Dubletten sind in Ordnung.");
+    button("Ergebnisleiste schließen").click();
+    EXPECT_FALSE(store.showCheckResults());
 }
 
-TEST_F(CheckResults, ListTheFindingsByRecordFromOne) {
-    openLog(faultyLog);
-    store.runCheck();
-    EXPECT_EQ(testing::shownTexts(view), "2 Fehler\n1 Warnungen");
-    EXPECT_EQ(findings(),
-              "Zeile 1: Ungültiges Datum: 2024\n"
-              "Zeile 1: Ungültige Zeit (Zeit (Anfang)): 9999\n"
-              "Zeile 3: Unbekanntes Band: 21m\n");
-    openLog({faultyLog[2]});
-    store.runCheck();
-    EXPECT_EQ(testing::shownTexts(view), "1 Warnungen");
-    EXPECT_EQ(findings(), "Zeile 1: Unbekanntes Band: 21m\n");
-}
-
-TEST_F(CheckResults, SelectTheRecordOfAFinding) {
-    openLog(faultyLog);
-    store.runCheck();
+TEST_F(CheckResults, LeadToTheFieldThatTheyAreAbout) {
     clickRow(2);
     EXPECT_EQ(selected(), "DL3ABC");
     QTest::keyClick(&list(), Qt::Key_Up);
     EXPECT_EQ(selected(), "DL1ABC");
-    EXPECT_EQ(store.selectionAnchor(), id(0));
-    // A second look at the finding that is chosen already.
+    EXPECT_EQ(chosen, "DL3ABC BAND 3\nDL3ABC BAND 3\nDL1ABC TIME_ON 2\n")
+        << "a click chooses and chooses again";
     store.selectRecord(1);
-    chosen();
     clickRow(1);
-    EXPECT_EQ(selected(), "DL1ABC");
-    EXPECT_EQ(chosen(), "DL1ABC ");
+    EXPECT_EQ(selected(), "DL1ABC") << "a second look at what is chosen already";
+    store.runCheck();
+    EXPECT_EQ(selected(), "DL1ABC") << "a check chooses nothing by itself";
 }
 
-TEST_F(CheckResults, ChooseNothingByThemselves) {
-    openLog(faultyLog);
-    store.runCheck();
-    list().setFocus();
-    EXPECT_EQ(selected(), "");
-    store.runCheck();
-    EXPECT_EQ(selected(), "");
+TEST_F(CheckResults, EndASearchThatHidesTheirQSO) {
+    store.setSearchText(QStringLiteral("DL2ABC"));
+    clickRow(2);
+    EXPECT_EQ(store.searchText(), QString());
+    EXPECT_EQ(selected(), "DL3ABC");
 }
 
-TEST_F(CheckResults, AreRenewedAndClosedFromTheHead) {
-    openLog(faultyLog);
+TEST_F(CheckResults, AreFilteredBySeverityAndText) {
+    button("2 Fehler").click();
+    EXPECT_EQ(findings(), "Zeile 3: Unbekanntes Band: 21m\n");
+    clickRow(0);
+    EXPECT_EQ(selected(), "DL3ABC");
+    button("2 Fehler").click();
+    view.findChild<QLineEdit*>()->setText(QStringLiteral("UNGÜLTIGE Z"));
+    EXPECT_EQ(findings(), "Zeile 1: Ungültige Zeit (Zeit (Anfang)): 9999\n");
+    view.findChild<QLineEdit*>()->setText(QStringLiteral("x"));
+    EXPECT_EQ(testing::shownTexts(view), "Keine passenden Befunde\nKein Befund passt zum Filter.");
+}
+
+TEST_F(CheckResults, ArriveInBatchesWhereTheFilterHasMuchToLookAt) {
+    std::vector<std::string> records(25'000, "CALL=DL1ABC QSO_DATE=2024 TIME_ON=1200 BAND=20m MODE=CW");
+    records.back() = "CALL=OE1ABC QSO_DATE=1999 TIME_ON=1200 BAND=20m MODE=CW";
+    openLog(records);
     store.runCheck();
-    type(2, "BAND", "20m");
-    EXPECT_EQ(testing::shownTexts(view), "2 Fehler\n1 Warnungen");
-    testing::shownButton(view, QStringLiteral("Erneut prüfen"))->click();
-    EXPECT_EQ(testing::shownTexts(view), "2 Fehler");
-    testing::shownButton(view, QStringLiteral("Ergebnisleiste schließen"))->click();
-    EXPECT_FALSE(store.showCheckResults());
+    QSignalSpy filtered(view.findChild<IssueListModel*>(), &IssueListModel::filtered);
+    view.findChild<QLineEdit*>()->setText(QStringLiteral("Datum: 1999"));
+    EXPECT_EQ(findings(), "");
+    ASSERT_TRUE(filtered.wait());
+    EXPECT_EQ(findings(), "Zeile 25000: Ungültiges Datum: 1999\n");
+    view.findChild<QLineEdit*>()->setText(QStringLiteral("auch in Zeile 25000"));
+    ASSERT_TRUE(filtered.wait());
+    EXPECT_EQ(findings(), "") << "of a large group of duplicates the first are named";
+}
+
+TEST_F(CheckResults, OfWhichSeveralAreChosenGoToTheClipboardInTheirOrder) {
+    clickRow(2);
+    chosen.clear();
+    clickRow(0, Qt::ControlModifier);
+    EXPECT_EQ(chosen, "");
+    QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+              "Zeile 1: Ungültiges Datum: 2024\nZeile 3: Unbekanntes Band: 21m");
 }
 
 }  // namespace

@@ -9,6 +9,9 @@
 #include "Quillon/Views/Sheets/EDIExportSheet.h"
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 #include "Quillon/Views/Table/QSOTableView.h"
+#include "Quillon/Views/Window/DropHint.h"
+#include "Quillon/Views/Window/NoHits.h"
+#include "Quillon/Views/Window/StatusLine.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +53,7 @@ class Window : public testing::LogStoreTest {
         auto* box = window->findChild<QMessageBox*>();
         return box != nullptr && box->isVisible() ? box : nullptr;
     }
+    std::string status() const { return testing::shownTexts(*window->findChild<StatusLine*>()); }
     bool tableHasFocus() const {
         const QWidget* focus = QApplication::focusWidget();
         return focus != nullptr && window->findChild<QSOTableView*>()->isAncestorOf(focus);
@@ -100,15 +104,30 @@ TEST_F(Window, SearchesAsTheUserTypes) {
     window->focusSearch();
     QTest::keyClicks(&searchField(), QStringLiteral("oe"));
     EXPECT_EQ(shown(), "OE1ABC");
-    store.setSearchText(QStringLiteral("dl"));
-    EXPECT_EQ(searchField().text(), QStringLiteral("dl"));
     QTest::keyClick(&searchField(), Qt::Key_Escape);
     EXPECT_EQ(shown(), "DL1ABC OE1ABC");
+    EXPECT_TRUE(tableHasFocus());
+    store.setSearchText(QStringLiteral("dl"));
+    EXPECT_EQ(searchField().text(), QStringLiteral("dl"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(searchField().text(), QString());
+}
+
+TEST_F(Window, SaysThatASearchFindsNothingAlsoInTheNextLog) {
+    show();
+    store.setSearchText(QStringLiteral("oe1"));
+    auto* noHits = window->findChild<NoHits*>();
+    EXPECT_FALSE(noHits->isVisible()) << "there is nothing to search in";
+    openLog({"CALL=DL1ABC"});
+    EXPECT_EQ(testing::shownTexts(*noHits), "Keine Treffer für „oe1“");
+    testing::shownButton(*noHits, QStringLiteral("Suche aufheben"))->click();
+    EXPECT_EQ(shown(), "DL1ABC");
+    EXPECT_FALSE(noHits->isVisible());
     EXPECT_TRUE(tableHasFocus());
 }
 
 TEST_F(Window, ShowsTheResultsOfACheckUnderTheTable) {
-    openLog({"CALL=DL1ABC", "CALL="});
+    openLog({"CALL=DL1ABC", "CALL=DL2ABC QSO_DATE=1"});
     show();
     EXPECT_EQ(window->findChild<CheckResultsView*>(), nullptr);
     store.runCheck();
@@ -117,6 +136,10 @@ TEST_F(Window, ShowsTheResultsOfACheckUnderTheTable) {
     QApplication::processEvents();
     EXPECT_EQ(results->height(), 200);
     EXPECT_EQ(results->width(), window->findChild<QSOTableView*>()->width());
+    auto* findings = results->findChild<QListView*>();
+    findings->setCurrentIndex(findings->model()->index(findings->model()->rowCount() - 1, 0));
+    EXPECT_EQ(selected(), "DL2ABC");
+    EXPECT_TRUE(window->findChildren<FieldRow*>()[1]->isMarked());
     store.addRecord();
     EXPECT_EQ(testing::shownChild<CheckResultsView>(*window), nullptr);
 }
@@ -135,8 +158,8 @@ TEST_F(Window, TellsAnErrorUntilItIsRead) {
     EXPECT_EQ(error(), "(none)");
     EXPECT_EQ(alert(), nullptr);
 
-    store.open(folder.path(QStringLiteral("missing.adi")));
-    ASSERT_NE(alert(), nullptr);
+    store.setErrorMessage(QString(1'000'000, QLatin1Char('x')));
+    EXPECT_LT(alert()->text().size(), 3000);
     QTest::keyClick(alert(), Qt::Key_Escape);
     EXPECT_EQ(error(), "(none)");
     store.setErrorMessage(QStringLiteral("again"));
@@ -175,17 +198,21 @@ TEST_F(Window, OpensAnExportSheetForAsLongAsItsFlagStands) {
     EXPECT_FALSE(store.showEDIExport());
 }
 
-TEST_F(Window, TakesADroppedFile) {
+TEST_F(Window, OpensTheFirstOfTheFilesDroppedAndSaysSo) {
     show();
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(folder.path(QStringLiteral("missing"))),
-                  QUrl::fromLocalFile(folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=DL1ABC"})))});
+                  QUrl::fromLocalFile(folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=DL1ABC"}))),
+                  QUrl::fromLocalFile(folder.write(QStringLiteral("b.adi"), ""))});
     QDragEnterEvent enter(QPoint(500, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window.get(), &enter);
     EXPECT_TRUE(enter.isAccepted());
+    EXPECT_TRUE(window->findChild<DropHint*>()->isVisible());
     QDropEvent drop(QPointF(500, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window.get(), &drop);
+    EXPECT_FALSE(window->findChild<DropHint*>()->isVisible());
     EXPECT_EQ(title(), "a.adi");
+    EXPECT_NE(status().find("Nur „a.adi“ wurde geöffnet, die erste von 2 Dateien"), std::string::npos);
 
     QMimeData text;
     text.setText(QStringLiteral("DL1ABC"));
@@ -193,6 +220,14 @@ TEST_F(Window, TakesADroppedFile) {
     foreign.ignore();
     QApplication::sendEvent(window.get(), &foreign);
     EXPECT_FALSE(foreign.isAccepted());
+}
+
+TEST_F(Window, SaysWhereAnExportWent) {
+    openLog({"CALL=DL1ABC"});
+    show();
+    panels.answers = {folder.path(QStringLiteral("x.edi"))};
+    store.exportEDI({});
+    EXPECT_NE(status().find("1 QSO nach „x.edi“ exportiert"), std::string::npos) << status();
 }
 
 TEST_F(Window, CopiesTheSelectedRecords) {
@@ -209,22 +244,22 @@ TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
     show();
     store.runCheck();
     select({0});
-    std::string names;
-    for (int step = 0; step < 8; ++step) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        names += QApplication::focusWidget()->accessibleName().toStdString() + "\n";
-    }
-    EXPECT_EQ(names,
-              "Befunde\nErneut prüfen\nErgebnisleiste schließen\nRufzeichen\nFeld entfernen: Rufzeichen\n"
-              "Name\nFeld entfernen: Name\nSuchen\n");
-    std::string before;
-    for (int step = 0;
-         step < 40 && QApplication::focusWidget()->accessibleName() != QStringLiteral("QSO-Tabelle");
-         ++step) {
-        before = QApplication::focusWidget()->accessibleName().toStdString();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(before, "Spaltenköpfe") << "the way back leads over all that stands above the rows";
+    const auto walk = [](Qt::Key key, int steps) {
+        std::string names;
+        for (int step = 0; step < steps; ++step) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+            const QString name = QApplication::focusWidget()->accessibleName();
+            names += (name.isEmpty() ? QStringLiteral("(icon)") : name).toStdString() + "\n";
+        }
+        return names;
+    };
+    EXPECT_EQ(walk(Qt::Key_Tab, 10),
+              "Befunde\n(icon)\nBefunde filtern\nErneut prüfen\nErgebnisleiste schließen\n"
+              "Rufzeichen\nName\nFeld entfernen: Rufzeichen\nFeld entfernen: Name\nSuchen\n")
+        << "no button that removes a field stands between two values";
+    window->findChild<QSOTableView*>()->setFocus();
+    EXPECT_EQ(walk(Qt::Key_F6, 3), "Ergebnisleiste schließen\nFeld entfernen: Name\nSuchen\n")
+        << "in each pane to where the keyboard was last";
 }
 
 TEST_F(Window, HearsTheKeysOfTheLogFromTheDetailPane) {

@@ -24,24 +24,21 @@ TEST_F(StatusLineOfALog, CountsWhatIsThereFilteredAndSelected) {
     EXPECT_EQ(texts(), "0 QSOs");
     openLog({"CALL=DL1ABC"});
     EXPECT_EQ(texts(), "1 QSO");
-    openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
-    EXPECT_EQ(texts(), "2 QSOs");
+    openLog(std::vector<std::string>(1234, "CALL=DL1ABC"));
     store.setSearchText(QStringLiteral("nowhere"));
-    EXPECT_EQ(texts(), "2 QSOs\n0 gefiltert");
-    select({0, 1});
-    EXPECT_EQ(texts(), "2 QSOs\n0 gefiltert\n2 ausgewählt");
+    EXPECT_EQ(texts(), "1.234 QSOs\n0 gefiltert");
     store.setSearchText(QString());
-    EXPECT_EQ(texts(), "2 QSOs\n2 ausgewählt");
-    store.deleteSelected();
-    EXPECT_EQ(texts(), "0 QSOs");
+    store.selectAllDisplayed();
+    EXPECT_EQ(texts(), "1.234 QSOs\n1.234 ausgewählt");
+    EXPECT_EQ(statusTexts(store).path, folder.path(QStringLiteral("log.adi")));
 }
 
-TEST_F(StatusLineOfALog, NamesTheFileByItsFullPath) {
-    EXPECT_EQ(statusTexts(store).path, QString());
+TEST_F(StatusLineOfALog, TellsWhatWasDoneUntilSomethingChanges) {
     openLog({"CALL=DL1ABC"});
-    EXPECT_EQ(statusTexts(store).path, folder.path(QStringLiteral("log.adi")));
-    store.newLog();
-    EXPECT_EQ(testing::shownTexts(line), "0 QSOs");
+    line.showNotice(QStringLiteral("done"));
+    EXPECT_EQ(texts(), "1 QSO\ndone");
+    type(0, "CALL", "DL2ABC");
+    EXPECT_EQ(texts(), "1 QSO");
 }
 
 }  // namespace

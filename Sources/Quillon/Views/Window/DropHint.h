@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QWidget>
+
+namespace quillon {
+
+/// Covers the window while a file is held over it, and says what letting go would do.
+class DropHint : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Hidden at first.
+    explicit DropHint(QWidget& window);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace quillon
