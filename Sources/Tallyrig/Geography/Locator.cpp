@@ -79,9 +79,14 @@ std::optional<double> greatCircleKm(std::string_view from, std::string_view to) 
     return start && end ? std::optional(greatCircleKm(*start, *end)) : std::nullopt;
 }
 
+std::int64_t distanceKm(const Coordinate& from, const Coordinate& to) {
+    return std::llround(greatCircleKm(from, to));
+}
+
 std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view to) {
-    const auto km = greatCircleKm(from, to);
-    return km ? std::optional<std::int64_t>(std::llround(*km)) : std::nullopt;
+    const auto start = maidenheadToCoordinate(from);
+    const auto end = maidenheadToCoordinate(to);
+    return start && end ? std::optional(distanceKm(*start, *end)) : std::nullopt;
 }
 
 }  // namespace tallyrig

@@ -25,7 +25,8 @@ double greatCircleKm(const Coordinate& from, const Coordinate& to);
 /// The same between the centres that the locators name; absent if either names none.
 std::optional<double> greatCircleKm(std::string_view from, std::string_view to);
 
-/// The same between locators in whole kilometres, halves away from zero.
+/// The same in whole kilometres, halves away from zero.
+std::int64_t distanceKm(const Coordinate& from, const Coordinate& to);
 std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view to);
 
 }  // namespace tallyrig

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <vector>
 
 namespace tallyrig {
 
@@ -21,25 +20,14 @@ bool isPlainSuffix(std::string_view part) {
     return std::ranges::find(plainSuffixes, part) != plainSuffixes.end();
 }
 
-/// The last character of `text` that is a number, empty if there is none. It refers to `text`.
-std::string_view lastNumber(std::string_view text) {
-    if (text::isASCII(text)) {
-        const std::size_t at = text.find_last_of("0123456789");
-        return at == std::string_view::npos ? std::string_view() : text.substr(at, 1);
-    }
-    const std::vector<std::string_view> characters = text::characters(text);
-    const auto last = std::find_if(characters.rbegin(), characters.rend(), text::isNumeric);
-    return last == characters.rend() ? std::string_view() : *last;
-}
-
 /// Up to and including the last number; a call without one gets a zero.
 std::string prefixOfPart(std::string_view part) {
-    const std::string_view number = lastNumber(part);
+    const std::string_view number = text::lastNumeric(part);
     return number.empty() ? std::string(part) + "0" : std::string(part.begin(), number.end());
 }
 
 std::string withLastDigit(std::string prefix, std::string_view digit) {
-    const std::string_view number = lastNumber(prefix);
+    const std::string_view number = text::lastNumeric(prefix);
     if (number.empty()) {
         return prefix.append(digit);
     }

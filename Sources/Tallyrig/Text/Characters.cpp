@@ -113,6 +113,20 @@ bool isNumeric(std::string_view character) {
            u_getIntPropertyValue(firstCodePoint(character), UCHAR_NUMERIC_TYPE) != U_NT_NONE;
 }
 
+std::string_view lastNumeric(std::string_view text) {
+    if (isASCII(text)) {
+        const std::size_t at = text.find_last_of("0123456789");
+        return at == std::string_view::npos ? std::string_view() : text.substr(at, 1);
+    }
+    std::string_view last;
+    forEachCluster(text, [&](std::string_view character) {
+        if (isNumeric(character)) {
+            last = character;
+        }
+    });
+    return last;
+}
+
 bool isAllNumeric(std::string_view text) {
     bool numeric = true;
     if (isASCII(text)) {

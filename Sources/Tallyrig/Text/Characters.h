@@ -27,6 +27,9 @@ bool isLetter(std::string_view character);
 /// Roman numerals. False for empty text.
 bool isNumeric(std::string_view character);
 
+/// The last character of `text` that is numeric, empty if there is none. It refers to `text`.
+std::string_view lastNumeric(std::string_view text);
+
 /// Whether every character of `text` is numeric, which is true of empty text.
 bool isAllNumeric(std::string_view text);
 
