@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Stops the fuzzer, which then keeps the input, unless `fact` holds.
+/// Stops the program, and with it the fuzzer that then keeps the input, unless `fact` holds.
 inline void require(bool fact, const char* claim) {
     if (!fact) {
         std::fprintf(stderr, "Does not hold: %s\n", claim);
