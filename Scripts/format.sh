@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Puts the C++ sources into the shape that .clang-format describes; with --check only says which are not in it.
+# clang-format is that of LLVM 14, for another one has other tastes.
 #
 #     Scripts/format.sh [--check]
 set -euo pipefail
@@ -9,5 +10,5 @@ how=(-i)
 if [ "${1:-}" = --check ]; then
     how=(--dry-run -Werror)
 fi
-git ls-files -z 'Sources/*.cpp' 'Sources/*.h' 'Tests/*.cpp' 'Tests/*.h' 'Benchmarks/*.cpp' 'Benchmarks/*.h' |
-    xargs -0 clang-format "${how[@]}"
+Scripts/packages.sh --format
+find Sources Tests Benchmarks \( -name '*.cpp' -o -name '*.h' \) -print0 | xargs -0 clang-format-14 "${how[@]}"

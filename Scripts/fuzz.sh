@@ -9,8 +9,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-60}
 
 Scripts/packages.sh --fuzz
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz
+Scripts/build.sh fuzz
 
 mkdir -p build/fuzz/seeds build/fuzz/findings
 # Long logs say nothing that their first QSOs do not, and slow each run down.

@@ -1,26 +1,43 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that Quillon needs to be built, run and tested; with --fuzz also those for fuzzing.
-# Does nothing, and needs no rights, where all of them are there.
+# Installs the Debian packages that Quillon needs to be built, run and tested; with --format those for the shape of
+# the sources instead, with --fuzz those for fuzzing. Does nothing, and needs no rights, where all are there. With
+# --list first, only names them.
 #
-#     Scripts/packages.sh [--fuzz]
+#     Scripts/packages.sh [--list] [--format | --fuzz]
 set -euo pipefail
 
-packages=(
-    # Tools to build with.
-    g++ cmake ninja-build ccache pkg-config
-    # Libraries of Tallyrig and its command-line tool.
-    libicu-dev libexpat1-dev libfmt-dev libcli11-dev nlohmann-json3-dev
-    # What the application is made of, and what it shows: German dialogs, icons, a font.
-    qt6-base-dev qt6-charts-dev qt6-svg-dev libgl-dev qt6-translations-l10n breeze-icon-theme fonts-dejavu-core
-    # Tests and benchmarks.
-    libgtest-dev libbenchmark-dev python3-minimal
-    # A display for machines without one.
-    xvfb xauth
-)
-if [ "${1:-}" = --fuzz ]; then
-    packages+=(clang libclang-rt-14-dev)
+onlyList=
+if [ "${1:-}" = --list ]; then
+    onlyList=yes
+    shift
 fi
+case "${1:-}" in
+--format)
+    packages=(clang-format-14)
+    ;;
+--fuzz)
+    packages=(clang libclang-rt-14-dev cmake ninja-build ccache libicu-dev libexpat1-dev libfmt-dev)
+    ;;
+*)
+    packages=(
+        # Tools to build with.
+        g++ cmake ninja-build ccache
+        # Libraries of Tallyrig and its command-line tool.
+        libicu-dev libexpat1-dev libfmt-dev libcli11-dev nlohmann-json3-dev
+        # What the application is made of, and what it shows: German dialogs, icons, a font.
+        qt6-base-dev qt6-svg-dev qt6-translations-l10n breeze-icon-theme fonts-dejavu-core
+        # Tests and benchmarks.
+        libgtest-dev libbenchmark-dev python3-minimal
+        # A display for machines without one.
+        xvfb xauth
+    )
+    ;;
+esac
 
+if [ -n "$onlyList" ]; then
+    echo "${packages[@]}"
+    exit 0
+fi
 if ! command -v dpkg-query >/dev/null; then
     echo "This is no Debian system. The packages needed are, by their Debian names:" "${packages[@]}" >&2
     exit 0
@@ -41,11 +58,22 @@ if [ "$(id -u)" != 0 ]; then
     if command -v sudo >/dev/null && { [ -t 0 ] || sudo -n true 2>/dev/null; }; then
         as_root=(sudo)
     else
-        echo "These packages are missing and cannot be installed without root's rights:" "${missing[@]}" >&2
+        {
+            echo "Packages are missing, and to install them takes the rights of root. An administrator does it with"
+            echo "    apt-get install --no-install-recommends ${missing[*]}"
+        } >&2
         exit 1
     fi
 fi
 
-echo "Installing" "${missing[@]}"
-"${as_root[@]}" apt-get update -qq
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+log=$(mktemp -t quillon-packages-XXXXXX.log)
+echo "Installing ${missing[*]}. What apt says goes to $log"
+{
+    "${as_root[@]}" apt-get update -qq &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -qq --no-install-recommends "${missing[@]}"
+} >"$log" 2>&1 || {
+    tail -n 20 "$log" >&2
+    echo "The packages could not be installed. All messages are in $log" >&2
+    exit 1
+}

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Builds Quillon and opens its window on the given log or, without one, on an example. Where there is no display, the
-# window opens in a virtual one and a picture of it is left behind.
+# Builds Quillon and its command-line tool and opens the window on the given log or, without one, on an example.
+# Where there is no display, the window opens in a virtual one and a picture of it is left behind.
 #
-#     Scripts/run.sh [FILE...]
+#     Scripts/run.sh [FILE]
 set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
 
 "$top/Scripts/packages.sh"
-(cd "$top" && cmake --preset release >/dev/null && cmake --build --preset release --target Quillon)
+"$top/Scripts/build.sh" release Quillon tallyrig
 
 if [ $# = 0 ]; then
     set -- "$top/Examples/jahreslog.adi"

@@ -6,8 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 Scripts/packages.sh
-cmake --preset release >/dev/null
-cmake --build --preset release --target Quillon
+Scripts/build.sh release Quillon
 
 # The status bar shows where the log lies, which is to be the same on every machine.
 folder=/var/tmp/Logbuch
