@@ -1,15 +1,24 @@
 #include "Quillon/App/QuillonApp.h"
+#include "Quillon/App/Terminal.h"
 #include "Quillon/App/WindowPicture.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <QApplication>
 
 #include <csignal>
+#include <cstddef>
+#include <span>
 
 int main(int argumentCount, char** argumentValues) {
+    const std::span given(argumentValues, static_cast<std::size_t>(argumentCount));
+    if (const auto status = quillon::answerOnTerminal(given.subspan(argumentCount > 0 ? 1 : 0))) {
+        return *status;
+    }
     // A file that may not grow further is a failed write like any other.
     std::signal(SIGXFSZ, SIG_IGN);
+    qInstallMessageHandler(quillon::endWithoutDisplay);
     QApplication application(argumentCount, argumentValues);
+    qInstallMessageHandler(nullptr);
     QStringList arguments = QApplication::arguments().mid(1);
     const auto picture = quillon::WindowPicture::takenFrom(arguments);
     if (picture) {
