@@ -1,9 +1,12 @@
+#include "Quillon/Support/OwnHome.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 
 int main(int count, char** arguments) {
     ::testing::InitGoogleTest(&count, arguments);
+    const quillon::testing::OwnHome home;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
