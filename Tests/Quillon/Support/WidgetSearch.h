@@ -5,6 +5,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,17 @@ inline QAbstractButton* shownButton(const QWidget& inside, const QString& text) 
         }
     }
     return nullptr;
+}
+
+/// The child of this type that assistive technology knows by this name; throws if there is none.
+template <typename Child>
+Child& namedChild(const QWidget& inside, const char* name) {
+    for (Child* child : inside.findChildren<Child*>()) {
+        if (child->accessibleName() == QString::fromUtf8(name)) {
+            return *child;
+        }
+    }
+    throw std::runtime_error(std::string("no child ") + name);
 }
 
 /// The first child of this type that is shown, null if there is none.

@@ -5,7 +5,7 @@
 namespace quillon {
 
 /// A picker for panes that scroll: turning the wheel over it scrolls the pane instead of changing what is
-/// chosen, and a choice that is too long for the pane does not make the pane wider.
+/// chosen, and a choice that is too long for the pane does not make the pane wider but ends in "…".
 class CalmComboBox : public QComboBox {
     Q_OBJECT
 
@@ -13,6 +13,7 @@ class CalmComboBox : public QComboBox {
     explicit CalmComboBox(QWidget* parent = nullptr);
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 };
 

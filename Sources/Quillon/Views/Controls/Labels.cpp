@@ -115,6 +115,12 @@ QLabel* noteLabel(const QString& text, QWidget* parent) {
     return label;
 }
 
+void nameBy(QLabel& label, QWidget& control) {
+    QWidget& named = control.focusProxy() != nullptr ? *control.focusProxy() : control;
+    label.setBuddy(&named);
+    named.setAccessibleName(label.text());
+}
+
 QWidget* horizontalLine(QWidget* parent) {
     return new HorizontalLine(parent);
 }

@@ -34,6 +34,9 @@ QLabel* headingLabel(const QString& text, QWidget* parent = nullptr);
 /// A remark that explains what stands above it: small, in the secondary colour, on as many lines as it needs.
 QLabel* noteLabel(const QString& text, QWidget* parent = nullptr);
 
+/// Lets `label` name `control`, for the keyboard and for assistive technology.
+void nameBy(QLabel& label, QWidget& control);
+
 /// A thin line between two parts of a window, from left to right.
 QWidget* horizontalLine(QWidget* parent = nullptr);
 

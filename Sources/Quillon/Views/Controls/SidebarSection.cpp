@@ -14,15 +14,19 @@ constexpr int indentPx = 22;
 }  // namespace
 
 SidebarSection::SidebarSection(const QString& title, QWidget* parent)
-    : QWidget(parent), column(new QVBoxLayout(this)) {
+    : QWidget(parent), column(new QVBoxLayout(this)), heading(headingLabel(title, this)) {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
-    if (!title.isEmpty()) {
-        column->addWidget(headingLabel(title, this));
-    }
+    column->addWidget(heading);
+    heading->setVisible(!title.isEmpty());
 }
 
 void SidebarSection::add(QWidget* control) {
+    column->addWidget(control);
+}
+
+void SidebarSection::addUnderHeading(QWidget* control) {
+    nameBy(*heading, *control);
     column->addWidget(control);
 }
 
@@ -35,8 +39,7 @@ void SidebarSection::addIndented(QWidget* control) {
 
 void SidebarSection::addLabelled(const QString& label, QWidget* control) {
     auto* caption = new QLabel(label, this);
-    caption->setBuddy(control);
-    control->setAccessibleName(label);
+    nameBy(*caption, *control);
     column->addWidget(caption);
     column->addWidget(control);
 }

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QVBoxLayout;
 
 namespace quillon {
@@ -15,6 +16,8 @@ class SidebarSection : public QWidget {
     explicit SidebarSection(const QString& title, QWidget* parent = nullptr);
 
     void add(QWidget* control);
+    /// Named by the heading, as the one control that the section is about.
+    void addUnderHeading(QWidget* control);
     /// Moved to the right, as belonging to what stands above.
     void addIndented(QWidget* control);
     /// Under its own label, which belongs to it for the keyboard and for assistive technology.
@@ -23,6 +26,7 @@ class SidebarSection : public QWidget {
 
   private:
     QVBoxLayout* column;
+    QLabel* heading;
 };
 
 }  // namespace quillon

@@ -1,5 +1,7 @@
 #include "Quillon/Views/Controls/WrappingCheckBox.h"
 
+#include "Quillon/Views/Controls/Colors.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -11,6 +13,16 @@ namespace quillon {
 namespace {
 
 constexpr int textFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+
+/// The text with a short last word held to the one before: "…)" alone on a line looks like a slip.
+QString heldTogether(QString text) {
+    constexpr qsizetype shortWord = 3;
+    const qsizetype blank = text.lastIndexOf(QLatin1Char(' '));
+    if (blank >= 0 && text.size() - blank - 1 <= shortWord) {
+        text[blank] = QChar::Nbsp;
+    }
+    return text;
+}
 
 }  // namespace
 
@@ -36,7 +48,7 @@ int WrappingCheckBox::heightForWidth(int width) const {
     }
     const QRect room(0, 0, std::max(1, width - boxWidth()), QWIDGETSIZE_MAX);
     knownHeight = std::max(style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this),
-                           fontMetrics().boundingRect(room, textFlags, text()).height());
+                           fontMetrics().boundingRect(room, textFlags, heldTogether(text())).height());
     knownWidth = width;
     knownFont = font();
     return knownHeight;
@@ -55,15 +67,15 @@ void WrappingCheckBox::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, this);
 
     const QRect textArea = rect().adjusted(boxWidth(), (lineHeight - fontMetrics().height()) / 2, 0, 0);
-    style()->drawItemText(&painter, textArea, textFlags, palette(), isEnabled(), text(),
-                          QPalette::WindowText);
+    const QString shown = heldTogether(text());
+    style()->drawItemText(&painter, textArea, textFlags, palette(), isEnabled(), shown, QPalette::WindowText);
     if (option.state.testFlag(QStyle::State_HasFocus)) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(option);
-        focus.rect =
-            fontMetrics().boundingRect(textArea, textFlags, text()).adjusted(-2, 0, 2, 0).intersected(rect());
-        focus.backgroundColor = palette().color(QPalette::Window);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+        // The frame of the style is a breath of colour, too pale to find the focus by.
+        const QRectF frame(
+            fontMetrics().boundingRect(textArea, textFlags, shown).adjusted(-2, 0, 2, 0).intersected(rect()));
+        painter.setPen(standingOut(palette().color(QPalette::Highlight), {palette().color(QPalette::Window)},
+                                   shapeContrast));
+        painter.drawRect(frame.adjusted(0.5, 0.5, -0.5, -0.5));
     }
 }
 
