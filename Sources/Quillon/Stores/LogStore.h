@@ -90,6 +90,9 @@ class LogStore : public QObject {
     void save();
     void saveWithPanel();
 
+    /// As `saveWithPanel`, but proposes the extension of ADI text whatever file the log came from.
+    void saveAsADI();
+
     // Other formats.
     /// Asks for a place and makes the log an ADX file there.
     void saveAsADX();

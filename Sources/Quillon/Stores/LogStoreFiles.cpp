@@ -191,6 +191,13 @@ QString LogStore::proposedName(const QString& extension) const {
            QLatin1Char('.') + extension;
 }
 
+void LogStore::saveAsADI() {
+    const QString extension = QStringLiteral("adi");
+    if (const auto path = panels.fileToSave(proposedName(extension), adifContentTypes())) {
+        write(*path);
+    }
+}
+
 void LogStore::saveAsADX() {
     const QString extension = QStringLiteral("adx");
     if (const auto path = panels.fileToSave(proposedName(extension),
