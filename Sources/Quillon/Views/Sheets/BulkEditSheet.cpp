@@ -3,23 +3,28 @@
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
-#include "Tallyrig/Log/RecordSearch.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
-#include <limits>
 #include <utility>
 
 namespace quillon {
 
 namespace {
+
+/// As long a value as any log holds, yet laid out at once.
+constexpr int longestValue = 10'000;
+
+/// A log of more QSOs is not counted through at each keystroke.
+constexpr std::size_t quicklyCounted = 20'000;
+constexpr int pauseMs = 200;
 
 QString label(BulkEditSheet::Mode mode) {
     switch (mode) {
@@ -51,58 +56,44 @@ ValueHelp valueHelp(std::string_view column) {
     return {QStringLiteral("Neuer Wert (leer = Feld entfernen)"), QString()};
 }
 
-/// The number of records whose value in `column`, empty where they have none, is such as `matches` says.
-template <typename Condition>
-std::size_t countRecords(const tallyrig::ADIFDocument& document, std::string_view column, Condition matches) {
-    std::size_t count = 0;
-    for (const tallyrig::ADIFRecord& record : document.records()) {
-        const tallyrig::RecordStorage& stored = record.stored();
-        const auto index = tallyrig::indexOfField(stored, column);
-        count += matches(index ? stored.field(*index).value : std::string_view()) ? 1 : 0;
-    }
-    return count;
+QLabel* addRow(QFormLayout& form, const QString& text, QWidget* control) {
+    auto* label = new QLabel(text, form.parentWidget());
+    nameBy(*label, *control);
+    form.addRow(label, control);
+    return label;
 }
 
 }  // namespace
 
 BulkEditSheet::BulkEditSheet(LogStore& logStore, std::string column, QWidget* parent)
-    : QDialog(parent), store(logStore), columnName(std::move(column)) {
-    setWindowTitle(QStringLiteral("Massen-Änderung"));
-    setMinimumWidth(460);
-
-    auto* title = new QLabel(windowTitle(), this);
-    QFont titleFont = title->font();
-    titleFont.setBold(true);
-    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.2);
-    title->setFont(titleFont);
-    auto* columnLine =
-        new QLabel(QStringLiteral("Spalte: ") + toQString(cutToShow(ADIFFieldCatalog::label(columnName))) +
-                       QStringLiteral("  (") + toQString(cutToShow(columnName)) + QLatin1Char(')'),
-                   this);
-    columnLine->setTextFormat(Qt::PlainText);
+    : Sheet(QStringLiteral("Massen-Änderung"), QStringLiteral("Anwenden"), parent),
+      store(logStore),
+      columnName(std::move(column)) {
+    auto* columnLine = new ElidedLabel(Qt::ElideRight, this);
+    columnLine->setText(QStringLiteral("Spalte: ") +
+                        toQString(cutToShow(ADIFFieldCatalog::label(columnName))) + QStringLiteral("  (") +
+                        toQString(cutToShow(columnName)) + QLatin1Char(')'));
     columnLine->setForegroundRole(QPalette::PlaceholderText);
+    // The name may be as long as the log likes.
+    columnLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     affected = new QLabel(this);
-    auto* buttons = new QDialogButtonBox(this);
-    applyButton = buttons->addButton(QStringLiteral("Anwenden"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QStringLiteral("Abbrechen"), QDialogButtonBox::RejectRole)->setAutoDefault(false);
-    applyButton->setDefault(true);
+    removal = new QLabel(this);
+    pause.setSingleShot(true);
+    pause.setInterval(pauseMs);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(18, 18, 18, 18);
-    layout->setSpacing(10);
-    layout->addWidget(title);
-    layout->addWidget(columnLine);
-    layout->addWidget(makeForm());
-    layout->addWidget(affected);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
+    content()->addWidget(columnLine);
+    content()->addWidget(makeForm());
+    content()->addWidget(affected);
+    content()->addWidget(removal);
+    content()->addStretch(1);
+    setMinimumWidth(32 * fontMetrics().height());
 
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::accepted, this, &BulkEditSheet::apply);
-    connect(&store, &LogStore::documentChanged, this, &BulkEditSheet::refresh);
+    connect(&pause, &QTimer::timeout, this, &BulkEditSheet::refresh);
+    connect(&store, &LogStore::documentChanged, this, [this] {
+        withoutValue.reset();
+        refresh();
+    });
     refresh();
-    // Otherwise it would be the default button, and Return behind a value typed into it would empty the
-    // column.
     value->setFocus();
 }
 
@@ -111,86 +102,111 @@ BulkEditSheet::Mode BulkEditSheet::mode() const {
 }
 
 QWidget* BulkEditSheet::makeForm() {
-    auto* form = new QWidget(this);
-    modePicker = new QComboBox(form);
+    auto* area = new QWidget(this);
+    form = new QFormLayout(area);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+
+    modePicker = new QComboBox(area);
     for (const Mode offered : allModes) {
         modePicker->addItem(label(offered), static_cast<int>(offered));
     }
+    addRow(*form, QStringLiteral("Aktion"), modePicker);
     const ValueHelp help = valueHelp(columnName);
-    value = new QLineEdit(form);
-    value->setPlaceholderText(help.placeholder);
-    value->setAccessibleName(QStringLiteral("Neuer Wert"));
-    auto* hint = noteLabel(help.hint, form);
-    find = new QLineEdit(form);
-    replacement = new QLineEdit(form);
-    for (QLineEdit* field : {value, find, replacement}) {
-        field->setMaxLength(std::numeric_limits<int>::max());
-    }
-
-    auto* layout = new QFormLayout(form);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    layout->addRow(QStringLiteral("Aktion"), modePicker);
-    auto* valueWithHint = new QWidget(form);
-    auto* valueLayout = new QVBoxLayout(valueWithHint);
-    valueLayout->setContentsMargins(0, 0, 0, 0);
-    valueLayout->setSpacing(4);
-    valueLayout->addWidget(value);
-    valueLayout->addWidget(hint);
-    hint->setVisible(!help.hint.isEmpty());
-    layout->addRow(QString(), valueWithHint);
-    layout->addRow(QStringLiteral("Suchen"), find);
-    layout->addRow(QStringLiteral("Ersetzen durch"), replacement);
+    value = new BoundedLine(longestValue, area);
+    value->editor().setPlaceholderText(help.placeholder);
+    value->editor().setAccessibleName(QStringLiteral("Neuer Wert"));
+    value->editor().setAccessibleDescription(help.hint);
+    form->addRow(QString(), value);
+    valueHint = noteLabel(help.hint, area);
+    form->addRow(QString(), valueHint);
+    find = new BoundedLine(longestValue, area);
+    addRow(*form, QStringLiteral("Suchen"), find);
+    replacement = new BoundedLine(longestValue, area);
+    addRow(*form, QStringLiteral("Ersetzen durch"), replacement);
 
     connect(modePicker, &QComboBox::currentIndexChanged, this, &BulkEditSheet::refresh);
-    connect(find, &QLineEdit::textChanged, this, &BulkEditSheet::refresh);
-    return form;
+    connect(&value->editor(), &QLineEdit::textChanged, this, &BulkEditSheet::tellWhatEmptyValueDoes);
+    connect(&find->editor(), &QLineEdit::textChanged, this, [this] {
+        if (store.document().records().size() > quicklyCounted) {
+            pause.start();
+        }
+        refresh();
+    });
+    return area;
 }
 
 void BulkEditSheet::refresh() {
-    auto* form = static_cast<QFormLayout*>(modePicker->parentWidget()->layout());
     const bool replaces = mode() == Mode::replace;
-    form->setRowVisible(value->parentWidget(), !replaces);
+    form->setRowVisible(value, !replaces);
+    form->setRowVisible(valueHint, !replaces && !valueHint->text().isEmpty());
     form->setRowVisible(find, replaces);
     form->setRowVisible(replacement, replaces);
-    applyButton->setEnabled(!replaces || !find->text().isEmpty());
-
-    const tallyrig::ADIFDocument& document = store.document();
-    const std::size_t total = document.records().size();
-    std::size_t count = 0;
+    setComplete(!replaces || !find->editor().text().isEmpty());
     switch (mode()) {
         case Mode::all:
-            count = total;
+            tellAffected(store.document().records().size());
             break;
         case Mode::empty:
-            count = countRecords(document, columnName, [](std::string_view text) { return text.empty(); });
+            tellAffected(countWithoutValue());
             break;
         case Mode::replace:
-            if (const std::string part = find->text().toStdString(); !part.empty()) {
-                count = countRecords(document, columnName, [&](std::string_view text) {
-                    return tallyrig::text::contains(text, part);
-                });
-            }
+            tellAffected(countFound());
             break;
     }
-    affected->setText(QStringLiteral("Betrifft ") + QString::number(count) + QStringLiteral(" von ") +
-                      QString::number(total) + QStringLiteral(" QSOs."));
+    tellWhatEmptyValueDoes();
 }
 
-void BulkEditSheet::apply() {
+std::optional<std::size_t> BulkEditSheet::countFound() {
+    const QString text = find->editor().text();
+    if (pause.isActive() && !text.isEmpty()) {
+        return std::nullopt;
+    }
+    return store.document().countContaining(columnName, text.toStdString());
+}
+
+std::size_t BulkEditSheet::countWithoutValue() {
+    if (!withoutValue) {
+        withoutValue = store.document().countWithoutValue(columnName);
+    }
+    return *withoutValue;
+}
+
+void BulkEditSheet::tellAffected(std::optional<std::size_t> count) {
+    affected->setText(QStringLiteral("Betrifft ") + (count ? numberText(*count) : QStringLiteral("…")) +
+                      QStringLiteral(" von ") + numberText(store.document().records().size()) +
+                      QStringLiteral(" QSOs."));
+}
+
+void BulkEditSheet::tellWhatEmptyValueDoes() {
+    if (mode() == Mode::replace || !value->editor().text().isEmpty()) {
+        removal->clear();
+        return;
+    }
+    if (mode() == Mode::empty) {
+        removal->setText(QStringLiteral("Ein leerer Wert ändert nichts."));
+        return;
+    }
+    const std::size_t count = store.document().records().size() - countWithoutValue();
+    removal->setText(QStringLiteral("Ein leerer Wert entfernt das Feld aus ") + numberText(count) +
+                     (count == 1 ? QStringLiteral(" QSO.") : QStringLiteral(" QSOs.")));
+}
+
+void BulkEditSheet::act() {
     showBusyCursorUntilIdle();
+    const std::string newValue = value->editor().text().toStdString();
     switch (mode()) {
         case Mode::all:
-            store.setColumnValue(columnName, value->text().toStdString(), tallyrig::ColumnTarget::allRecords);
+            store.setColumnValue(columnName, newValue, tallyrig::ColumnTarget::allRecords);
             break;
         case Mode::empty:
-            store.setColumnValue(columnName, value->text().toStdString(), tallyrig::ColumnTarget::emptyOnly);
+            store.setColumnValue(columnName, newValue, tallyrig::ColumnTarget::emptyOnly);
             break;
         case Mode::replace:
-            store.replaceInColumn(columnName, find->text().toStdString(), replacement->text().toStdString());
+            store.replaceInColumn(columnName, find->editor().text().toStdString(),
+                                  replacement->editor().text().toStdString());
             break;
     }
-    accept();
 }
 
 }  // namespace quillon

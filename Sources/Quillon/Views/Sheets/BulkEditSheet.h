@@ -1,21 +1,25 @@
 #pragma once
 
-#include <QDialog>
+#include "Quillon/Views/Sheets/Sheet.h"
+
+#include <QTimer>
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 
 class QComboBox;
+class QFormLayout;
 class QLabel;
-class QLineEdit;
-class QPushButton;
 
 namespace quillon {
 
+class BoundedLine;
 class LogStore;
 
-/// Changes one column in all QSOs at once.
-class BulkEditSheet : public QDialog {
+/// Changes one column in all QSOs at once, and says beforehand how many that concerns.
+class BulkEditSheet : public Sheet {
     Q_OBJECT
 
   public:
@@ -32,19 +36,30 @@ class BulkEditSheet : public QDialog {
 
     Mode mode() const;
 
+  protected:
+    void act() override;
+
   private:
     QWidget* makeForm();
     void refresh();
-    void apply();
+    /// The number of QSOs in which the text to find stands, absent until the user pauses typing.
+    std::optional<std::size_t> countFound();
+    std::size_t countWithoutValue();
+    void tellAffected(std::optional<std::size_t> count);
+    void tellWhatEmptyValueDoes();
 
     LogStore& store;
     std::string columnName;
+    QFormLayout* form = nullptr;
     QComboBox* modePicker = nullptr;
-    QLineEdit* value = nullptr;
-    QLineEdit* find = nullptr;
-    QLineEdit* replacement = nullptr;
+    BoundedLine* value = nullptr;
+    QLabel* valueHint = nullptr;
+    BoundedLine* find = nullptr;
+    BoundedLine* replacement = nullptr;
     QLabel* affected = nullptr;
-    QPushButton* applyButton = nullptr;
+    QLabel* removal = nullptr;
+    QTimer pause{this};                       ///< Runs while the user types.
+    std::optional<std::size_t> withoutValue;  ///< Counted at most once for a log.
 };
 
 }  // namespace quillon

@@ -59,7 +59,7 @@ bool CabrilloExportSheet::isComplete() const {
     return !tallyrig::text::trimmedOfBlanks(header.callsign).empty();
 }
 
-void CabrilloExportSheet::exportLog() {
+void CabrilloExportSheet::act() {
     store.exportCabrillo(header);
 }
 

@@ -15,7 +15,7 @@ class CabrilloExportSheet : public ExportSheet {
 
   protected:
     bool isComplete() const override;
-    void exportLog() override;
+    void act() override;
 
   private:
     tallyrig::CabrilloHeader header;

@@ -1,6 +1,7 @@
 #include "Quillon/Views/Sheets/EDIExportSheet.h"
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/BoundedField.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <QComboBox>
@@ -61,7 +62,8 @@ EDIExportSheet::EDIExportSheet(LogStore& logStore, QWidget* parent)
     addField(responsible, QStringLiteral("Rufzeichen (RCall)"), header.responsibleCall);
     addField(responsible, QStringLiteral("Adresse"), header.address1);
     addField(responsible, QString(), header.address2)
-        ->setAccessibleName(QStringLiteral("Adresse, zweite Zeile"));
+        ->editor()
+        .setAccessibleName(QStringLiteral("Adresse, zweite Zeile"));
     addField(responsible, QStringLiteral("PLZ"), header.postalCode);
     addField(responsible, QStringLiteral("Ort"), header.city);
 
@@ -76,7 +78,7 @@ void EDIExportSheet::addPoints() {
     for (const auto& [pointsMode, label] : pointsModes) {
         mode->addItem(label, static_cast<int>(pointsMode));
     }
-    auto* field = addField(points, QStringLiteral("ADIF-Feld"), header.pointsField);
+    BoundedLine* field = addField(points, QStringLiteral("ADIF-Feld"), header.pointsField);
     const auto offerField = [this, points, field] {
         points->setRowVisible(field, header.pointsMode == EDIPointsMode::adifField);
     };
@@ -92,7 +94,7 @@ bool EDIExportSheet::isComplete() const {
            !tallyrig::text::trimmedOfBlanks(header.locator).empty();
 }
 
-void EDIExportSheet::exportLog() {
+void EDIExportSheet::act() {
     store.exportEDI(header);
 }
 

@@ -15,7 +15,7 @@ class EDIExportSheet : public ExportSheet {
 
   protected:
     bool isComplete() const override;
-    void exportLog() override;
+    void act() override;
 
   private:
     void addPoints();

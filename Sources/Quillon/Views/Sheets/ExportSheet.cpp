@@ -1,32 +1,33 @@
 #include "Quillon/Views/Sheets/ExportSheet.h"
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
-#include <limits>
+#include <algorithm>
 
 namespace quillon {
 
 namespace {
 
-constexpr QSize sheetSize(560, 620);
-constexpr int smallestWidthPx = 440;
+constexpr QSize ordinarySize(560, 620);
 constexpr int longFieldLines = 3;
 
-/// Labels begin at the same place in all sections, so that the form reads as one.
-constexpr int labelWidthPx = 190;
+/// No line of a header that anybody reads is longer. In UTF-16 units, or bytes of what the log suggests.
+constexpr int longestLine = 1'000;
+constexpr int longestText = 20'000;
 
 /// What was typed, character by character: `toPlainText` makes a blank of a no-break space.
 QString typedText(const QTextDocument& document) {
@@ -38,21 +39,11 @@ QString typedText(const QTextDocument& document) {
 }  // namespace
 
 ExportSheet::ExportSheet(LogStore& logStore, const QString& title, QWidget* parent)
-    : QDialog(parent),
+    : Sheet(title, QStringLiteral("Exportieren …"), parent),
       store(logStore),
       form(new QWidget(this)),
       sections(new QVBoxLayout(form)),
       area(new QScrollArea(this)) {
-    setWindowTitle(title);
-    resize(sheetSize);
-    setMinimumWidth(smallestWidthPx);
-
-    auto* heading = new QLabel(title, this);
-    QFont headingFont = heading->font();
-    headingFont.setBold(true);
-    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.2);
-    heading->setFont(headingFont);
-
     sections->setContentsMargins(0, 0, 12, 0);
     sections->setSpacing(16);
     area->setFrameShape(QFrame::NoFrame);
@@ -60,32 +51,8 @@ ExportSheet::ExportSheet(LogStore& logStore, const QString& title, QWidget* pare
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(form);
-
-    auto* count =
-        new QLabel(QString::number(store.document().records().size()) + QStringLiteral(" QSOs"), this);
-    count->setForegroundRole(QPalette::PlaceholderText);
-    auto* cancelButton = new QPushButton(QStringLiteral("Abbrechen"), this);
-    cancelButton->setAutoDefault(false);
-    exportButton = new QPushButton(QStringLiteral("Exportieren …"), this);
-    exportButton->setDefault(true);
-    auto* bottom = new QHBoxLayout;
-    bottom->addWidget(count);
-    bottom->addStretch(1);
-    bottom->addWidget(cancelButton);
-    bottom->addWidget(exportButton);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(18, 18, 18, 18);
-    layout->setSpacing(12);
-    layout->addWidget(heading);
-    layout->addWidget(area, 1);
-    layout->addLayout(bottom);
-
-    connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-    connect(exportButton, &QPushButton::clicked, this, [this] {
-        exportLog();
-        accept();
-    });
+    content()->addWidget(area, 1);
+    setRemark(numberText(store.document().records().size()) + QStringLiteral(" QSOs"));
 }
 
 QFormLayout* ExportSheet::addSection(const QString& heading) {
@@ -104,17 +71,17 @@ QFormLayout* ExportSheet::addSection(const QString& heading) {
 
 void ExportSheet::addControl(QFormLayout* section, const QString& label, QWidget* control) {
     auto* text = new QLabel(label, form);
-    text->setMinimumWidth(labelWidthPx);
-    text->setBuddy(control);
-    control->setAccessibleName(label);
+    nameBy(*text, *control);
     section->addRow(text, control);
+    labels.append(text);
 }
 
-QLineEdit* ExportSheet::addField(QFormLayout* section, const QString& label, std::string& text) {
-    auto* field = new QLineEdit(form);
-    field->setMaxLength(std::numeric_limits<int>::max());
-    field->setText(toQString(text));
-    connect(field, &QLineEdit::textChanged, this, [this, &text](const QString& typed) {
+BoundedLine* ExportSheet::addField(QFormLayout* section, const QString& label, std::string& text) {
+    auto* field = new BoundedLine(longestLine, form);
+    field->setText(text);
+    // What is not shown is not exported either.
+    text = cutToShow(text, longestLine);
+    connect(&field->editor(), &QLineEdit::textChanged, this, [this, &text](const QString& typed) {
         text = typed.toStdString();
         refresh();
     });
@@ -125,15 +92,12 @@ QLineEdit* ExportSheet::addField(QFormLayout* section, const QString& label, std
     return field;
 }
 
-QPlainTextEdit* ExportSheet::addLongField(QFormLayout* section, const QString& label, std::string& text) {
-    auto* field = new QPlainTextEdit(toQString(text), form);
-    field->setTabChangesFocus(true);
-    const int margins = 2 * (field->frameWidth() + static_cast<int>(field->document()->documentMargin()));
-    field->setFixedHeight(longFieldLines * field->fontMetrics().lineSpacing() + margins);
-    connect(field, &QPlainTextEdit::textChanged, this,
-            [field, &text] { text = typedText(*field->document()).toStdString(); });
+void ExportSheet::addLongField(QFormLayout* section, const QString& label, std::string& text) {
+    auto* field = new BoundedText(longestText, longFieldLines, form);
+    const QPlainTextEdit& editor = field->editor();
+    connect(&editor, &QPlainTextEdit::textChanged, this,
+            [&editor, &text] { text = typedText(*editor.document()).toStdString(); });
     addControl(section, label, field);
-    return field;
 }
 
 QComboBox* ExportSheet::addPicker(QFormLayout* section, const QString& label) {
@@ -155,8 +119,21 @@ void ExportSheet::addChoice(QFormLayout* section, const QString& label, const QS
 
 void ExportSheet::start() {
     sections->addStretch(1);
+    // The fields begin at the same place in all sections, so that the form reads as one.
+    int widest = 0;
+    for (const QLabel* label : labels) {
+        widest = std::max(widest, label->sizeHint().width());
+    }
+    for (QLabel* label : labels) {
+        label->setMinimumWidth(widest);
+    }
+    const int letter = fontMetrics().height();
+    // The frame of the window wants some of a small screen.
+    constexpr QSize frame(16, 48);
+    resize(ordinarySize.expandedTo({32 * letter, 36 * letter}).boundedTo(screen()->availableSize() - frame));
     // The form does not scroll sideways.
-    area->setMinimumWidth(form->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    area->setMinimumWidth(std::max(
+        24 * letter, form->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width()));
     if (firstField != nullptr) {
         firstField->setFocus();
     }
@@ -164,7 +141,7 @@ void ExportSheet::start() {
 }
 
 void ExportSheet::refresh() {
-    exportButton->setEnabled(isComplete());
+    setComplete(isComplete());
 }
 
 }  // namespace quillon

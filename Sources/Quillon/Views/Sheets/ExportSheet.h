@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QDialog>
+#include "Quillon/Views/Sheets/Sheet.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -8,19 +10,19 @@
 
 class QComboBox;
 class QFormLayout;
-class QLineEdit;
-class QPlainTextEdit;
-class QPushButton;
+class QLabel;
 class QScrollArea;
 class QVBoxLayout;
 
 namespace quillon {
 
+class BoundedLine;
 class LogStore;
 
 /// A sheet that collects the header of a file and then exports the log: a form in sections, the number of
-/// QSOs and the two buttons. Each control writes straight into the text it was made for.
-class ExportSheet : public QDialog {
+/// QSOs and the two buttons. Each control writes straight into the text it was made for; what a log suggests
+/// is cut to what its field holds.
+class ExportSheet : public Sheet {
     Q_OBJECT
 
   protected:
@@ -29,10 +31,9 @@ class ExportSheet : public QDialog {
 
     /// A group of labelled controls under a heading, which may be empty.
     QFormLayout* addSection(const QString& heading);
-    void addControl(QFormLayout* section, const QString& label, QWidget* control);
-    QLineEdit* addField(QFormLayout* section, const QString& label, std::string& text);
-    /// With a field of several lines; Tab leaves it.
-    QPlainTextEdit* addLongField(QFormLayout* section, const QString& label, std::string& text);
+    BoundedLine* addField(QFormLayout* section, const QString& label, std::string& text);
+    /// With a field of several lines, empty at first.
+    void addLongField(QFormLayout* section, const QString& label, std::string& text);
     /// A picker to be filled.
     QComboBox* addPicker(QFormLayout* section, const QString& label);
     /// A picker over `choices`. A text that is none of them shows as nothing chosen.
@@ -43,18 +44,18 @@ class ExportSheet : public QDialog {
 
     /// Whether the header has what the file cannot do without.
     virtual bool isComplete() const = 0;
-    virtual void exportLog() = 0;
 
     LogStore& store;
 
   private:
+    void addControl(QFormLayout* section, const QString& label, QWidget* control);
     void refresh();
 
     QWidget* form;
     QVBoxLayout* sections;
     QScrollArea* area;
-    QLineEdit* firstField = nullptr;
-    QPushButton* exportButton;
+    BoundedLine* firstField = nullptr;
+    QList<QLabel*> labels;
 };
 
 }  // namespace quillon

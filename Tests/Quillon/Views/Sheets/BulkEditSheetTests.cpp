@@ -8,11 +8,17 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
 
 #include <memory>
+#include <tuple>
 
 namespace quillon {
 namespace {
+
+using Mode = BulkEditSheet::Mode;
 
 class BulkEdit : public testing::LogStoreTest {
   protected:
@@ -20,27 +26,19 @@ class BulkEdit : public testing::LogStoreTest {
         sheet = std::make_unique<BulkEditSheet>(store, column);
         sheet->open();
     }
-    void choose(BulkEditSheet::Mode mode) {
-        sheet->findChild<QComboBox*>()->setCurrentIndex(static_cast<int>(mode));
+    void choose(Mode mode) { sheet->findChild<QComboBox*>()->setCurrentIndex(static_cast<int>(mode)); }
+    void enter(const char* field, const char* text) {
+        testing::namedChild<QLineEdit>(*sheet, field).setText(QString::fromUtf8(text));
     }
-    /// The text fields on screen, from top to bottom.
-    std::vector<QLineEdit*> inputs() const {
-        std::vector<QLineEdit*> shown;
-        for (QLineEdit* edit : sheet->findChildren<QLineEdit*>()) {
-            if (testing::isShown(*edit, *sheet)) {
-                shown.push_back(edit);
-            }
-        }
-        return shown;
-    }
-    void enter(std::size_t input, const QString& text) { inputs().at(input)->setText(text); }
-    /// Such as "1 von 3".
-    std::string affected() const {
+    /// What is said of the QSOs, and of what an empty value does to them.
+    std::string said() const {
         const std::string texts = testing::shownTexts(*sheet);
-        const std::size_t begin = texts.find("Betrifft ") + 9;
-        return texts.substr(begin, texts.find(" QSOs.", begin) - begin);
+        const std::size_t begin = texts.find("Betrifft");
+        return texts.substr(begin, texts.find("\nAktion") - begin);
     }
-    QAbstractButton& button(const QString& text) const { return *testing::shownButton(*sheet, text); }
+    QPushButton& apply() const {
+        return *static_cast<QPushButton*>(testing::shownButton(*sheet, QStringLiteral("Anwenden")));
+    }
     std::string values(std::string_view column) const {
         std::vector<std::string> texts;
         for (const tallyrig::ADIFRecord& record : store.document().records()) {
@@ -52,95 +50,92 @@ class BulkEdit : public testing::LogStoreTest {
     std::unique_ptr<BulkEditSheet> sheet;
 };
 
-TEST_F(BulkEdit, NamesColumnAndForm) {
-    struct Case {
-        const char* column;
-        const char* line;
-        const char* placeholder;
-        const char* hint;
+TEST_F(BulkEdit, TellsTheFormOfDatesAndTimes) {
+    const std::tuple<const char*, const char*, const char*> columns[] = {
+        {"QSO_DATE", "Neuer Wert (JJJJMMTT, z. B. 20240115)", "ADIF-Datumsformat: 8 Ziffern."},
+        {"TIME_OFF", "Neuer Wert (HHMM oder HHMMSS)", "ADIF-Zeitformat: 4 oder 6 Ziffern."},
+        {"QSO_DATE_OFF", "Neuer Wert (leer = Feld entfernen)", ""},
     };
-    const Case cases[] = {
-        {"QSO_DATE", "Spalte: Datum  (QSO_DATE)", "Neuer Wert (JJJJMMTT, z. B. 20240115)",
-         "ADIF-Datumsformat: 8 Ziffern."},
-        {"TIME_ON", "Spalte: Zeit (Anfang)  (TIME_ON)", "Neuer Wert (HHMM oder HHMMSS)",
-         "ADIF-Zeitformat: 4 oder 6 Ziffern."},
-        {"TIME_OFF", "Spalte: Zeit (Ende)  (TIME_OFF)", "Neuer Wert (HHMM oder HHMMSS)",
-         "ADIF-Zeitformat: 4 oder 6 Ziffern."},
-        {"QSO_DATE_OFF", "Spalte: QSO_DATE_OFF  (QSO_DATE_OFF)", "Neuer Wert (leer = Feld entfernen)",
-         nullptr},
-    };
-    for (const Case& expected : cases) {
-        SCOPED_TRACE(expected.column);
-        openSheet(expected.column);
+    for (const auto& [column, placeholder, hint] : columns) {
+        openSheet(column);
+        const auto& value = testing::namedChild<QLineEdit>(*sheet, "Neuer Wert");
+        EXPECT_EQ(value.placeholderText().toStdString(), placeholder);
         const std::string texts = testing::shownTexts(*sheet);
-        EXPECT_NE(texts.find("Massen-Änderung\n" + std::string(expected.line)), std::string::npos) << texts;
-        EXPECT_EQ(inputs().at(0)->placeholderText().toStdString(), expected.placeholder);
-        EXPECT_EQ(texts.find("ADIF-") != std::string::npos, expected.hint != nullptr) << texts;
-        EXPECT_NE(texts.find(expected.hint != nullptr ? expected.hint : "Betrifft"), std::string::npos)
-            << texts;
+        EXPECT_NE(texts.find("  (" + std::string(column) + ")"), std::string::npos) << texts;
+        EXPECT_EQ(texts.find("ADIF-") != std::string::npos, *hint != 0) << texts;
+        EXPECT_NE(texts.find(hint), std::string::npos) << texts;
     }
 }
 
-TEST_F(BulkEdit, TellsHowManyItConcerns) {
+TEST_F(BulkEdit, TellsHowManyItConcernsAndWhatAnEmptyValueDoes) {
     openLog({"CALL=DL1ABC COMMENT=tnx", "CALL=DL2ABC COMMENT=", "CALL=DL3ABC"});
     openSheet("COMMENT");
-    EXPECT_EQ(sheet->focusWidget(), inputs()[0]) << "what is typed at once is the value";
-    EXPECT_EQ(affected(), "3 von 3");
-    choose(BulkEditSheet::Mode::empty);
-    EXPECT_EQ(affected(), "2 von 3");
-    choose(BulkEditSheet::Mode::replace);
-    EXPECT_EQ(affected(), "0 von 3");
-    enter(0, QStringLiteral("n"));
-    EXPECT_EQ(affected(), "1 von 3");
-    enter(0, QStringLiteral("N"));
-    EXPECT_EQ(affected(), "0 von 3");
+    EXPECT_EQ(said(), "Betrifft 3 von 3 QSOs.\nEin leerer Wert entfernt das Feld aus 1 QSO.");
+    enter("Neuer Wert", "x");
+    EXPECT_EQ(said(), "Betrifft 3 von 3 QSOs.");
+    choose(Mode::empty);
+    EXPECT_EQ(said(), "Betrifft 2 von 3 QSOs.");
+    enter("Neuer Wert", "");
+    EXPECT_EQ(said(), "Betrifft 2 von 3 QSOs.\nEin leerer Wert ändert nichts.");
+    choose(Mode::replace);
+    EXPECT_EQ(said(), "Betrifft 0 von 3 QSOs.");
+    EXPECT_FALSE(apply().isEnabled()) << "nothing to find";
+    enter("Suchen", "n");
+    EXPECT_EQ(said(), "Betrifft 1 von 3 QSOs.");
+    EXPECT_TRUE(apply().isEnabled());
+    store.setCell(id(1), "COMMENT", "now");
+    EXPECT_EQ(said(), "Betrifft 2 von 3 QSOs.");
 }
 
-TEST_F(BulkEdit, AsksForATextToFindAndNothingElse) {
-    openLog({"CALL=DL1ABC"});
+TEST_F(BulkEdit, CountsALongLogWhenTypingPauses) {
+    openLog(std::vector<std::string>(20'001, "CALL=DL1ABC"));
     openSheet("CALL");
-    EXPECT_TRUE(button(QStringLiteral("Anwenden")).isEnabled());
-    EXPECT_TRUE(static_cast<QPushButton&>(button(QStringLiteral("Anwenden"))).isDefault());
-    choose(BulkEditSheet::Mode::replace);
-    EXPECT_EQ(inputs().size(), 2U);
-    EXPECT_FALSE(button(QStringLiteral("Anwenden")).isEnabled());
-    enter(0, QStringLiteral("x"));
-    EXPECT_TRUE(button(QStringLiteral("Anwenden")).isEnabled());
+    choose(Mode::replace);
+    QSignalSpy paused(sheet->findChild<QTimer*>(), &QTimer::timeout);
+    enter("Suchen", "D");
+    enter("Suchen", "DL");
+    EXPECT_EQ(said(), "Betrifft … von 20.001 QSOs.");
+    ASSERT_TRUE(paused.wait());
+    EXPECT_EQ(said(), "Betrifft 20.001 von 20.001 QSOs.");
+    EXPECT_EQ(paused.size(), 1);
 }
 
 TEST_F(BulkEdit, ChangesTheColumnAsChosen) {
-    struct Case {
-        BulkEditSheet::Mode mode;
-        std::vector<const char*> texts;
-        const char* result;
+    const std::tuple<Mode, const char*, const char*> changes[] = {
+        {Mode::all, "CW", "CW CW CW"},
+        {Mode::all, "", "-  -"},
+        {Mode::empty, "CW", "SSB CW CW"},
+        {Mode::replace, "L", "LLB  -"},
     };
-    const Case cases[] = {
-        {BulkEditSheet::Mode::all, {"CW"}, "CW CW CW"},
-        {BulkEditSheet::Mode::all, {""}, "-  -"},
-        {BulkEditSheet::Mode::empty, {"CW"}, "SSB CW CW"},
-        {BulkEditSheet::Mode::replace, {"S", "L"}, "LLB  -"},
-    };
-    for (const Case& change : cases) {
-        SCOPED_TRACE(change.result);
+    for (const auto& [mode, text, result] : changes) {
         openLog({"MODE=SSB", "MODE=", "CALL=DL1ABC"});
         openSheet("MODE");
-        choose(change.mode);
-        for (std::size_t input = 0; input < change.texts.size(); ++input) {
-            enter(input, QString::fromUtf8(change.texts[input]));
-        }
-        button(QStringLiteral("Anwenden")).click();
-        EXPECT_EQ(values("MODE"), change.result);
+        choose(mode);
+        enter("Suchen", "S");
+        enter(mode == Mode::replace ? "Ersetzen durch" : "Neuer Wert", text);
+        apply().click();
+        EXPECT_EQ(values("MODE"), result);
         EXPECT_FALSE(sheet->isVisible());
     }
 }
 
-TEST_F(BulkEdit, ChangesNothingWhenCancelled) {
+TEST_F(BulkEdit, TakesReturnForTheButtonInFocusAndEscapeForCancel) {
     openLog({"MODE=SSB"});
+    const QString cancel = QStringLiteral("Abbrechen");
     openSheet("MODE");
-    enter(0, QStringLiteral("CW"));
-    button(QStringLiteral("Abbrechen")).click();
-    EXPECT_EQ(values("MODE"), "SSB");
+    EXPECT_EQ(sheet->focusWidget(), &testing::namedChild<QLineEdit>(*sheet, "Neuer Wert"));
+    EXPECT_TRUE(apply().isDefault());
+    enter("Neuer Wert", "CW");
+    QTest::keyClick(testing::shownButton(*sheet, cancel), Qt::Key_Return);
     EXPECT_FALSE(sheet->isVisible());
+    openSheet("MODE");
+    QTest::keyClick(sheet->focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(sheet->isVisible());
+    EXPECT_EQ(values("MODE"), "SSB");
+    openSheet("MODE");
+    enter("Neuer Wert", "CW");
+    QTest::keyClick(sheet->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(values("MODE"), "CW");
 }
 
 }  // namespace
