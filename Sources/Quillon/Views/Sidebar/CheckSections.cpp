@@ -5,6 +5,7 @@
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
+#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
@@ -19,6 +20,8 @@
 namespace quillon {
 
 namespace {
+
+constexpr int longestVersion = 100;
 
 const QString& currentADIFVersion() {
     static const QString version = QStringLiteral("3.1.7");
@@ -65,6 +68,9 @@ SidebarSection* CheckSections::checks() {
         showBusyCursorUntilIdle();
         store.runCheck();
     });
+    const auto offerCheck = [this, run] { run->setEnabled(!store.document().records().empty()); };
+    connect(&store, &LogStore::documentChanged, run, offerCheck);
+    offerCheck();
     section->add(run);
     return section;
 }
@@ -72,13 +78,13 @@ SidebarSection* CheckSections::checks() {
 SidebarSection* CheckSections::saving() {
     auto* section = new SidebarSection(QStringLiteral("Speichern"), this);
     addSwitch(*section, QStringLiteral("ADIF-Header schreiben"), setting::writeHeaderOnSave);
-    auto* version = new QLineEdit(section);
-    version->setAcceptDrops(false);
+    auto* version = new BoundedLine(longestVersion, section);
+    version->editor().setAcceptDrops(false);
     const QString stored = settings.string(setting::adifVersion);
-    version->setText(stored.isNull() ? currentADIFVersion() : stored);
+    version->setText((stored.isNull() ? currentADIFVersion() : stored).toStdString());
     // What is written while the field is empty.
-    version->setPlaceholderText(currentADIFVersion());
-    connect(version, &QLineEdit::textEdited, this,
+    version->editor().setPlaceholderText(currentADIFVersion());
+    connect(&version->editor(), &QLineEdit::textEdited, this,
             [this](const QString& text) { settings.setValue(setting::adifVersion, text); });
     section->addLabelled(QStringLiteral("ADIF-Version"), version);
     return section;
@@ -91,7 +97,7 @@ SidebarSection* CheckSections::exporting() {
         connect(button, &QPushButton::clicked, this, run);
         section->add(button);
     };
-    add(QStringLiteral("ADIF (.adi) …"), [this] { store.saveWithPanel(); });
+    add(QStringLiteral("ADIF (.adi) …"), [this] { store.saveAsADI(); });
     add(QStringLiteral("ADX (.adx) …"), [this] { store.saveAsADX(); });
     add(QStringLiteral("Cabrillo (.cbr) …"), [this] { store.setShowCabrilloExport(true); });
     add(QStringLiteral("EDI (.edi) …"), [this] { store.setShowEDIExport(true); });

@@ -2,6 +2,7 @@
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
@@ -14,16 +15,22 @@
 
 namespace quillon {
 
+namespace {
+
+constexpr int longestName = 200;
+
+}  // namespace
+
 FieldAdder::FieldAdder(LogStore& logStore, QWidget* parent)
     : QWidget(parent),
       store(logStore),
       hint(noteLabel(QStringLiteral("Einzelnes QSO auswählen, um Felder hinzuzufügen."), this)),
       form(new QWidget(this)),
       picker(new FieldPicker(store, form)),
-      newFieldName(new QLineEdit(form)),
+      newFieldName(new BoundedLine(longestName, form)),
       addButton(new QPushButton(icon(QStringLiteral("list-add")), QString(), form)) {
-    newFieldName->setPlaceholderText(QStringLiteral("z. B. SOTA_REF"));
-    newFieldName->setAcceptDrops(false);
+    newFieldName->editor().setPlaceholderText(QStringLiteral("z. B. SOTA_REF"));
+    newFieldName->editor().setAcceptDrops(false);
     addButton->setToolTip(QStringLiteral("Feld hinzufügen"));
     addButton->setAccessibleName(QStringLiteral("Feld hinzufügen"));
 
@@ -32,13 +39,12 @@ FieldAdder::FieldAdder(LogStore& logStore, QWidget* parent)
     ownRow->setContentsMargins(0, 0, 0, 0);
     ownRow->setSpacing(6);
     ownRow->addWidget(newFieldName, 1);
-    ownRow->addWidget(addButton);
-    own->setFocusProxy(newFieldName);
+    ownRow->addWidget(addButton, 0, Qt::AlignTop);
+    own->setFocusProxy(&newFieldName->editor());
 
     auto* formSection = new SidebarSection(QString(), form);
     formSection->addLabelled(QStringLiteral("Standardfeld"), picker);
     formSection->addLabelled(QStringLiteral("Eigenes Feld"), own);
-    newFieldName->setAccessibleName(QStringLiteral("Eigenes Feld"));
     auto* formLayout = new QVBoxLayout(form);
     formLayout->setContentsMargins(0, 0, 0, 0);
     formLayout->addWidget(formSection);
@@ -51,8 +57,8 @@ FieldAdder::FieldAdder(LogStore& logStore, QWidget* parent)
     layout->addWidget(section);
 
     connect(picker, &FieldPicker::picked, this, &FieldAdder::add);
-    connect(newFieldName, &QLineEdit::returnPressed, this, &FieldAdder::addOwnField);
-    connect(newFieldName, &QLineEdit::textChanged, this,
+    connect(&newFieldName->editor(), &QLineEdit::returnPressed, this, &FieldAdder::addOwnField);
+    connect(&newFieldName->editor(), &QLineEdit::textChanged, this,
             [this](const QString& text) { addButton->setEnabled(!text.trimmed().isEmpty()); });
     connect(addButton, &QPushButton::clicked, this, &FieldAdder::addOwnField);
     connect(&store, &LogStore::selectionChanged, this, &FieldAdder::refresh);
@@ -68,7 +74,7 @@ void FieldAdder::refresh() {
 }
 
 void FieldAdder::addOwnField() {
-    const std::string typed = newFieldName->text().trimmed().toStdString();
+    const std::string typed = newFieldName->editor().text().trimmed().toStdString();
     if (typed.empty()) {
         return;
     }
@@ -78,7 +84,7 @@ void FieldAdder::addOwnField() {
         store.setErrorMessage(LogStore::invalidFieldNameMessage(typed));
         return;
     }
-    newFieldName->clear();
+    newFieldName->editor().clear();
     add(QString::fromStdString(name));
 }
 

@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
-class QLineEdit;
 class QPushButton;
 
 namespace quillon {
 
+class BoundedLine;
 class FieldPicker;
 class LogStore;
 
@@ -32,7 +32,7 @@ class FieldAdder : public QWidget {
     QWidget* hint;
     QWidget* form;
     FieldPicker* picker;
-    QLineEdit* newFieldName;
+    BoundedLine* newFieldName;
     QPushButton* addButton;
 };
 

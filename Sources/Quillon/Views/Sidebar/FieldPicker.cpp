@@ -5,9 +5,11 @@
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Validation/ADIFSpec317.h"
 
-#include <QAbstractItemView>
+#include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QLocale>
+#include <QListView>
+#include <QProxyStyle>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -51,11 +53,61 @@ std::vector<Choice> choicesFor(const tallyrig::ADIFRecord& record) {
     return choices;
 }
 
+/// The list of the picker. Qt looks for what is typed at the beginning of the entries alone, where the ADIF
+/// name is not.
+class ChoiceList : public QListView {
+  public:
+    using QListView::QListView;
+
+    void keyboardSearch(const QString& search) override {
+        constexpr qint64 longestPauseMs = 1000;
+        if (!sinceLastKey.isValid() || sinceLastKey.elapsed() > longestPauseMs) {
+            typed.clear();
+        }
+        sinceLastKey.start();
+        typed += search;
+        // Best at the beginning of the entry, else of a word in it, else anywhere.
+        for (const char* before : {"^", "[ (]", ""}) {
+            const QString pattern = QLatin1String(before) + QRegularExpression::escape(typed);
+            const QModelIndexList found = model()->match(model()->index(0, modelColumn()), Qt::DisplayRole,
+                                                         pattern, 1, Qt::MatchRegularExpression);
+            if (!found.isEmpty()) {
+                setCurrentIndex(found.constFirst());
+                return;
+            }
+        }
+    }
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        typed.clear();
+        QListView::showEvent(event);
+    }
+
+  private:
+    QString typed;
+    QElapsedTimer sinceLastKey;
+};
+
+/// Lets the list open below the picker with a scroll bar: as a menu it covers the screen from top to bottom.
+class ListStyle : public QProxyStyle {
+  public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
 }  // namespace
 
 FieldPicker::FieldPicker(const LogStore& logStore, QWidget* parent) : CalmComboBox(parent), store(logStore) {
     setPlaceholderText(QStringLiteral("Feld wählen …"));
     setMaxVisibleItems(20);
+    auto* listStyle = new ListStyle(style()->name());
+    listStyle->setParent(this);
+    setStyle(listStyle);
+    setView(new ChoiceList(this));
     connect(this, &QComboBox::activated, this, [this](int index) {
         const QString name = itemData(index).toString();
         setCurrentIndex(-1);
@@ -76,11 +128,13 @@ void FieldPicker::showPopup() {
 }
 
 void FieldPicker::keyPressEvent(QKeyEvent* event) {
-    // A combo box walks through its choices by the arrow keys while closed. Here each choice changes the log,
-    // so that the keys open the list instead.
     switch (event->key()) {
         case Qt::Key_Up:
         case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Home:
+        case Qt::Key_End:
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -88,7 +142,14 @@ void FieldPicker::keyPressEvent(QKeyEvent* event) {
             showPopup();
             return;
         default:
-            event->ignore();
+            break;
+    }
+    const bool isTyping = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::ShiftModifier;
+    if (isTyping && !event->text().isEmpty() && event->text().front().isPrint()) {
+        showPopup();
+        view()->keyboardSearch(event->text());
+    } else {
+        event->ignore();
     }
 }
 

@@ -8,7 +8,8 @@ class LogStore;
 
 /// Offers the ADIF fields that the single selected QSO does not have yet, each under its German name.
 ///
-/// The list is long: it is made when it opens.
+/// The list is long: it is made when it opens. It opens by any key that would change a choice, for here a
+/// choice changes the log; what is typed then goes to the next field in whose label or name it stands.
 class FieldPicker : public CalmComboBox {
     Q_OBJECT
 

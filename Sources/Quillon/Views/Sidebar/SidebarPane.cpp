@@ -5,7 +5,11 @@
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Sidebar/CheckSections.h"
 
+#include <QEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -39,11 +43,10 @@ SidebarPane::SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* pa
 
     auto* view = new SidebarSection(QStringLiteral("Ansicht"), content);
     modePicker = new CalmComboBox(view);
-    modePicker->setAccessibleName(QStringLiteral("Ansicht"));
     for (const OfferedMode& offered : offeredModes()) {
         modePicker->addItem(offered.label, QVariant::fromValue(static_cast<int>(offered.mode)));
     }
-    view->add(modePicker);
+    view->addUnderHeading(modePicker);
     column->addWidget(view);
     column->addStretch(1);
 
@@ -51,6 +54,19 @@ SidebarPane::SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* pa
             [this](int index) { store.setMode(static_cast<AppMode>(modePicker->itemData(index).toInt())); });
     connect(&store, &LogStore::modeChanged, this, &SidebarPane::showMode);
     showMode();
+}
+
+bool SidebarPane::eventFilter(QObject* object, QEvent* event) {
+    if (object == widget() && event->type() == QEvent::LayoutRequest) {
+        makeRoom();
+    }
+    return QScrollArea::eventFilter(object, event);
+}
+
+void SidebarPane::makeRoom() {
+    const int needed =
+        widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    setMinimumWidth(std::clamp(needed, minimumWidth(), maximumWidth()));
 }
 
 void SidebarPane::showMode() {

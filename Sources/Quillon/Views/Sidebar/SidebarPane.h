@@ -13,7 +13,7 @@ class LogStore;
 class Settings;
 
 /// The left column of the window: the choice of what is worked at, and below it the controls that set that
-/// up.
+/// up. Where letters are large it asks for the width that its buttons need.
 class SidebarPane : public QScrollArea {
     Q_OBJECT
 
@@ -25,8 +25,12 @@ class SidebarPane : public QScrollArea {
     /// The user added a field to the selected QSO; it is the last of the record.
     void fieldAdded();
 
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
   private:
     void showMode();
+    void makeRoom();
 
     LogStore& store;
     Settings& settings;

@@ -1,6 +1,5 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 
-#include "Quillon/Catalogue/DuplicateCriterion.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
@@ -8,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -23,45 +23,36 @@ class Sidebar : public testing::LogStoreTest {
   protected:
     void show() { pane = std::make_unique<SidebarPane>(store, settings); }
     template <typename Control>
-    Control& named(const QString& accessibleName) const {
-        for (Control* control : pane->findChildren<Control*>()) {
-            if (control->accessibleName() == accessibleName) {
-                return *control;
-            }
-        }
-        throw std::runtime_error("no control " + accessibleName.toStdString());
+    Control& named(const char* name) const {
+        return testing::namedChild<Control>(*pane, name);
     }
+    QAbstractButton& button(const char* text) const {
+        return *testing::shownButton(*pane, QString::fromUtf8(text));
+    }
+    /// The state of the switches from top to bottom, such as "+-+".
     std::string switches() const {
-        std::string texts;
+        std::string states;
         for (const QCheckBox* box : pane->findChildren<QCheckBox*>()) {
-            texts += (box->isChecked() ? "+" : "-") + box->text().toStdString() + "\n";
+            states += box->isChecked() ? '+' : '-';
         }
-        return texts;
+        return states;
     }
 
     std::unique_ptr<SidebarPane> pane;
 };
 
 TEST_F(Sidebar, ShowsTheSettingsAsTheyAre) {
-    show();
-    EXPECT_EQ(switches(),
-              "+Pflichtfelder\n+Formate (Datum, Band, Locator …)\n+Unbekannte Felder melden\n+Dubletten\n"
-              "+ADIF-Header schreiben\n");
-    EXPECT_EQ(named<QLineEdit>(QStringLiteral("ADIF-Version")).text(), QStringLiteral("3.1.7"));
-    EXPECT_EQ(named<QComboBox>(QStringLiteral("Dublette =")).currentText(),
-              QStringLiteral("Call + Band + Modus"));
-
+    const auto shown = [&] {
+        show();
+        return switches() + " " + named<QLineEdit>("ADIF-Version").text().toStdString() + " " +
+               named<QComboBox>("Dublette =").currentText().toStdString();
+    };
+    EXPECT_EQ(shown(), "+++++ 3.1.7 Call + Band + Modus");
     settings.setValue(setting::checkFormat, false);
     settings.setValue(setting::checkDuplicates, QStringLiteral("no boolean"));
-    settings.setValue(setting::writeHeaderOnSave, false);
     settings.setValue(setting::adifVersion, QStringLiteral("3.1.4"));
     settings.setValue(setting::duplicateCriterion, QStringLiteral("call"));
-    show();
-    EXPECT_EQ(switches(),
-              "+Pflichtfelder\n-Formate (Datum, Band, Locator …)\n+Unbekannte Felder melden\n+Dubletten\n"
-              "-ADIF-Header schreiben\n");
-    EXPECT_EQ(named<QLineEdit>(QStringLiteral("ADIF-Version")).text(), QStringLiteral("3.1.4"));
-    EXPECT_EQ(named<QComboBox>(QStringLiteral("Dublette =")).currentText(), QStringLiteral("Nur Call"));
+    EXPECT_EQ(shown(), "+-+++ 3.1.4 Nur Call");
 }
 
 TEST_F(Sidebar, WritesEachSettingWhenItChanges) {
@@ -77,38 +68,36 @@ TEST_F(Sidebar, WritesEachSettingWhenItChanges) {
         boxes[box]->click();
         EXPECT_EQ(settings.value(keys[box]), QVariant(true));
     }
-    QLineEdit& version = named<QLineEdit>(QStringLiteral("ADIF-Version"));
-    QTest::keyClick(&version, Qt::Key_Backspace);
+    QTest::keyClick(&named<QLineEdit>("ADIF-Version"), Qt::Key_Backspace);
     EXPECT_EQ(settings.value(setting::adifVersion), QVariant(QStringLiteral("3.1.")));
-    QComboBox& criterion = named<QComboBox>(QStringLiteral("Dublette ="));
-    QTest::keyClick(&criterion, Qt::Key_End);
+    QTest::keyClick(&named<QComboBox>("Dublette ="), Qt::Key_End);
     EXPECT_EQ(settings.value(setting::duplicateCriterion), QVariant(QStringLiteral("call")));
 }
 
-TEST_F(Sidebar, ChecksWithTheSettingsOfTheMoment) {
-    openLog({"CALL=DL1ABC", "CALL=DL1ABC"});
+TEST_F(Sidebar, ChecksALogThatHasQSOs) {
     show();
-    testing::shownButton(*pane, QStringLiteral("Jetzt prüfen"))->click();
+    EXPECT_FALSE(button("Jetzt prüfen").isEnabled());
+    openLog({"CALL=DL1ABC", "CALL=DL1ABC"});
+    button("Jetzt prüfen").click();
     EXPECT_EQ(store.errorCount(), 8U);
-    EXPECT_EQ(store.warningCount(), 0U);
     pane->findChildren<QCheckBox*>()[0]->click();
-    QTest::keyClick(&named<QComboBox>(QStringLiteral("Dublette =")), Qt::Key_End);
-    testing::shownButton(*pane, QStringLiteral("Jetzt prüfen"))->click();
-    EXPECT_EQ(store.errorCount(), 0U);
-    EXPECT_EQ(store.warningCount(), 2U);
+    button("Jetzt prüfen").click();
+    EXPECT_EQ(store.errorCount(), 0U) << "by the settings of the moment";
 }
 
 TEST_F(Sidebar, OffersToAddFieldsToASingleRecordOnly) {
     openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
     show();
-    const std::string hint = "Einzelnes QSO auswählen, um Felder hinzuzufügen.";
-    EXPECT_NE(testing::shownTexts(*pane).find(hint), std::string::npos);
-    EXPECT_EQ(testing::shownChild<FieldPicker>(*pane), nullptr);
+    const auto offered = [&] {
+        const bool hint = testing::shownTexts(*pane).find("Einzelnes QSO auswählen") != std::string::npos;
+        EXPECT_NE(hint, testing::shownChild<FieldPicker>(*pane) != nullptr);
+        return !hint;
+    };
+    EXPECT_FALSE(offered());
     select({0, 1});
-    EXPECT_EQ(testing::shownChild<FieldPicker>(*pane), nullptr);
+    EXPECT_FALSE(offered());
     select({1});
-    EXPECT_EQ(testing::shownTexts(*pane).find(hint), std::string::npos);
-    EXPECT_NE(testing::shownChild<FieldPicker>(*pane), nullptr);
+    EXPECT_TRUE(offered());
 }
 
 TEST_F(Sidebar, AddsAFieldOfTheUsersOwn) {
@@ -116,41 +105,45 @@ TEST_F(Sidebar, AddsAFieldOfTheUsersOwn) {
     select({0});
     show();
     const QSignalSpy added(pane.get(), &SidebarPane::fieldAdded);
-    QLineEdit& name = named<QLineEdit>(QStringLiteral("Eigenes Feld"));
+    auto& name = named<QLineEdit>("Eigenes Feld");
     name.setText(QStringLiteral(" sota_ref "));
     QTest::keyClick(&name, Qt::Key_Return);
-    EXPECT_EQ(cell(0, "SOTA_REF"), "");
-    EXPECT_EQ(name.text(), QString());
+    EXPECT_EQ(cell(0, "SOTA_REF") + name.text().toStdString(), "");
     EXPECT_EQ(added.size(), 1);
 
     name.setText(QStringLiteral("mein Feld"));
-    testing::shownButton(*pane, QStringLiteral("Feld hinzufügen"))->click();
-    EXPECT_EQ(store.document().records()[0].fields().size(), 2U);
+    button("Feld hinzufügen").click();
+    EXPECT_EQ(added.size(), 1);
     EXPECT_EQ(error().substr(0, error().find('\n')), "«mein Feld» ist kein gültiger ADIF-Feldname.");
     EXPECT_EQ(name.text(), QStringLiteral("mein Feld"));
 }
 
-TEST_F(Sidebar, AddsAFieldOfADIF) {
+TEST_F(Sidebar, FindsAFieldOfADIFByTypingItsNameOrLabel) {
     openLog({"CALL=DL1ABC"});
     select({0});
     show();
-    auto* picker = testing::shownChild<FieldPicker>(*pane);
-    picker->showPopup();
-    EXPECT_EQ(picker->findData(QStringLiteral("CALL")), -1) << "the record has it already";
-    EXPECT_EQ(picker->findData(QStringLiteral("ADIF_VER")), -1) << "no QSO has it";
-    const int band = picker->findData(QStringLiteral("BAND"));
-    EXPECT_EQ(picker->itemText(band), QStringLiteral("Band (BAND)"));
-    picker->hidePopup();
-    emit picker->activated(band);
-    EXPECT_EQ(cell(0, "BAND"), "");
-    EXPECT_EQ(columns(), "CALL BAND");
+    auto& picker = named<FieldPicker>("Standardfeld");
+    QTest::keyClick(&picker, Qt::Key_Down);
+    EXPECT_EQ(picker.findData(QStringLiteral("CALL")), -1) << "the record has it already";
+    EXPECT_EQ(picker.findData(QStringLiteral("ADIF_VER")), -1) << "no QSO has it";
+    EXPECT_EQ(columns(), "CALL") << "to open the list changes nothing";
+    picker.hidePopup();
+    for (const char* typed : {"tx_pwr", "freq", "locator"}) {
+        QTest::keyClick(&picker, typed[0]);
+        for (const char* rest = typed + 1; *rest != 0; ++rest) {
+            QTest::keyClick(picker.view(), *rest);
+        }
+        QTest::keyClick(picker.view(), Qt::Key_Return);
+    }
+    EXPECT_EQ(columns(), "CALL TX_PWR FREQ GRIDSQUARE");
 }
 
-TEST_F(Sidebar, ExportsAsADIF) {
-    openLog({"CALL=DL1ABC"});
+TEST_F(Sidebar, ProposesTheExtensionOfTheExport) {
+    store.open(folder.write(QStringLiteral("contest.cbr"), testing::adi({"CALL=DL1ABC"})));
     show();
     panels.answers = {folder.path(QStringLiteral("copy.adi"))};
-    testing::shownButton(*pane, QStringLiteral("ADIF (.adi) …"))->click();
+    button("ADIF (.adi) …").click();
+    EXPECT_EQ(panels.proposedNames.last(), QStringLiteral("contest.adi"));
     EXPECT_EQ(title(), "copy.adi");
 }
 
