@@ -80,7 +80,8 @@ std::string labels(const std::vector<std::string>& names) {
     return fmt::format("{}", fmt::join(texts, ", "));
 }
 
-/// The message for each kind. That some name the field and others do not is how they have always read.
+/// The message for each kind. Those about dates, locators and references leave the field out on purpose: the
+/// value tells which it is.
 struct Message {
     std::string operator()(const finding::MissingRequiredField& kind) const {
         return fmt::format("Pflichtfeld fehlt: {}", label(kind.field));

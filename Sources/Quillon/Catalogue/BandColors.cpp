@@ -27,8 +27,8 @@ constexpr ModeColor fixedModes[] = {
     {"DIGITAL", SystemColor::gray}, {"DATA", SystemColor::gray},
 };
 
-/// A hue from the bytes of a text. In the manner of FNV-1a, but from a start value of its own, by which the
-/// colours that users know have always been made.
+/// A hue from the bytes of a text: FNV-1a, but with a start value of its own. Any other would give other
+/// colours to the modes that users know by theirs.
 double hueOf(std::string_view text) {
     std::uint64_t hash = 1469598103934665603U;
     for (const char c : text) {
