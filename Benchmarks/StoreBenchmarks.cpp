@@ -79,6 +79,22 @@ BENCHMARK(editingACell)
     ->Iterations(100)
     ->Unit(benchmark::kMicrosecond);
 
+/// A step back behind a check that found something in every record, which forgets the findings.
+void undoingBehindACheck(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    OpenLog log(count);
+    log.log().setColumnValue("MODE", "none", tallyrig::ColumnTarget::allRecords);
+    std::size_t findings = 0;
+    for (auto _ : state) {
+        log.log().setCell(log.log().document().records()[0].id(), "COMMENT", "x");
+        log.log().runCheck();
+        findings = log.log().validationIssues().size();
+        state.SetIterationTime(secondsOf([&] { log.log().undo(); }));
+    }
+    state.counters["findings"] = static_cast<double>(findings);
+}
+BENCHMARK(undoingBehindACheck)->Arg(1'000'000)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
+
 }  // namespace
 }  // namespace quillon
 

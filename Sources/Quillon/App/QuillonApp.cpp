@@ -1,5 +1,6 @@
 #include "Quillon/App/QuillonApp.h"
 
+#include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"

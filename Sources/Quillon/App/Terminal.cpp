@@ -1,6 +1,6 @@
 #include "Quillon/App/Terminal.h"
 
-#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Platform/AppInfo.h"
 
 #include <QByteArray>
 #include <QString>

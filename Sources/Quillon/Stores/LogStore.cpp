@@ -1,8 +1,5 @@
 #include "Quillon/Stores/LogStore.h"
 
-#include "Quillon/Stores/LogStoreDisplay.h"
-#include "Quillon/Stores/LogStoreOperation.h"
-
 #include <array>
 #include <utility>
 
@@ -18,72 +15,58 @@ bool areSame(const tallyrig::ADIFDocument& left, const tallyrig::ADIFDocument& r
 
 }  // namespace
 
-LogStore::Operation::Operation(LogStore& logStore) : store(logStore) {
-    if (store.runningOperations++ == 0) {
-        before = store.state;
-    }
-}
-
-LogStore::Operation::~Operation() {
-    if (--store.runningOperations == 0) {
-        store.announceChangesSince(*before);
-    }
+std::span<const LogStore::Changes::Property> LogStore::observedProperties() {
+    static constexpr auto isOtherLog = [](const Observed& before, const Observed& now) {
+        return !areSame(before.document, now.document);
+    };
+    static const std::array properties = {
+        Changes::Property{isOtherLog, &LogStore::documentChanged},
+        Changes::Property{Changes::differ<&Observed::fileURL>, &LogStore::fileURLChanged},
+        Changes::Property{Changes::differ<&Observed::isDirty>, &LogStore::isDirtyChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
+                              return before.windowTitle() != now.windowTitle();
+                          },
+                          &LogStore::windowTitleChanged},
+        Changes::Property{Changes::differ<&Observed::canUndo, &Observed::canRedo>, &LogStore::historyChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
+                              return before.columns.names() != now.columns.names();
+                          },
+                          &LogStore::columnsChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
+                              return before.columns.widths() != now.columns.widths();
+                          },
+                          &LogStore::columnWidthsChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
+                              return before.order.sortColumn != now.order.sortColumn ||
+                                     before.order.sortAscending != now.order.sortAscending;
+                          },
+                          &LogStore::sortChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
+                              return before.order.searchText != now.order.searchText;
+                          },
+                          &LogStore::searchTextChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
+                              return isOtherLog(before, now) || before.order != now.order;
+                          },
+                          &LogStore::displayedRecordsChanged},
+        Changes::Property{Changes::differ<&Observed::selectionRevision>, &LogStore::selectionChanged},
+        Changes::Property{Changes::differ<&Observed::mode>, &LogStore::modeChanged},
+        Changes::Property{Changes::differ<&Observed::checkResults>, &LogStore::checkResultsChanged},
+        Changes::Property{Changes::differ<&Observed::showCheckResults>, &LogStore::showCheckResultsChanged},
+        Changes::Property{Changes::differ<&Observed::showCabrilloExport>,
+                          &LogStore::showCabrilloExportChanged},
+        Changes::Property{Changes::differ<&Observed::showEDIExport>, &LogStore::showEDIExportChanged},
+        Changes::Property{Changes::differ<&Observed::bulkEditColumn>, &LogStore::bulkEditColumnChanged},
+        Changes::Property{Changes::differ<&Observed::errorMessage>, &LogStore::errorMessageChanged},
+    };
+    return properties;
 }
 
 LogStore::LogStore(Settings& userSettings, Panels& userPanels, const TextMeasurer& textMeasurer,
                    QObject* parent)
-    : QObject(parent),
-      settings(userSettings),
-      panels(userPanels),
-      measurer(textMeasurer),
-      display(std::make_unique<Display>()) {
+    : QObject(parent), settings(userSettings), panels(userPanels), measurer(textMeasurer) {
     state.checkResults = std::make_shared<const CheckResults>();
-    state.columns = columnsFor(state.document);
-}
-
-LogStore::~LogStore() = default;
-
-void LogStore::announceChangesSince(const Observed& before) {
-    const Observed& now = state;
-    const bool isOtherLog = !areSame(before.document, now.document);
-    const bool isOtherSearch = before.searchText != now.searchText;
-    const bool isOtherSort = before.sortColumn != now.sortColumn || before.sortAscending != now.sortAscending;
-    const auto titleOf = [](const Observed& moment) {
-        return windowTitleFor(moment.fileURL, moment.isDirty);
-    };
-
-    struct Notice {
-        bool isDue;
-        void (LogStore::*signal)();
-    };
-    // All is decided before the first is sent: who is told may change the store again.
-    const std::array notices = {
-        Notice{isOtherLog, &LogStore::documentChanged},
-        Notice{before.fileURL != now.fileURL, &LogStore::fileURLChanged},
-        Notice{before.isDirty != now.isDirty, &LogStore::isDirtyChanged},
-        Notice{titleOf(before) != titleOf(now), &LogStore::windowTitleChanged},
-        Notice{before.canUndo != now.canUndo || before.canRedo != now.canRedo, &LogStore::historyChanged},
-        Notice{before.columns != now.columns, &LogStore::columnsChanged},
-        Notice{before.columnWidths != now.columnWidths, &LogStore::columnWidthsChanged},
-        Notice{isOtherSort, &LogStore::sortChanged},
-        Notice{isOtherSearch, &LogStore::searchTextChanged},
-        Notice{isOtherLog || isOtherSearch || isOtherSort, &LogStore::displayedRecordsChanged},
-        Notice{before.selectionRevision != now.selectionRevision ||
-                   before.selectionAnchor != now.selectionAnchor,
-               &LogStore::selectionChanged},
-        Notice{before.mode != now.mode, &LogStore::modeChanged},
-        Notice{before.checkResults != now.checkResults, &LogStore::checkResultsChanged},
-        Notice{before.showCheckResults != now.showCheckResults, &LogStore::showCheckResultsChanged},
-        Notice{before.showCabrilloExport != now.showCabrilloExport, &LogStore::showCabrilloExportChanged},
-        Notice{before.showEDIExport != now.showEDIExport, &LogStore::showEDIExportChanged},
-        Notice{before.bulkEditColumn != now.bulkEditColumn, &LogStore::bulkEditColumnChanged},
-        Notice{before.errorMessage != now.errorMessage, &LogStore::errorMessageChanged},
-    };
-    for (const Notice& notice : notices) {
-        if (notice.isDue) {
-            emit(this->*notice.signal)();
-        }
-    }
+    state.columns.setNames(ColumnLayout::namesFor(state.document));
 }
 
 void LogStore::setErrorMessage(std::optional<QString> message) {

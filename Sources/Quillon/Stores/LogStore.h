@@ -4,7 +4,14 @@
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
 #include "Quillon/Stores/AppMode.h"
+#include "Quillon/Stores/CheckResults.h"
+#include "Quillon/Stores/ColumnLayout.h"
+#include "Quillon/Stores/DisplayedRows.h"
+#include "Quillon/Stores/EditHistory.h"
 #include "Quillon/Stores/RecordChanges.h"
+#include "Quillon/Stores/RowSelection.h"
+#include "Quillon/Stores/StoreState.h"
+#include "Quillon/Stores/TextBinding.h"
 #include "Tallyrig/Formats/CabrilloHeader.h"
 #include "Tallyrig/Formats/EDIHeader.h"
 #include "Tallyrig/Log/ADIFDocument.h"
@@ -18,35 +25,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace quillon {
-
-/// The version of the application as text, "dev" if it has none.
-QString appVersion();
-
-/// The kinds of files that the open and save panels offer.
-const QList<FileType>& adifContentTypes();
-
-/// A pair of read and write access to one text of the log. It may outlive the store, and then reads as empty
-/// and writes nothing.
-struct TextBinding {
-    std::function<std::string()> read;
-    std::function<void(std::string_view)> write;
-};
-
-/// The keys held down at a click on a row.
-struct ClickModifiers {
-    bool command = false;  ///< Takes the row in or out of the selection.
-    bool shift = false;    ///< Selects from the anchor to the row.
-};
 
 /// The one log that is open, the file behind it, and all state of the table, the undo history and the check
 /// results.
@@ -58,14 +44,12 @@ class LogStore : public QObject {
     Q_OBJECT
 
   public:
-    using Columns = std::vector<std::string>;
-    using Selection = std::unordered_set<tallyrig::UUID>;
-    using Severities = std::unordered_map<tallyrig::UUID, tallyrig::ValidationSeverity>;
+    using Columns = ColumnLayout::Names;
+    using Selection = RowSelection::IDs;
 
     /// The three outlive the store.
     LogStore(Settings& userSettings, Panels& userPanels, const TextMeasurer& textMeasurer,
              QObject* parent = nullptr);
-    ~LogStore() override;
 
     // The log and its file.
     const tallyrig::ADIFDocument& document() const { return state.document; }
@@ -76,7 +60,7 @@ class LogStore : public QObject {
     /// What the user must be told; absent once it was.
     const std::optional<QString>& errorMessage() const { return state.errorMessage; }
     void setErrorMessage(std::optional<QString> message);
-    QString windowTitle() const;
+    QString windowTitle() const { return state.windowTitle(); }
 
     void newLog();
     /// Reads the file at `path`; on failure only `errorMessage` changes.
@@ -149,38 +133,58 @@ class LogStore : public QObject {
     /// Replaces every occurrence of `find`, to the letter; an empty one does nothing.
     void replaceInColumn(std::string_view column, std::string_view find, std::string_view replacement);
 
-    // Columns.
-    const Columns& columns() const { return state.columns; }
-    bool columnExists(std::string_view name) const;
+    // Columns. Names may be given in any case. What changes columns or log can be undone; columns alone do
+    // not make the log another than the saved one.
+    /// From left to right, in upper case, none twice. A field may have no column and a column no field.
+    const Columns& columns() const { return state.columns.names(); }
+    bool columnExists(std::string_view name) const { return state.columns.contains(name); }
     /// A name as the user typed it, made ready to be a column's: trimmed, without "<", ">" and ":", in upper
     /// case.
-    static std::string cleanedFieldName(std::string_view name);
+    static std::string cleanedFieldName(std::string_view name) { return ColumnLayout::cleanedName(name); }
     /// Whether a cleaned name begins with A to Z and holds A to Z, 0 to 9 and "_" only.
-    static bool isValidFieldName(std::string_view cleanedName);
+    static bool isValidFieldName(std::string_view cleanedName) {
+        return ColumnLayout::isValidName(cleanedName);
+    }
+    /// What to tell the user who typed a name that is none.
     static QString invalidFieldNameMessage(std::string_view name);
+    /// Appends a column of the name as typed. False, and nothing happens, if that is no valid name or there
+    /// is such a column.
     bool addColumn(std::string_view name);
+    /// Gives the column, and the first field of this name in each record, the name as typed. True if the
+    /// column is so called now, also where it was before and nothing happens; false, and nothing happens, if
+    /// there is no such column or the new name is not valid or taken.
     bool renameColumn(std::string_view old, std::string_view newName);
+    /// Inserts a copy with its data directly behind the column, named with the first free number from 2 on.
+    /// Nothing happens if there is no such column.
     void duplicateColumn(std::string_view name);
+    /// Removes the column and all fields of this name from every record. Nothing happens if there is neither.
     void removeColumn(std::string_view name);
-    /// Swaps the column with the one `offset` places further on.
+    /// Swaps the column with the one `offset` places further on. Nothing happens if there are not both.
     void moveColumnBy(std::string_view name, int offset);
+    /// Moves the column in front of `target`, to the end if there is no such column. Nothing happens if there
+    /// is no column `name`, or the two are one.
     void moveColumnBefore(std::string_view name, std::string_view target);
 
-    // Widths, in logical pixels.
-    static double defaultWidth(std::string_view name);
-    double width(std::string_view name) const;
+    // Widths, in logical pixels. No part of the history.
+    /// The width of a column that was neither set nor fitted.
+    static double defaultWidth(std::string_view name) { return ColumnLayout::defaultWidth(name); }
+    double width(std::string_view name) const { return state.columns.width(name); }
+    /// At least 48 and at most 600 are taken.
     void setWidth(double width, std::string_view name);
+    /// Gives all columns, or those of `list`, the width that fits what they hold. Cost: `fittingWidths`.
     void autoFitColumns();
     void autoFitColumns(const std::vector<std::string>& list);
     double fittingWidth(std::string_view name) const;
 
     // Sorting and search.
-    const std::optional<std::string>& sortColumn() const { return state.sortColumn; }
-    bool sortAscending() const { return state.sortAscending; }
+    /// In upper case; absent for the order of the log.
+    const std::optional<std::string>& sortColumn() const { return state.order.sortColumn; }
+    bool sortAscending() const { return state.order.sortAscending; }
+    /// Sorts by the column, ascending at first and the other way round if it is the sort column already.
     void toggleSort(std::string_view name);
     /// Back to document order.
     void clearSort();
-    const QString& searchText() const { return state.searchText; }
+    QString searchText() const { return QString::fromStdString(state.order.searchText); }
     void setSearchText(const QString& text);
     /// The number of records that the search leaves. Cost: nothing unless log or search changed since the
     /// last call.
@@ -188,22 +192,28 @@ class LogStore : public QObject {
     /// The records on screen in their order. Cost: as `filteredCount`, and a sort where the sort column's
     /// values may have changed.
     std::size_t displayedCount() const;
-    /// The record in row `row`, below `displayedCount()`.
+    /// The record in row `row`, below `displayedCount()`. Good until the log is edited or replaced.
     const tallyrig::ADIFRecord& displayedRecord(std::size_t row) const;
-    /// The position in the document of the record in row `row`.
+    /// The position in the document of the record in row `row`, below `displayedCount()`.
     std::size_t displayedIndex(std::size_t row) const;
     /// The row in which the record stands, absent if the search hides it or it does not exist. Cost: a scan
     /// of the rows while a search or a sort is in force.
     std::optional<std::size_t> displayedRow(tallyrig::UUID id) const;
+    /// The first row in which one of these records stands, absent if none is displayed. Cost: a scan of the
+    /// rows.
+    std::optional<std::size_t> firstDisplayedRow(const std::vector<tallyrig::UUID>& ids) const;
 
     // Selection.
-    const Selection& selection() const { return state.selection; }
-    const std::optional<tallyrig::UUID>& selectionAnchor() const { return state.selectionAnchor; }
+    /// All in the log. Good until the selection changes.
+    const Selection& selection() const { return rowSelection.ids(); }
+    /// From where a range is selected.
+    const std::optional<tallyrig::UUID>& selectionAnchor() const { return rowSelection.anchor(); }
     void setSelection(Selection selection, std::optional<tallyrig::UUID> anchor);
     /// The position of the record in the document.
     std::optional<std::size_t> indexOf(tallyrig::UUID id) const {
         return state.document.records().indexOf(id);
     }
+    /// What a click on the record's row does (`RowSelection::click`).
     void selectRow(tallyrig::UUID id, ClickModifiers modifiers);
     /// Selects the record at `index` of the document, if there is one.
     void selectRecord(std::size_t index);
@@ -220,19 +230,26 @@ class LogStore : public QObject {
     // Checks and modes.
     AppMode mode() const { return state.mode; }
     void setMode(AppMode mode);
+    /// Checks the log as the user set it up and shows the findings.
     void runCheck();
-    /// The findings of the last check, by record and errors first.
+    /// The findings of the last check, by record and errors first. Good until the next check, or until they
+    /// are forgotten.
     const std::vector<tallyrig::ValidationIssue>& validationIssues() const {
-        return state.checkResults->issues;
+        return state.checkResults->issues();
     }
-    /// The worst severity of each record with findings.
-    const Severities& recordSeverities() const { return state.checkResults->severities; }
+    /// Whether a record has findings.
+    bool hasRecordSeverities() const { return state.checkResults->marksRecords(); }
+    /// The worst severity of the record's findings; absent without any. Cost: two binary searches.
+    std::optional<tallyrig::ValidationSeverity> recordSeverity(tallyrig::UUID id) const {
+        return state.checkResults->severity(id);
+    }
     /// The German messages about the record in the order of its findings; empty without any. Made when asked
-    /// for: the messages about a large group of duplicates name each other and would not fit into memory
-    /// together.
-    std::vector<std::string> recordIssueMessages(tallyrig::UUID id) const;
-    std::size_t errorCount() const { return state.checkResults->errorCount; }
-    std::size_t warningCount() const { return state.checkResults->issues.size() - errorCount(); }
+    /// for.
+    std::vector<std::string> recordIssueMessages(tallyrig::UUID id) const {
+        return state.checkResults->messages(id);
+    }
+    std::size_t errorCount() const { return state.checkResults->errorCount(); }
+    std::size_t warningCount() const { return state.checkResults->warningCount(); }
     bool showCheckResults() const { return state.showCheckResults; }
     void setShowCheckResults(bool show);
 
@@ -269,92 +286,65 @@ class LogStore : public QObject {
     void exported(const QString& path);
 
   private:
-    /// What undo restores.
-    struct EditSnapshot {
-        tallyrig::ADIFDocument document;
-        Columns columns;
-        bool isDirty = false;
-    };
-    /// What a check found, made in one piece.
-    struct CheckResults {
-        std::vector<tallyrig::ValidationIssue> issues;
-        Severities severities;
-        std::size_t errorCount = 0;
-        tallyrig::ADIFRecordList records;  ///< As they were checked: the positions in `issues` refer to them.
-    };
     /// What has a change signal and is cheap to copy and to compare.
     struct Observed {
         tallyrig::ADIFDocument document;
         std::optional<QString> fileURL;
         bool isDirty = false;
-        QString searchText;
         std::optional<QString> errorMessage;
         AppMode mode = AppMode::check;
         std::shared_ptr<const CheckResults> checkResults;  ///< Never null.
         bool showCheckResults = false;
-        Columns columns;
-        std::map<std::string, double, std::less<>> columnWidths;  ///< By canonical key of the name.
-        std::optional<std::string> sortColumn;
-        bool sortAscending = true;
+        ColumnLayout columns;
+        RowOrder order;
         bool showCabrilloExport = false;
         bool showEDIExport = false;
         std::optional<std::string> bulkEditColumn;
-        std::optional<tallyrig::UUID> selectionAnchor;
-        std::uint64_t selectionRevision = 0;  ///< Another one for each change of the selection.
+        std::uint64_t selectionRevision = 0;
         bool canUndo = false;
         bool canRedo = false;
-    };
-    struct State : Observed {
-        Selection selection;
-        std::vector<EditSnapshot> undoStack;
-        std::vector<EditSnapshot> redoStack;
-        std::optional<std::string> coalesceKey;
-        /// The stack on top of which lies the state before the latest step; null if an edit came after it.
-        const std::vector<EditSnapshot>* beforeStep = nullptr;
-    };
-    class Operation;
-    class Display;
 
-    void announceChangesSince(const Observed& before);
+        QString windowTitle() const;
+    };
+    using Changes = StoreState<LogStore, Observed>;
+    /// Brackets what changes `state`.
+    class Operation : public Changes::Operation {
+      public:
+        explicit Operation(LogStore& store) : Changes::Operation(store.changes) {}
+    };
 
-    static QString windowTitleFor(const std::optional<QString>& fileURL, bool isDirty);
+    static std::span<const Changes::Property> observedProperties();
+
     void showLog(tallyrig::ADIFDocument document, std::optional<QString> path);
     void write(const QString& path);
     /// `fileURL` without its extension, or "Logbuch", with this one.
     QString proposedName(const QString& extension) const;
     void exportText(const std::string& text, const FileType& type, const QString& failurePrefix);
 
-    EditSnapshot currentSnapshot() const;
-    /// Enters a snapshot, taken before the change, in the history.
-    void commitUndo(EditSnapshot snapshot, std::optional<std::string> coalescingKey = std::nullopt);
-    /// The same with the present state, unless the latest step is of the same key: keystrokes make one step.
-    void commitTyping(std::string key);
-    void step(std::vector<EditSnapshot>& from, std::vector<EditSnapshot>& to);
-    void apply(EditSnapshot snapshot);
-    void resetHistory();
+    EditHistory::Snapshot currentSnapshot() const;
+    /// Enters the state before an edit in the history. To be called after the edit: one that fails for want
+    /// of memory then leaves no step behind.
+    void commitUndo(EditHistory::Snapshot before, std::optional<std::string> coalescingKey = std::nullopt);
+    void showStep(std::optional<EditHistory::Snapshot> snapshot);
     void noteHistory();
-
-    void commitBulkEdit(EditSnapshot before, std::size_t changedRecords);
-
-    /// The columns in which to show this log.
-    static Columns columnsFor(const tallyrig::ADIFDocument& document);
-    std::vector<double> fittingWidths(const std::vector<std::string>& names) const;
-    Columns::iterator findColumn(std::string_view upperName);
+    void editRecord(std::size_t index, const std::function<void(tallyrig::ADIFRecord&)>& change,
+                    std::optional<std::string> coalescingKey = std::nullopt);
+    void finishBulkEdit(EditHistory::Snapshot before, std::size_t changedRecords);
 
     void changeSelection(Selection selection);
-    void reduceSelectionToDocument();
-    Selection idsInRows(std::size_t first, std::size_t end) const;
+    void noteSelection();
+    RowsOnScreen rowsOnScreen() const { return rows.displayed(state.document.records(), state.order); }
 
-    void applyIssues(std::vector<tallyrig::ValidationIssue> issues);
-    void setCheckResults(CheckResults results);
     void clearCheckResults();
 
     Settings& settings;
     Panels& panels;
     const TextMeasurer& measurer;
-    State state;
-    int runningOperations = 0;
-    std::unique_ptr<Display> display;
+    Observed state;
+    Changes changes{*this, state, observedProperties()};
+    EditHistory history;
+    RowSelection rowSelection;
+    mutable DisplayedRows rows;
 };
 
 }  // namespace quillon

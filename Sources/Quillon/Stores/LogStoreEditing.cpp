@@ -1,18 +1,14 @@
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Stores/LogStoreOperation.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFRecord.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <QPointer>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace quillon {
-
-namespace {
 
 namespace text = tallyrig::text;
 
@@ -20,81 +16,55 @@ using tallyrig::ADIFField;
 using tallyrig::ADIFRecord;
 using tallyrig::UUID;
 
-constexpr std::size_t mostUndoSteps = 100;
-
-}  // namespace
-
-LogStore::EditSnapshot LogStore::currentSnapshot() const {
-    return {state.document, state.columns, state.isDirty};
+EditHistory::Snapshot LogStore::currentSnapshot() const {
+    return {state.document, state.columns.names(), state.isDirty};
 }
 
-void LogStore::commitUndo(EditSnapshot snapshot, std::optional<std::string> coalescingKey) {
-    state.undoStack.push_back(std::move(snapshot));
-    if (state.undoStack.size() > mostUndoSteps) {
-        state.undoStack.erase(state.undoStack.begin());
-    }
-    state.redoStack.clear();
-    state.coalesceKey = std::move(coalescingKey);
-    state.beforeStep = nullptr;
-    noteHistory();
-}
-
-void LogStore::commitTyping(std::string key) {
-    if (!state.coalesceKey || !text::equal(*state.coalesceKey, key)) {
-        commitUndo(currentSnapshot(), std::move(key));
-    }
-}
-
-void LogStore::undo() {
-    step(state.undoStack, state.redoStack);
-}
-
-void LogStore::redo() {
-    step(state.redoStack, state.undoStack);
-}
-
-void LogStore::step(std::vector<EditSnapshot>& from, std::vector<EditSnapshot>& to) {
-    if (from.empty()) {
-        return;
-    }
-    const Operation operation(*this);
-    EditSnapshot snapshot = std::move(from.back());
-    from.pop_back();
-    to.push_back(currentSnapshot());
-    apply(std::move(snapshot));
-    state.coalesceKey.reset();
-    state.beforeStep = &to;
-    noteHistory();
-}
-
-RecordChanges LogStore::changesOfLastStep() const {
-    return state.beforeStep == nullptr
-               ? RecordChanges()
-               : changesBetween(state.beforeStep->back().document.records(), state.document.records());
-}
-
-void LogStore::apply(EditSnapshot snapshot) {
-    state.document = std::move(snapshot.document);
-    state.columns = std::move(snapshot.columns);
-    state.isDirty = snapshot.isDirty;
-    reduceSelectionToDocument();
-    if (state.selectionAnchor && !state.selection.contains(*state.selectionAnchor)) {
-        state.selectionAnchor.reset();
-    }
-    clearCheckResults();
-}
-
-void LogStore::resetHistory() {
-    state.undoStack.clear();
-    state.redoStack.clear();
-    state.coalesceKey.reset();
-    state.beforeStep = nullptr;
+void LogStore::commitUndo(EditHistory::Snapshot before, std::optional<std::string> coalescingKey) {
+    history.commit(std::move(before), std::move(coalescingKey));
     noteHistory();
 }
 
 void LogStore::noteHistory() {
-    state.canUndo = !state.undoStack.empty();
-    state.canRedo = !state.redoStack.empty();
+    state.canUndo = history.canUndo();
+    state.canRedo = history.canRedo();
+}
+
+void LogStore::undo() {
+    showStep(history.undo(currentSnapshot()));
+}
+
+void LogStore::redo() {
+    showStep(history.redo(currentSnapshot()));
+}
+
+void LogStore::showStep(std::optional<EditHistory::Snapshot> snapshot) {
+    if (!snapshot) {
+        return;
+    }
+    const Operation operation(*this);
+    state.document = std::move(snapshot->document);
+    state.columns.setNames(std::move(snapshot->columns));
+    state.isDirty = snapshot->isDirty;
+    rowSelection.reduceTo(state.document.records());
+    noteSelection();
+    clearCheckResults();
+    noteHistory();
+}
+
+RecordChanges LogStore::changesOfLastStep() const {
+    const EditHistory::Snapshot* const before = history.beforeLatestStep();
+    return before == nullptr ? RecordChanges()
+                             : changesBetween(before->document.records(), state.document.records());
+}
+
+void LogStore::editRecord(std::size_t index, const std::function<void(ADIFRecord&)>& change,
+                          std::optional<std::string> coalescingKey) {
+    const Operation operation(*this);
+    EditHistory::Snapshot before = currentSnapshot();
+    state.document.records().modify(index, change);
+    state.isDirty = true;
+    commitUndo(std::move(before), std::move(coalescingKey));
 }
 
 std::string_view LogStore::cell(UUID recordID, std::string_view column) const {
@@ -107,12 +77,10 @@ void LogStore::setCell(UUID recordID, std::string_view column, std::string_view 
     if (!index || text::equal(state.document.records()[*index].valueOrEmpty(column), value)) {
         return;
     }
-    const Operation operation(*this);
-    commitTyping("cell:" + recordID.text() + ":" + text::upper(column));
-    state.document.records().modify(*index, [&](ADIFRecord& record) {
-        record.set(column, value.empty() ? std::nullopt : std::optional(value));
-    });
-    state.isDirty = true;
+    editRecord(
+        *index,
+        [&](ADIFRecord& record) { record.set(column, value.empty() ? std::nullopt : std::optional(value)); },
+        "cell:" + recordID.text() + ":" + text::upper(column));
 }
 
 TextBinding LogStore::cellBinding(UUID recordID, const std::string& column) {
@@ -142,10 +110,9 @@ void LogStore::setField(UUID recordID, std::size_t fieldIndex, std::string_view 
     if (fieldIndex >= fields.size() || text::equal(fields[fieldIndex].value, value)) {
         return;
     }
-    const Operation operation(*this);
-    commitTyping("field:" + recordID.text() + ":" + std::to_string(fieldIndex));
-    state.document.records().modify(*index, [&](ADIFRecord& record) { record.setValue(fieldIndex, value); });
-    state.isDirty = true;
+    editRecord(
+        *index, [&](ADIFRecord& record) { record.setValue(fieldIndex, value); },
+        "field:" + recordID.text() + ":" + std::to_string(fieldIndex));
 }
 
 TextBinding LogStore::fieldBinding(UUID recordID, std::size_t fieldIndex) {
@@ -166,36 +133,28 @@ void LogStore::addField(UUID recordID, std::string_view name) {
         return;
     }
     const Operation operation(*this);
-    commitUndo(currentSnapshot());
-    state.document.records().modify(*index,
-                                    [&](ADIFRecord& record) { record.appendField(ADIFField(name, "")); });
-    const std::string column = cleanedFieldName(name);
-    if (!columnExists(name) && !columnExists(column)) {
-        state.columns.push_back(column);
+    editRecord(*index, [&](ADIFRecord& record) { record.appendField(ADIFField(name, "")); });
+    if (!columnExists(name)) {
+        state.columns.append(cleanedFieldName(name));
     }
-    state.isDirty = true;
 }
 
 void LogStore::removeField(UUID recordID, std::size_t fieldIndex) {
     const auto index = indexOf(recordID);
-    if (!index || fieldIndex >= state.document.records()[*index].fields().size()) {
-        return;
+    if (index && fieldIndex < state.document.records()[*index].fields().size()) {
+        editRecord(*index, [&](ADIFRecord& record) { record.removeFieldAt(fieldIndex); });
     }
-    const Operation operation(*this);
-    commitUndo(currentSnapshot());
-    state.document.records().modify(*index, [&](ADIFRecord& record) { record.removeFieldAt(fieldIndex); });
-    state.isDirty = true;
 }
 
 void LogStore::addRecord() {
     const Operation operation(*this);
-    commitUndo(currentSnapshot());
+    EditHistory::Snapshot before = currentSnapshot();
     const std::array fields = {ADIFField("CALL", "")};
     ADIFRecord record(fields);
-    changeSelection({record.id()});
+    const UUID id = record.id();
     state.document.records().append(std::move(record));
-    state.isDirty = true;
-    clearCheckResults();
+    finishBulkEdit(std::move(before), 1);
+    changeSelection({id});
 }
 
 std::size_t LogStore::pasteRecords(std::string_view adif) {
@@ -206,56 +165,51 @@ std::size_t LogStore::pasteRecords(std::string_view adif) {
         return 0;
     }
     const Operation operation(*this);
-    commitUndo(currentSnapshot());
+    EditHistory::Snapshot before = currentSnapshot();
     Selection ids;
     for (const ADIFRecord& record : pasted.records()) {
         ids.insert(record.id());
         state.document.records().append(record);
     }
-    for (const std::string& name : pasted.fieldNames()) {
-        if (!columnExists(name)) {
-            state.columns.push_back(name);
-        }
+    for (std::string& name : pasted.fieldNames()) {
+        state.columns.append(std::move(name));
     }
+    finishBulkEdit(std::move(before), pasted.records().size());
     changeSelection(std::move(ids));
-    state.isDirty = true;
-    clearCheckResults();
     return pasted.records().size();
 }
 
 void LogStore::deleteSelected() {
-    if (state.selection.empty()) {
+    if (selection().empty()) {
         return;
     }
     const Operation operation(*this);
-    commitUndo(currentSnapshot());
+    EditHistory::Snapshot before = currentSnapshot();
     state.document.records().removeIf(
-        [this](const ADIFRecord& record) { return state.selection.contains(record.id()); });
+        [this](const ADIFRecord& record) { return selection().contains(record.id()); });
+    finishBulkEdit(std::move(before), selection().size());
     changeSelection({});
-    state.isDirty = true;
-    clearCheckResults();
 }
 
 void LogStore::setColumnValue(std::string_view column, std::string_view value,
                               tallyrig::ColumnTarget target) {
     const Operation operation(*this);
-    EditSnapshot before = currentSnapshot();
-    commitBulkEdit(std::move(before), state.document.setColumn(column, value, target));
+    EditHistory::Snapshot before = currentSnapshot();
+    finishBulkEdit(std::move(before), state.document.setColumn(column, value, target));
 }
 
 void LogStore::replaceInColumn(std::string_view column, std::string_view find, std::string_view replacement) {
     const Operation operation(*this);
-    EditSnapshot before = currentSnapshot();
-    commitBulkEdit(std::move(before), state.document.replaceInColumn(column, find, replacement));
+    EditHistory::Snapshot before = currentSnapshot();
+    finishBulkEdit(std::move(before), state.document.replaceInColumn(column, find, replacement));
 }
 
-void LogStore::commitBulkEdit(EditSnapshot before, std::size_t changedRecords) {
-    if (changedRecords == 0) {
-        return;
+void LogStore::finishBulkEdit(EditHistory::Snapshot before, std::size_t changedRecords) {
+    if (changedRecords > 0) {
+        state.isDirty = true;
+        clearCheckResults();
+        commitUndo(std::move(before));
     }
-    commitUndo(std::move(before));
-    state.isDirty = true;
-    clearCheckResults();
 }
 
 }  // namespace quillon

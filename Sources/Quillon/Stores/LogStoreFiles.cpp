@@ -1,7 +1,8 @@
+#include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/Files.h"
+#include "Quillon/Platform/LogFileTypes.h"
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Stores/LogStoreOperation.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Tallyrig/Formats/ADXWriter.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
@@ -63,32 +64,9 @@ QString notOpenedMessage(const QStringList& paths) {
 
 }  // namespace
 
-QString appVersion() {
-    const QString version = QStringLiteral(QUILLON_VERSION);
-    return version.isEmpty() ? QStringLiteral("dev") : version;
-}
-
-const QList<FileType>& adifContentTypes() {
-    static const QList<FileType> types = {
-        {QStringLiteral("ADIF-Dateien"), {QStringLiteral("adi")}},
-        {QStringLiteral("ADIF-Dateien"), {QStringLiteral("adif")}},
-        {QStringLiteral("ADX-Dateien"), {QStringLiteral("adx")}},
-        {QStringLiteral("EDI-Dateien"), {QStringLiteral("edi")}},
-        {QStringLiteral("Cabrillo-Dateien"), {QStringLiteral("cbr")}},
-        {QStringLiteral("Cabrillo-Dateien"), {QStringLiteral("cabrillo")}},
-        {QStringLiteral("Log-Dateien"), {QStringLiteral("log")}},
-        {QStringLiteral("Textdateien"), {QStringLiteral("txt")}},
-    };
-    return types;
-}
-
-QString LogStore::windowTitleFor(const std::optional<QString>& fileURL, bool isDirty) {
+QString LogStore::Observed::windowTitle() const {
     const QString name = fileURL ? QFileInfo(*fileURL).fileName() : QStringLiteral("Unbenanntes Logbuch");
     return isDirty ? name + QStringLiteral(" — bearbeitet") : name;
-}
-
-QString LogStore::windowTitle() const {
-    return windowTitleFor(state.fileURL, state.isDirty);
 }
 
 void LogStore::showLog(ADIFDocument document, std::optional<QString> path) {
@@ -96,9 +74,10 @@ void LogStore::showLog(ADIFDocument document, std::optional<QString> path) {
     state.fileURL = std::move(path);
     state.isDirty = false;
     changeSelection({});
-    state.columns = columnsFor(state.document);
+    state.columns.setNames(ColumnLayout::namesFor(state.document));
     clearCheckResults();
-    resetHistory();
+    history.clear();
+    noteHistory();
 }
 
 void LogStore::newLog() {

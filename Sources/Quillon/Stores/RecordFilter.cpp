@@ -33,6 +33,27 @@ enum class ByteKind : std::uint8_t {
     unusual,  ///< Folding what begins here may give ASCII or join with the letter before.
 };
 
+/// Where the values of a record end. They lie one after the other, so that what was found may reach from one
+/// into the next.
+class ValueEnds {
+  public:
+    explicit ValueEnds(const RecordStorage& storage) : record(storage) {}
+
+    /// The end of the value in which `place` lies. Places ascend from call to call, so that all calls
+    /// together cost one walk over the fields.
+    std::size_t behind(std::size_t place) {
+        while (end <= place) {
+            end += record.value(next++).size();
+        }
+        return end;
+    }
+
+  private:
+    const RecordStorage& record;
+    std::size_t next = 0;
+    std::size_t end = 0;
+};
+
 /// Searches for text that is ASCII when folded, in values as they lie in memory.
 class PlainSearch {
   public:
@@ -49,6 +70,7 @@ class PlainSearch {
     /// Whether one of the record's values contains the text.
     Answer search(const RecordStorage& record) const {
         const std::string_view values = record.allValues();
+        ValueEnds ends(record);
         for (std::size_t at = 0; at < values.size(); ++at) {
             const ByteKind kind = kindOf(values[at]);
             if (kind == ByteKind::indifferent) {
@@ -58,7 +80,8 @@ class PlainSearch {
                 return Answer::foldToTell;
             }
             const std::size_t end = at + sought.size();
-            if (end > values.size() || !standsAt(values.data() + at) || !isInOneValue(record, at, end)) {
+            if (end > values.size() || !standsAt(values.data() + at) ||
+                (sought.size() > 1 && end > ends.behind(at))) {
                 continue;
             }
             // A mark that follows may make another letter of the last one.
@@ -85,18 +108,6 @@ class PlainSearch {
             }
         }
         return true;
-    }
-
-    /// The values lie one after the other, so that what was found may reach from one into the next.
-    static bool isInOneValue(const RecordStorage& record, std::size_t begin, std::size_t end) {
-        if (end - begin == 1) {
-            return true;
-        }
-        std::size_t valueEnd = 0;
-        for (std::size_t index = 0; valueEnd <= begin; ++index) {
-            valueEnd += record.value(index).size();
-        }
-        return end <= valueEnd;
     }
 
     std::string_view sought;

@@ -3,7 +3,6 @@
 #include <QDir>
 
 #include <filesystem>
-#include <memory>
 #include <tuple>
 
 namespace quillon {
@@ -32,26 +31,6 @@ TEST_F(OpeningLogs, ShowsTheLogAsItIs) {
     EXPECT_FALSE(store.canUndo());
     store.open(path);  // The same values, but other ids.
     EXPECT_EQ(told.sent(), "displayedRecords document");
-}
-
-TEST_F(OpeningLogs, IsToldWhenAllIsDone) {
-    openLog({"CALL=A"});
-    type(0, "CALL", "B");
-    const QString next = folder.write("next.adi", adi({"BAND=20m", "X=1"}));
-    int calls = 0;
-    const auto look = [&] {
-        ++calls;
-        EXPECT_EQ(title(), "next.adi");
-        EXPECT_EQ(columns(), "BAND X");
-        EXPECT_EQ(shown("X"), "- 1");
-        EXPECT_EQ(store.width("BAND"), 69);
-        EXPECT_FALSE(store.canUndo());
-    };
-    QObject::connect(&store, &LogStore::documentChanged, look);
-    QObject::connect(&store, &LogStore::columnsChanged, look);
-    QObject::connect(&store, &LogStore::historyChanged, look);
-    store.open(next);
-    EXPECT_EQ(calls, 3);
 }
 
 TEST_F(OpeningLogs, EndsWhatBelongedToTheOldOneOnly) {
@@ -88,12 +67,6 @@ TEST_F(OpeningLogs, KeepsTheOldOneWhereTheNewCannotBeRead) {
     EXPECT_TRUE(store.canUndo());
     store.setErrorMessage(std::nullopt);
     EXPECT_EQ(told.sent(), "errorMessage2");
-}
-
-TEST_F(OpeningLogs, GivesTheDefaultColumnsForALogWithoutFields) {
-    store.open(folder.write("empty.adi", ""));
-    EXPECT_EQ(columns(), defaultColumns);
-    EXPECT_EQ(title(), "empty.adi");
 }
 
 TEST_F(OpeningLogs, AsksInAPanelForAnyLogFile) {

@@ -16,17 +16,8 @@ class OtherFormats : public testing::LogStoreTest {
 };
 
 TEST_F(OtherFormats, AreReadByTheirContentWhateverTheirName) {
-    openText("a.adi",
-             "START-OF-LOG: 3.0\nCALLSIGN: DL1ABC\nQSO: 14074 CW 2024-01-15 1234 DL1ABC 599 1 K1XYZ 599 2\n");
+    openText("a.adi", "START-OF-LOG: 3.0\nQSO: 14074 CW 2024-01-15 1234 DL1ABC 599 1 K1XYZ 599 2\n");
     EXPECT_EQ(shown(), "K1XYZ");
-    EXPECT_EQ(cell(0, "BAND"), "20M");
-    openText("b.txt",
-             "[REG1TEST;1]\nPBand=144 MHz\n[QSORecords;1]\n240115;1234;OK1ABC;2;599;001;599;002;;JO70\n");
-    EXPECT_EQ(shown(), "OK1ABC");
-    EXPECT_EQ(cell(0, "BAND"), "2M");
-    openText("c.log",
-             "<?xml version=\"1.0\"?><ADX><RECORDS><RECORD><CALL>OE1XYZ</CALL></RECORD></RECORDS></ADX>");
-    EXPECT_EQ(shown(), "OE1XYZ");
     openText("d.cbr", "<CALL:5>HB9AB<EOR>");
     EXPECT_EQ(shown(), "HB9AB");
 }
@@ -103,14 +94,6 @@ TEST_F(OtherFormats, AFailedExportSaysSo) {
     EXPECT_TRUE(error().starts_with("Cabrillo-Export fehlgeschlagen:\n")) << error();
     store.exportEDI({});
     EXPECT_TRUE(error().starts_with("EDI-Export fehlgeschlagen:\n")) << error();
-}
-
-TEST_F(OtherFormats, ASheetIsAskedForOnce) {
-    store.setShowCabrilloExport(true);
-    store.setShowCabrilloExport(true);
-    EXPECT_EQ(told.sent(), "showCabrilloExport");
-    store.setShowEDIExport(true);
-    EXPECT_EQ(told.sent(), "showEDIExport");
 }
 
 }  // namespace

@@ -1,35 +1,19 @@
 #pragma once
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Support/LogText.h"
 #include "Quillon/Support/SignalCounter.h"
 #include "Quillon/Support/StandIns.h"
 #include "Quillon/Support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quillon::testing {
-
-/// ADI text of records written as "CALL=DL1ABC BAND=20m"; a value ends at a blank, and "_" stands for one.
-inline std::string adi(const std::vector<std::string>& records) {
-    std::string text = "\n<EOH>\n";
-    for (std::string rest : records) {
-        while (!rest.empty()) {
-            const std::string field = rest.substr(0, rest.find(' '));
-            rest.erase(0, field.size() + 1);
-            std::string value = field.substr(field.find('=') + 1);
-            std::replace(value.begin(), value.end(), '_', ' ');
-            text += "<" + field.substr(0, field.find('=')) + ":" + std::to_string(value.size()) + ">" + value;
-        }
-        text += "<EOR>\n";
-    }
-    return text;
-}
 
 /// A store whose surroundings are under control, and few words to drive it.
 class LogStoreTest : public ::testing::Test {
@@ -81,13 +65,7 @@ class LogStoreTest : public ::testing::Test {
     }
     std::string title() const { return store.windowTitle().toStdString(); }
 
-    static std::string joined(const std::vector<std::string>& texts) {
-        std::string result;
-        for (const std::string& text : texts) {
-            result += (result.empty() ? "" : " ") + text;
-        }
-        return result;
-    }
+    static std::string joined(const std::vector<std::string>& texts) { return testing::joined(texts); }
 
     TemporaryFolder folder;
     MemorySettings settings;

@@ -19,8 +19,8 @@ constexpr auto accessList = "system.posix_acl_access";
 constexpr std::array<std::string_view, 4> notCarriedOver = {accessList, "security.capability", "security.ima",
                                                             "security.evm"};
 
-/// What `read(buffer, size)` gives, a call of the system that tells the size if it is given none; absent, with `errno`
-/// set, if it fails.
+/// What `read(buffer, size)` gives, a call of the system that tells the size if it is given none; absent,
+/// with `errno` set, if it fails.
 template <typename Read>
 std::optional<std::string> valueFrom(const Read& read) {
     while (true) {
@@ -41,20 +41,19 @@ std::optional<std::string> valueFrom(const Read& read) {
 }
 
 std::optional<std::string> attribute(const std::string& path, const char* name) {
-    return valueFrom([&](char* buffer, std::size_t size) {
-        return ::getxattr(path.c_str(), name, buffer, size);
-    });
+    return valueFrom(
+        [&](char* buffer, std::size_t size) { return ::getxattr(path.c_str(), name, buffer, size); });
 }
 
 bool setAttribute(int descriptor, const char* name, const std::string& value) {
     return ::fsetxattr(descriptor, name, value.data(), value.size(), 0) == 0;
 }
 
-/// Carries over all but the access control list. False if one of them was left out by which the system may know who
-/// has what rights.
+/// Carries over all but the access control list. False if one of them was left out by which the system may
+/// know who has what rights.
 bool carryOverExtendedAttributes(const std::string& path, int descriptor) {
-    const auto names = valueFrom(
-        [&](char* buffer, std::size_t size) { return ::listxattr(path.c_str(), buffer, size); });
+    const auto names =
+        valueFrom([&](char* buffer, std::size_t size) { return ::listxattr(path.c_str(), buffer, size); });
     bool hasAllRights = true;
     // Each name ends in a zero byte.
     for (std::size_t start = 0; names && start < names->size();) {
@@ -69,8 +68,8 @@ bool carryOverExtendedAttributes(const std::string& path, int descriptor) {
     return hasAllRights;
 }
 
-/// Whether the new file has the list of the old one or, where that has none, lost the one that its folder gave
-/// it. The list speaks of the file's group, so that it is not for a file of another.
+/// Whether the new file has the list of the old one or, where that has none, lost the one that its folder
+/// gave it. The list speaks of the file's group, so that it is not for a file of another.
 bool carryOverAccessList(const std::string& path, int descriptor, bool hasOtherGroup) {
     if (const auto list = attribute(path, accessList)) {
         return !hasOtherGroup && setAttribute(descriptor, accessList, *list);

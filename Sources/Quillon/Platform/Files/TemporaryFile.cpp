@@ -27,8 +27,8 @@ Abandoned removeAbandoned(const std::string& name) {
         return Abandoned::inUse;
     }
     // Another process may have removed it before it was locked here, and the name may be that of a new one.
-    const bool isSame = ::lstat(name.c_str(), &named) == 0 && named.st_dev == locked.st_dev &&
-                        named.st_ino == locked.st_ino;
+    const bool isSame =
+        ::lstat(name.c_str(), &named) == 0 && named.st_dev == locked.st_dev && named.st_ino == locked.st_ino;
     return isSame && ::unlink(name.c_str()) == 0 ? Abandoned::removed : Abandoned::inUse;
 }
 
@@ -36,8 +36,8 @@ std::string temporaryName(const std::string& folder, int number) {
     return folder + ".quillon-" + std::to_string(number) + ".tmp";
 }
 
-/// The first name in `folder` under which `create` can make a file; empty, with `errno` set, if that fails for
-/// another reason than that the name is taken.
+/// The first name in `folder` under which `create` can make a file; empty, with `errno` set, if that fails
+/// for another reason than that the name is taken.
 template <typename Create>
 std::string takeName(const std::string& folder, const Create& create) {
     constexpr int mostNames = 1000;

@@ -82,7 +82,7 @@ void QSOTableView::refreshGeometry() {
     for (const std::string& column : store.columns()) {
         widths.push_back(store.width(column));
     }
-    const StatusGutter gutter = store.recordSeverities().empty() ? StatusGutter::hidden : StatusGutter::shown;
+    const StatusGutter gutter = store.hasRecordSeverities() ? StatusGutter::shown : StatusGutter::hidden;
     const TableGeometry geometry(widths, store.displayedCount(), gutter);
     tableScroll->setContentSize({geometry.totalWidth(), geometry.contentHeight()});
     headerRow->setTableGeometry(geometry);

@@ -70,13 +70,11 @@ TableGeometry::RowRange TableBody::builtRows() const {
 
 QSORowView TableBody::rowView(std::size_t row) const {
     const tallyrig::ADIFRecord& record = store.displayedRecord(row);
-    const auto found = store.recordSeverities().find(record.id());
-    return {
-        .record = record,
-        .columns = store.columns(),
-        .rowIndex = row,
-        .isSelected = store.selection().contains(record.id()),
-        .severity = found == store.recordSeverities().end() ? std::nullopt : std::optional(found->second)};
+    return {.record = record,
+            .columns = store.columns(),
+            .rowIndex = row,
+            .isSelected = store.selection().contains(record.id()),
+            .severity = store.recordSeverity(record.id())};
 }
 
 QRectF TableBody::cellArea(CellPosition cell) const {

@@ -1,5 +1,6 @@
 #include "Quillon/Views/Window/ContentView.h"
 
+#include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/CheckResultsView.h"

@@ -1,0 +1,42 @@
+#include "Quillon/Stores/CheckResults.h"
+
+#include "Quillon/Support/LogText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+namespace finding = tallyrig::finding;
+using tallyrig::ValidationIssue;
+using tallyrig::ValidationSeverity;
+
+TEST(CheckResults, TellTheWorstSeverityAndAllMessagesOfARecord) {
+    const auto records = testing::recordsOf({"A=1", "A=2", "A=3"});
+    const CheckResults results(records, {ValidationIssue(2, finding::UnknownBand{"20 m"}),
+                                         ValidationIssue(1, finding::UnknownMode{"X"}),
+                                         ValidationIssue(1, finding::MissingRequiredField{"CALL"}),
+                                         ValidationIssue(3, finding::MissingRequiredField{"CALL"})});
+    EXPECT_EQ(results.severity(records[0].id()), std::nullopt);
+    EXPECT_EQ(results.severity(records[1].id()), ValidationSeverity::error);
+    EXPECT_EQ(results.severity(records[2].id()), ValidationSeverity::warning);
+    EXPECT_EQ(results.severity(tallyrig::UUID::fresh()), std::nullopt);
+    EXPECT_EQ(results.messages(records[1].id()),
+              (std::vector<std::string>{"Pflichtfeld fehlt: Rufzeichen", "Unbekannter Modus: X"}));
+    EXPECT_EQ(results.messages(records[0].id()), std::vector<std::string>());
+    EXPECT_EQ(results.errorCount(), 2U);
+    EXPECT_EQ(results.warningCount(), 2U);
+    EXPECT_EQ(results.issues().back().recordIndex, 3U);
+}
+
+TEST(CheckResults, MarkNoRecordByFindingsAboutNone) {
+    const CheckResults results({}, {ValidationIssue(0, finding::UnknownBand{"x"})});
+    EXPECT_FALSE(results.marksRecords());
+    EXPECT_EQ(results.warningCount(), 1U);
+}
+
+}  // namespace
+}  // namespace quillon
