@@ -5,27 +5,11 @@
 #include "Tallyrig/Text/Pieces.h"
 #include "Tallyrig/Text/Text.h"
 
-#include <algorithm>
-
 namespace tallyrig {
 
 namespace {
 
 constexpr char separator = '\x1F';
-
-bool isASCIILetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-bool hasOnlyLetters(std::string_view value) {
-    return text::isASCII(value) ? std::ranges::all_of(value, isASCIILetter)
-                                : std::ranges::all_of(text::characters(value), text::isLetter);
-}
-
-bool hasLetter(std::string_view value) {
-    return text::isASCII(value) ? std::ranges::any_of(value, isASCIILetter)
-                                : std::ranges::any_of(text::characters(value), text::isLetter);
-}
 
 /// The word of `value` that counts, empty if it has none.
 std::string_view wordOf(std::string_view value, MultiplierToken token) {
@@ -62,8 +46,8 @@ MultiplierKey::MultiplierKey(const ContestMultiplier& source, ContestFields& fie
 
 std::string_view MultiplierKey::read(ContestFields& fields, std::string_view band, std::string_view mode) {
     std::string_view value = rawValue(fields);
-    if (value.empty() || (multiplier.alphabeticOnly && !hasOnlyLetters(value)) ||
-        (multiplier.mustContainLetter && !hasLetter(value))) {
+    if (value.empty() || (multiplier.alphabeticOnly && !text::isAllLetters(value)) ||
+        (multiplier.mustContainLetter && !text::hasLetter(value))) {
         return {};
     }
     if (multiplier.prefixLength && *multiplier.prefixLength > 0) {

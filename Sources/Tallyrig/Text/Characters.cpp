@@ -7,6 +7,7 @@
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 
@@ -64,6 +65,10 @@ UChar32 firstCodePoint(std::string_view text) {
 
 bool isASCIIDigit(char c) {
     return c >= '0' && c <= '9';
+}
+
+bool isASCIILetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
 }  // namespace
@@ -137,6 +142,24 @@ bool isAllNumeric(std::string_view text) {
     }
     forEachCluster(text, [&](std::string_view character) { numeric = numeric && isNumeric(character); });
     return numeric;
+}
+
+bool isAllLetters(std::string_view text) {
+    if (isASCII(text)) {
+        return std::ranges::all_of(text, isASCIILetter);
+    }
+    bool letters = true;
+    forEachCluster(text, [&](std::string_view character) { letters = letters && isLetter(character); });
+    return letters;
+}
+
+bool hasLetter(std::string_view text) {
+    if (isASCII(text)) {
+        return std::ranges::any_of(text, isASCIILetter);
+    }
+    bool found = false;
+    forEachCluster(text, [&](std::string_view character) { found = found || isLetter(character); });
+    return found;
 }
 
 }  // namespace tallyrig::text

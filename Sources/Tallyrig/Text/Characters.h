@@ -33,4 +33,10 @@ std::string_view lastNumeric(std::string_view text);
 /// Whether every character of `text` is numeric, which is true of empty text.
 bool isAllNumeric(std::string_view text);
 
+/// Whether every character of `text` is a letter, which is true of empty text.
+bool isAllLetters(std::string_view text);
+
+/// Whether any character of `text` is a letter.
+bool hasLetter(std::string_view text);
+
 }  // namespace tallyrig::text
