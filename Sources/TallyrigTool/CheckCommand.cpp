@@ -71,7 +71,7 @@ void addPayload(nlohmann::ordered_json& json, const ValidationKind& kind) {
             json["dataType"] = payload.dataType;
         }
         if constexpr (requires { payload.keyFields; }) {
-            json["keyFields"] = payload.keyFields;
+            json["keyFields"] = static_cast<const std::vector<std::string>&>(payload.keyFields);
         }
         if constexpr (requires { payload.otherRecordNumbers; }) {
             json["otherRecordNumbers"] = std::vector<std::size_t>(payload.otherRecordNumbers.begin(),
@@ -97,9 +97,9 @@ std::string jsonOf(const ValidationIssue& issue) {
     nlohmann::ordered_json json;
     json["recordIndex"] = issue.recordIndex;
     json["severity"] = issue.severity() == ValidationSeverity::error ? "error" : "warning";
-    json["kind"] = nameOf(issue.kind);
+    json["kind"] = nameOf(issue.kind());
     json["message"] = quillon::ADIFFieldCatalog::germanMessage(issue);
-    addPayload(json, issue.kind);
+    addPayload(json, issue.kind());
     return json.dump();
 }
 

@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         }
     }
     for (const ValidationIssue& issue : validator.issues(document)) {
-        if (std::holds_alternative<finding::Duplicate>(issue.kind)) {
+        if (std::holds_alternative<finding::Duplicate>(issue.kind())) {
             require(isDuplicate.at(issue.recordIndex), "a duplicate is told once, and is in a group");
             isDuplicate[issue.recordIndex] = false;
         }

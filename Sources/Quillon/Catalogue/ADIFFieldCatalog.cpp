@@ -152,7 +152,7 @@ std::string ADIFFieldCatalog::label(std::string_view name) {
 }
 
 std::string ADIFFieldCatalog::germanMessage(const tallyrig::ValidationIssue& issue) {
-    return std::visit(Message(), issue.kind);
+    return std::visit(Message(), issue.kind());
 }
 
 std::string ADIFFieldCatalog::displayValue(std::optional<std::string_view> value, std::string_view name) {

@@ -43,7 +43,7 @@ class ValueEnds {
     /// together cost one walk over the fields.
     std::size_t behind(std::size_t place) {
         while (end <= place) {
-            end += record.value(next++).size();
+            end += record.ownValue(next++).size();
         }
         return end;
     }
@@ -119,16 +119,17 @@ class Search {
     explicit Search(std::string_view searchText)
         : sought(folded(searchText)), isPlain(text::isASCII(sought)), plainSearch(sought) {}
 
-    bool keeps(const RecordStorage& record) { return isInNames(record) || isInValues(record); }
+    bool keeps(const RecordStorage& record) { return isInTags(record) || isInValues(record); }
 
   private:
-    bool isInNames(const RecordStorage& record) {
-        const char* const hits = namesFound.of(record.tags(), [&](const FieldTag& tag) {
-            const bool isHit = text::contains(folded(tag.name), sought);
-            isInAnyName = isInAnyName || isHit;
+    bool isInTags(const RecordStorage& record) {
+        const char* const hits = tagsFound.of(record.tags(), [&](const FieldTag& tag) {
+            const bool isHit = text::contains(folded(tag.name), sought) ||
+                               (tag.sharedValue && text::contains(folded(*tag.sharedValue), sought));
+            isInAnyTag = isInAnyTag || isHit;
             return static_cast<char>(isHit);
         });
-        if (!isInAnyName) {
+        if (!isInAnyTag) {
             return false;
         }
         for (std::size_t index = 0; index < record.fieldCount(); ++index) {
@@ -149,7 +150,7 @@ class Search {
             return false;
         }
         for (std::size_t index = 0; index < record.fieldCount(); ++index) {
-            const std::string_view value = record.value(index);
+            const std::string_view value = record.ownValue(index);
             if ((isPlain || !text::isASCII(value)) && text::contains(folded(value), sought)) {
                 return true;
             }
@@ -160,8 +161,8 @@ class Search {
     std::string sought;
     bool isPlain;
     PlainSearch plainSearch;
-    tallyrig::PerTag<char> namesFound;
-    bool isInAnyName = false;
+    tallyrig::PerTag<char> tagsFound;
+    bool isInAnyTag = false;
 };
 
 }  // namespace

@@ -192,7 +192,13 @@ std::string EDIParser::operators(std::span<const std::string_view> calls) {
 std::string EDIParser::century(std::optional<std::string_view> tDate) {
     const std::string_view dates = text::trimmedOfBlanks(tDate.value_or(std::string_view()));
     const std::string digits = numericCharacters(dates.substr(0, dates.find(';')));
-    return text::characterCount(digits) > 3 ? std::string(firstCharacters(digits, 2)) : "20";
+    if (text::characterCount(digits) <= 3) {
+        return "20";
+    }
+    // A digit may carry any number of marks, and the century goes into every date.
+    constexpr std::size_t longest = 64;
+    const std::string_view firstTwo = firstCharacters(digits, 2);
+    return firstTwo.size() <= longest ? std::string(firstTwo) : "20";
 }
 
 std::string EDIParser::adifDate(std::string_view ediDate, std::string_view century) {

@@ -34,7 +34,8 @@ struct EDIParser {
     static std::string adifBand(std::string_view ediBand);
     /// The calls in their order, trimmed and in upper case, separated by commas; empty ones are left out.
     static std::string operators(std::span<const std::string_view> calls);
-    /// The first two digits of the contest's first day, "20" where `tDate` has no year of four digits.
+    /// The first two digits of the contest's first day, "20" where `tDate` has no year of four digits or
+    /// marks on them without end.
     static std::string century(std::optional<std::string_view> tDate);
     /// The digits of "YYMMDD" with the century in front, any other number of digits as they are.
     static std::string adifDate(std::string_view ediDate, std::string_view century);

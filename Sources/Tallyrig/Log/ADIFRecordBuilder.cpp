@@ -13,12 +13,24 @@ FieldTags::Number ADIFRecordBuilder::tag(std::string_view name, std::optional<st
     return tags->add(text::upper(name), type);
 }
 
-void ADIFRecordBuilder::copyFields(std::size_t firstField, Run& run) const {
-    const std::uint32_t begin = firstField == 0 ? 0 : entries[firstField - 1].end;
-    run.values.assign(values, begin);
-    run.entries.assign(entries.begin() + static_cast<std::ptrdiff_t>(firstField), entries.end());
-    for (RecordStorage::Entry& entry : run.entries) {
-        entry.end -= begin;
+void ADIFRecordBuilder::copyFields(std::size_t firstField, Run& run) {
+    // As much as what a log usually says of all its QSOs; beyond that a few bytes of a line could stand for
+    // any number of them.
+    constexpr std::size_t longestCopy = 64;
+    run.entries.clear();
+    run.values.clear();
+    std::uint32_t begin = firstField == 0 ? 0 : entries[firstField - 1].end;
+    for (std::size_t index = firstField; index < entries.size(); ++index) {
+        const std::string_view value(values.data() + begin, entries[index].end - begin);
+        begin = entries[index].end;
+        FieldTags::Number number = entries[index].tag;
+        if (run.values.size() + value.size() <= longestCopy) {
+            run.values += value;
+        } else {
+            const FieldTag& own = (*tags)[number];
+            number = tags->add(own.name, own.type, std::make_shared<const std::string>(text::decoded(value)));
+        }
+        run.entries.push_back({number, static_cast<std::uint32_t>(run.values.size())});
     }
 }
 

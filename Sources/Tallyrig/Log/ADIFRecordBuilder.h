@@ -36,13 +36,14 @@ class ADIFRecordBuilder {
         addField(tag(name, type), value);
     }
 
-    /// Neighbouring fields that come again in other records of the same log.
+    /// Neighbouring fields that come again in other records of the same log. Long values among them are
+    /// stored once for all those records.
     struct Run {
         std::vector<RecordStorage::Entry> entries;
         std::string values;
     };
     /// Makes `run` the fields of the record at hand from the one at `firstField` on, at most `fieldCount()`.
-    void copyFields(std::size_t firstField, Run& run) const;
+    void copyFields(std::size_t firstField, Run& run);
     /// Adds all fields of a run of this builder. Cheaper than one by one.
     void addRun(const Run& run);
 

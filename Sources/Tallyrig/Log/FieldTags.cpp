@@ -2,37 +2,44 @@
 
 #include "Tallyrig/Text/Text.h"
 
+#include <functional>
+
 namespace tallyrig {
 
-namespace {
-
-/// One text for a name and a type that no other two have: the name's length in front says where it ends,
-/// whatever stands in it, and the letter behind whether there is a type.
-std::string key(std::string_view name, std::optional<std::string_view> type) {
-    std::string text = std::to_string(name.size());
-    text += type ? 't' : 'n';
-    text += name;
-    text += type.value_or(std::string_view());
-    return text;
-}
-
-}  // namespace
-
-FieldTags::FieldTags(const FieldTags& other) : tags(other.tags), numbers(other.numbers) {}
-
-FieldTags::Number FieldTags::add(std::string_view name, std::optional<std::string_view> type) {
-    const auto [found, isNew] = numbers.try_emplace(key(name, type), static_cast<Number>(tags.size()));
-    if (isNew) {
-        tags.push_back({std::string(name), type ? std::optional(std::string(*type)) : std::nullopt,
-                        text::isASCII(name)});
+FieldTags::FieldTags(const FieldTags& other) : tags(other.tags) {
+    numbers.reserve(tags.size());
+    for (std::size_t number = 0; number < tags.size(); ++number) {
+        numbers.insert(static_cast<Number>(number));
     }
-    return found->second;
 }
 
-std::optional<FieldTags::Number> FieldTags::find(std::string_view name,
-                                                 std::optional<std::string_view> type) const {
-    const auto found = numbers.find(key(name, type));
-    return found == numbers.end() ? std::nullopt : std::optional(found->second);
+FieldTags::Key FieldTags::keyOf(const FieldTag& tag) {
+    return {tag.name, tag.type ? std::optional<std::string_view>(*tag.type) : std::nullopt,
+            tag.sharedValue.get()};
+}
+
+std::size_t FieldTags::Hash::operator()(const Key& key) const {
+    const std::hash<std::string_view> hash;
+    return hash(key.name) ^ (hash(key.type.value_or("-")) * 31) ^
+           std::hash<const std::string*>()(key.sharedValue);
+}
+
+FieldTags::Number FieldTags::add(std::string_view name, std::optional<std::string_view> type,
+                                 const Value& sharedValue) {
+    if (const auto known = find(name, type, sharedValue)) {
+        return *known;
+    }
+    const auto number = static_cast<Number>(tags.size());
+    tags.push_back({std::string(name), type ? std::optional(std::string(*type)) : std::nullopt, sharedValue,
+                    text::isASCII(name)});
+    numbers.insert(number);
+    return number;
+}
+
+std::optional<FieldTags::Number> FieldTags::find(std::string_view name, std::optional<std::string_view> type,
+                                                 const Value& sharedValue) const {
+    const auto found = numbers.find(Key{name, type, sharedValue.get()});
+    return found == numbers.end() ? std::nullopt : std::optional(*found);
 }
 
 }  // namespace tallyrig

@@ -9,7 +9,7 @@ void RecordEditor::take(const ADIFRecord& record) {
     drafts.clear();
     drafts.reserve(storage.fieldCount() + 1);
     for (std::size_t index = 0; index < storage.fieldCount(); ++index) {
-        drafts.push_back({storage.tagNumber(index), storage.value(index), storage.fieldID(index)});
+        drafts.push_back({storage.tagNumber(index), storage.ownValue(index), storage.fieldID(index)});
     }
     tags = record.storage.sharedTags();
     if (tags == extended) {
@@ -17,8 +17,9 @@ void RecordEditor::take(const ADIFRecord& record) {
     }
 }
 
-FieldTags::Number RecordEditor::tag(std::string_view name, std::optional<std::string_view> type) {
-    if (const auto known = tags->find(name, type)) {
+FieldTags::Number RecordEditor::tag(std::string_view name, std::optional<std::string_view> type,
+                                    const FieldTags::Value& sharedValue) {
+    if (const auto known = tags->find(name, type, sharedValue)) {
         return *known;
     }
     if (tags != extension) {
@@ -28,7 +29,15 @@ FieldTags::Number RecordEditor::tag(std::string_view name, std::optional<std::st
         extension = std::make_shared<FieldTags>(*tags);
         tags = extension;
     }
-    return extension->add(name, type);
+    return extension->add(name, type, sharedValue);
+}
+
+void RecordEditor::giveValue(FieldDraft& draft, std::string_view value) {
+    draft.value = value;
+    const FieldTag& shared = (*tags)[draft.tag];
+    if (shared.sharedValue) {
+        draft.tag = tag(shared.name, shared.type);
+    }
 }
 
 ADIFRecord RecordEditor::laidDown(UUID id) {
@@ -38,7 +47,7 @@ ADIFRecord RecordEditor::laidDown(UUID id) {
 ADIFRecord RecordEditor::setValue(const ADIFRecord& record, const FieldName& name, std::string_view value) {
     take(record);
     if (const auto index = indexOfField(*record.storage.get(), name)) {
-        drafts[*index].value = value;
+        giveValue(drafts[*index], value);
     } else {
         drafts.push_back({tag(name.upper(), std::nullopt), value, UUID::fresh()});
     }
@@ -53,7 +62,7 @@ std::optional<ADIFRecord> RecordEditor::rename(const ADIFRecord& record, const F
     }
     take(record);
     const FieldTag& old = record.storage->tag(*index);
-    drafts[*index].tag = tag(to.upper(), old.type);
+    drafts[*index].tag = tag(to.upper(), old.type, old.sharedValue);
     return laidDown(record.id());
 }
 
@@ -65,7 +74,8 @@ std::optional<ADIFRecord> RecordEditor::duplicate(const ADIFRecord& record, cons
     }
     take(record);
     const FieldDraft source = drafts[*index];
-    const FieldDraft copy{tag(as.upper(), record.storage->tag(*index).type), source.value, UUID::fresh()};
+    const FieldTag& original = record.storage->tag(*index);
+    const FieldDraft copy{tag(as.upper(), original.type, original.sharedValue), source.value, UUID::fresh()};
     drafts.insert(drafts.begin() + static_cast<std::ptrdiff_t>(*index) + 1, copy);
     return laidDown(record.id());
 }
@@ -83,7 +93,7 @@ std::optional<ADIFRecord> RecordEditor::remove(const ADIFRecord& record, const F
 
 ADIFRecord RecordEditor::withValueAt(const ADIFRecord& record, std::size_t index, std::string_view value) {
     take(record);
-    drafts[index].value = value;
+    giveValue(drafts[index], value);
     return laidDown(record.id());
 }
 

@@ -32,7 +32,9 @@ class RecordEditor {
 
   private:
     void take(const ADIFRecord& record);
-    FieldTags::Number tag(std::string_view name, std::optional<std::string_view> type);
+    FieldTags::Number tag(std::string_view name, std::optional<std::string_view> type,
+                          const FieldTags::Value& sharedValue = {});
+    void giveValue(FieldDraft& draft, std::string_view value);
     ADIFRecord laidDown(UUID id);
 
     RecordAllocator allocator;

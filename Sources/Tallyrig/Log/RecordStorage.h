@@ -16,7 +16,7 @@ namespace tallyrig {
 
 class RecordSlab;
 
-/// A field to be stored: its tag by number, its value, its identity.
+/// A field to be stored: its tag by number, its own value (empty where the tag has one for it), its identity.
 struct FieldDraft {
     FieldTags::Number tag = 0;
     std::string_view value;
@@ -26,6 +26,8 @@ struct FieldDraft {
 /// How a record lies in memory: this head, the places where its field ids start anew, one small entry for
 /// each field, and the values one after the other. Made in one piece and never changed; many lie side by side
 /// in one slab, which lives as long as any of them is referred to.
+///
+/// A value that the tag has for all its fields takes no room in the record.
 ///
 /// Field ids are not stored one by one: they follow on the record's id, or on that of the last run before
 /// them.
@@ -43,13 +45,19 @@ class RecordStorage {
     const FieldTag& tag(std::size_t index) const { return tags()[tagNumber(index)]; }
     FieldTags::Number tagNumber(std::size_t index) const { return entries()[index].tag; }
     std::string_view value(std::size_t index) const {
+        const std::string_view own = ownValue(index);
+        return own.empty() ? sharedValue(index) : own;
+    }
+    /// The value if it lies in the record; empty where the tag has it.
+    std::string_view ownValue(std::size_t index) const {
         const Entry* entry = entries() + index;
         const std::uint32_t begin = index == 0 ? 0 : entry[-1].end;
         return {texts() + begin, entry->end - begin};
     }
     UUID fieldID(std::size_t index) const;
     const FieldTags& tags() const;
-    /// All values of the record, one after the other.
+    /// All values that lie in the record, one after the other (`ownValue`). Those that tags share are not
+    /// among them.
     std::string_view allValues() const {
         return {texts(), entryCount == 0 ? 0 : entries()[entryCount - 1].end};
     }
@@ -64,6 +72,10 @@ class RecordStorage {
     };
 
     RecordStorage() = default;
+    std::string_view sharedValue(std::size_t index) const {
+        const FieldTags::Value& shared = tag(index).sharedValue;
+        return shared ? std::string_view(*shared) : std::string_view();
+    }
     const Run* runs() const { return reinterpret_cast<const Run*>(this + 1); }
     const Entry* entries() const { return reinterpret_cast<const Entry*>(runs() + runCount); }
     const char* texts() const { return reinterpret_cast<const char*>(entries() + entryCount); }

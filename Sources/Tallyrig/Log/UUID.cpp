@@ -35,6 +35,10 @@ UUID UUID::freshRun(std::uint64_t count) {
     return {source.high, source.next.fetch_add(count, std::memory_order_relaxed)};
 }
 
+UUID UUID::freshWith(std::uint64_t low) {
+    return {generator().high, low};
+}
+
 UUID UUID::advancedBy(std::uint64_t steps) const {
     const std::uint64_t sum = low + steps;
     return {sum < low ? high + 1 : high, sum};

@@ -23,6 +23,10 @@ struct UUID {
     /// The first of `count` new ones that follow on each other (`advancedBy`).
     static UUID freshRun(std::uint64_t count);
 
+    /// The one that `fresh` gave whose `low` this is: all that one process gives agree in `high`, so that who
+    /// holds millions needs to keep half of each only.
+    static UUID freshWith(std::uint64_t low);
+
     /// The one `steps` places behind this.
     UUID advancedBy(std::uint64_t steps) const;
 

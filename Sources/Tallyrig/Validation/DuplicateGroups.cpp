@@ -7,7 +7,10 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <string>
 #include <string_view>
+#include <unordered_map>
+#include <utility>
 
 namespace tallyrig {
 
@@ -34,7 +37,16 @@ class KeyReader {
             if (value.empty()) {
                 return false;
             }
-            key += text::isASCII(value) ? text::upper(value) : text::canonicalKey(text::upper(value));
+            if (value.size() <= longest) {
+                key += keyPart(value);
+            } else {
+                // It may stand in memory once for many records.
+                const auto [place, isNew] = longValues.try_emplace(value.data());
+                if (isNew) {
+                    place->second = keyPart(value);
+                }
+                key += place->second;
+            }
             key += '\x1F';
         }
         return true;
@@ -43,13 +55,28 @@ class KeyReader {
     std::string key;
 
   private:
+    static constexpr std::size_t longest = 64;
+
+    /// What equal values have in common: the folded text or, for one that is long, a number behind a second
+    /// separator, so that it is no other text.
+    std::string keyPart(std::string_view value) {
+        std::string folded = text::canonicalKey(text::upper(value));
+        if (folded.size() <= longest) {
+            return folded;
+        }
+        const auto known = longTexts.try_emplace(std::move(folded), longTexts.size()).first;
+        return '\x1F' + std::to_string(known->second);
+    }
+
     RecordValues values;
     std::vector<std::size_t> parts;
+    std::unordered_map<const char*, std::string> longValues;  ///< By the place where they stand.
+    std::unordered_map<std::string, std::size_t> longTexts;
 };
 
 /// Gathers records by key, in a flat table with open addressing: the keys of a whole log pass through here,
-/// and nearly every one is new. The members of a group are a chain through `next`, so that the many records
-/// that are alone with their key cost no list of their own.
+/// and nearly every one is new, so that a node for each would take twice the time. The members of a group are
+/// a chain through `next`, so that the many records that are alone with their key cost no list of their own.
 class Gathering {
   public:
     explicit Gathering(std::size_t recordCount)

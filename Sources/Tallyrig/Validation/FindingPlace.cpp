@@ -2,6 +2,10 @@
 
 #include "Tallyrig/Text/Text.h"
 
+#include <string>
+#include <variant>
+#include <vector>
+
 namespace tallyrig {
 
 namespace {
@@ -17,7 +21,8 @@ struct FieldName {
     std::string_view operator()(const finding::ImplausibleCallsign&) const { return "CALL"; }
     std::string_view operator()(const finding::FrequencyOutsideBand&) const { return "FREQ"; }
     std::string_view operator()(const finding::Duplicate& kind) const {
-        return kind.keyFields.empty() ? std::string_view() : std::string_view(kind.keyFields.front());
+        const std::vector<std::string>& fields = kind.keyFields;
+        return fields.empty() ? std::string_view() : std::string_view(fields.front());
     }
     std::string_view operator()(const finding::OutdoorInconsistentStationCallsign&) const {
         return "STATION_CALLSIGN";

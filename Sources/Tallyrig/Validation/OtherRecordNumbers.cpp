@@ -13,6 +13,10 @@ OtherRecordNumbers::OtherRecordNumbers(std::shared_ptr<const std::vector<std::si
     : group(std::move(wholeGroup)), own(ownPosition) {}
 
 bool operator==(const OtherRecordNumbers& left, const OtherRecordNumbers& right) {
+    if (left.group == right.group) {
+        // Who leaves out another one of the same group names others.
+        return left.own == right.own;
+    }
     return std::equal(left.begin(), left.end(), right.begin(), right.end());
 }
 

@@ -8,7 +8,7 @@ namespace tallyrig {
 
 namespace finding {
 
-bool areEqual(const std::string& left, const std::string& right) {
+bool areEqual(std::string_view left, std::string_view right) {
     return text::equal(left, right);
 }
 
@@ -20,7 +20,7 @@ bool areEqual(const OtherRecordNumbers& left, const OtherRecordNumbers& right) {
     return left == right;
 }
 
-std::size_t hashOf(const std::string& text) {
+std::size_t hashOf(std::string_view text) {
     return std::hash<std::string>()(text::canonicalKey(text));
 }
 
@@ -33,11 +33,9 @@ std::size_t hashOf(const std::vector<std::string>& texts) {
 }
 
 std::size_t hashOf(const OtherRecordNumbers& numbers) {
-    std::size_t hash = numbers.size();
-    for (const std::size_t number : numbers) {
-        hash = hash * 31 + number;
-    }
-    return hash;
+    // Not all of them: a group of many would be walked once for each of its members.
+    const std::size_t size = numbers.size();
+    return size == 0 ? 0 : (size * 31 + numbers[0]) * 31 + numbers[size - 1];
 }
 
 }  // namespace finding

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "Tallyrig/Log/Shared.h"
 #include "Tallyrig/Validation/OtherRecordNumbers.h"
 
 #include <concepts>
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -18,6 +21,21 @@ enum class ValidationSeverity { error, warning };
 /// The kinds of finding, each with what a message about it needs. Fields are named as the record names them;
 /// values are trimmed, in their own case.
 namespace finding {
+
+/// A list of texts that many findings have in common.
+class SharedTexts {
+  public:
+    SharedTexts(std::vector<std::string> list)
+        : texts(Shared<std::vector<std::string>>::make(std::move(list))) {}
+    SharedTexts(std::initializer_list<std::string> list) : SharedTexts(std::vector<std::string>(list)) {}
+
+    operator const std::vector<std::string>&() const { return *texts; }
+    auto begin() const { return texts->begin(); }
+    auto end() const { return texts->end(); }
+
+  private:
+    Shared<std::vector<std::string>> texts;
+};
 
 struct MissingRequiredField {
     static constexpr std::string_view name = "missingRequiredField";
@@ -82,7 +100,7 @@ struct ImplausibleCallsign {
 struct Duplicate {
     static constexpr std::string_view name = "duplicate";
     static constexpr ValidationSeverity severity = ValidationSeverity::warning;
-    std::vector<std::string> keyFields;
+    SharedTexts keyFields;  ///< One list for all duplicates of a check.
     OtherRecordNumbers otherRecordNumbers;
     auto members() const { return std::tie(keyFields, otherRecordNumbers); }
 };
@@ -109,7 +127,7 @@ struct InvalidValue {
     static constexpr ValidationSeverity severity = ValidationSeverity::warning;
     std::string field;
     std::string value;
-    std::string dataType;
+    std::string_view dataType;  ///< As ADIF names it.
     auto members() const { return std::tie(field, value, dataType); }
 };
 
@@ -161,10 +179,10 @@ concept Payload = requires(const Type& payload) {
     payload.members();
 };
 
-bool areEqual(const std::string& left, const std::string& right);
+bool areEqual(std::string_view left, std::string_view right);
 bool areEqual(const std::vector<std::string>& left, const std::vector<std::string>& right);
 bool areEqual(const OtherRecordNumbers& left, const OtherRecordNumbers& right);
-std::size_t hashOf(const std::string& text);
+std::size_t hashOf(std::string_view text);
 std::size_t hashOf(const std::vector<std::string>& texts);
 std::size_t hashOf(const OtherRecordNumbers& numbers);
 

@@ -62,11 +62,13 @@ bool hasForm(ValueForm form, std::string_view value) {
 ValidationRun::ValidationRun(const ADIFValidator& settings, const ADIFRecordList& log)
     : validator(settings),
       records(log),
+      duplicateKeyFields(settings.duplicateKeyFields),
       callColumn(values.add("CALL")),
       bandColumn(values.add("BAND")),
       frequencyColumn(values.add("FREQ")) {
     for (const std::string& field : validator.requiredFields) {
         requiredColumns.push_back(values.add(field));
+        missingRequired.push_back(Shared<ValidationKind>::make(finding::MissingRequiredField{field}));
     }
 }
 
@@ -95,7 +97,7 @@ std::vector<ValidationIssue> ValidationRun::issues() {
 void ValidationRun::checkRequiredFields() {
     for (std::size_t position = 0; position < requiredColumns.size(); ++position) {
         if (values.trimmed(requiredColumns[position]).empty()) {
-            add(finding::MissingRequiredField{validator.requiredFields[position]});
+            add(missingRequired[position]);
         }
     }
 }
@@ -104,17 +106,41 @@ void ValidationRun::checkFields(const ADIFRecord& record) {
     const RecordStorage& stored = record.stored();
     const FieldRule* const ruleByTag = rules.of(stored.tags(), ruleFor);
     for (std::size_t index = 0; index < stored.fieldCount(); ++index) {
-        const std::string_view value = text::trimmed(stored.value(index));
-        if (value.empty()) {
-            continue;
-        }
         const FieldRule& rule = ruleByTag[stored.tagNumber(index)];
-        if (rule.standing == FieldStanding::inStandard) {
-            checkForm(rule, value);
-            checkMembership(rule, value);
-        } else if (rule.standing == FieldStanding::unknown && validator.checksUnknownFields) {
-            add(finding::UnknownField{std::string(rule.name)});
+        if (const std::string_view own = stored.ownValue(index); !own.empty()) {
+            checkValue(rule, own);
+        } else if (const FieldTag& tag = stored.tag(index); tag.sharedValue) {
+            checkSharedValue(rule, tag);
         }
+    }
+}
+
+void ValidationRun::checkValue(const FieldRule& rule, std::string_view storedValue) {
+    const std::string_view value = text::trimmed(storedValue);
+    if (value.empty()) {
+        return;
+    }
+    if (rule.standing == FieldStanding::inStandard) {
+        checkForm(rule, value);
+        checkMembership(rule, value);
+    } else if (rule.standing == FieldStanding::unknown && validator.checksUnknownFields) {
+        add(finding::UnknownField{std::string(rule.name)});
+    }
+}
+
+/// A value that many records share may be of any length: it is checked, and said in a finding, once.
+void ValidationRun::checkSharedValue(const FieldRule& rule, const FieldTag& tag) {
+    const auto [entry, isNew] = sharedValueKinds.try_emplace(&tag);
+    if (!isNew) {
+        for (const Shared<ValidationKind>& kind : entry->second) {
+            add(kind);
+        }
+        return;
+    }
+    const std::size_t begin = found.size();
+    checkValue(rule, *tag.sharedValue);
+    for (std::size_t index = begin; index < found.size(); ++index) {
+        entry->second.push_back(found[index].sharedKind());
     }
 }
 
@@ -144,7 +170,7 @@ void ValidationRun::checkForm(const FieldRule& rule, std::string_view value) {
         default:
             break;
     }
-    add(finding::InvalidValue{std::move(field), std::move(text), std::string(rule.dataType)});
+    add(finding::InvalidValue{std::move(field), std::move(text), rule.dataType});
 }
 
 void ValidationRun::checkMembership(const FieldRule& rule, std::string_view value) {
@@ -200,9 +226,19 @@ void ValidationRun::addDuplicate() {
     }
     Membership& membership = memberships[recordIndex];
     if (membership.numbers != nullptr) {
-        add(finding::Duplicate{validator.duplicateKeyFields,
+        add(finding::Duplicate{duplicateKeyFields,
                                OtherRecordNumbers(std::move(membership.numbers), membership.position)});
     }
+}
+
+void ValidationRun::add(Shared<ValidationKind> kind) {
+    if (found.size() == found.capacity()) {
+        // Room for as many findings in the records to come as there were in those behind, at most eight times
+        // as many as there are: a list that grows by copying needs twice its memory.
+        const std::size_t atThisRate = found.size() / (recordIndex + 1) * records.size();
+        found.reserve(std::clamp(atThisRate, found.size() + found.size() / 2, found.size() * 8) + 64);
+    }
+    found.emplace_back(recordIndex, std::move(kind));
 }
 
 void ValidationRun::putErrorsFirst(std::size_t begin) {

@@ -3,12 +3,17 @@
 #include "Tallyrig/Log/ADIFRecordList.h"
 #include "Tallyrig/Log/PerTag.h"
 #include "Tallyrig/Log/RecordValues.h"
+#include "Tallyrig/Log/Shared.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
 #include "Tallyrig/Validation/FieldRule.h"
+#include "Tallyrig/Validation/ValidationIssue.h"
+#include "Tallyrig/Validation/ValidationKind.h"
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -25,6 +30,8 @@ class ValidationRun {
   private:
     void checkRequiredFields();
     void checkFields(const ADIFRecord& record);
+    void checkValue(const FieldRule& rule, std::string_view storedValue);
+    void checkSharedValue(const FieldRule& rule, const FieldTag& tag);
     void checkForm(const FieldRule& rule, std::string_view value);
     void checkMembership(const FieldRule& rule, std::string_view value);
     void checkCallsign();
@@ -33,10 +40,8 @@ class ValidationRun {
     void addDuplicate();
     void putErrorsFirst(std::size_t begin);
 
-    template <typename Finding>
-    void add(Finding payload) {
-        found.emplace_back(recordIndex, std::move(payload));
-    }
+    void add(ValidationKind kind) { add(Shared<ValidationKind>::make(std::move(kind))); }
+    void add(Shared<ValidationKind> kind);
 
     /// A record's place among those that share its key.
     struct Membership {
@@ -48,11 +53,15 @@ class ValidationRun {
     const ADIFValidator& validator;
     const ADIFRecordList& records;
     RecordValues values;
-    std::vector<std::size_t> requiredColumns;  ///< By position in the required fields.
+    std::vector<std::size_t> requiredColumns;             ///< By position in the required fields.
+    std::vector<Shared<ValidationKind>> missingRequired;  ///< The same.
+    finding::SharedTexts duplicateKeyFields;
     std::size_t callColumn;
     std::size_t bandColumn;
     std::size_t frequencyColumn;
     PerTag<FieldRule> rules;
+    std::unordered_map<const FieldTag*, std::vector<Shared<ValidationKind>>>
+        sharedValueKinds;                 ///< What was found about the values that tags share.
     std::vector<Membership> memberships;  ///< By record; empty where there are no duplicates.
     std::size_t recordIndex = 0;
     std::vector<ValidationIssue> found;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,10 @@ std::string shown(const std::string& text) {
     return text;
 }
 
+std::string shown(std::string_view text) {
+    return std::string(text);
+}
+
 std::string shown(const auto& list) {
     std::string text;
     for (const auto& item : list) {
@@ -47,7 +52,7 @@ std::string shown(const auto& list) {
 Findings shown(const std::vector<ValidationIssue>& issues) {
     Findings lines;
     for (const ValidationIssue& issue : issues) {
-        std::string line = std::to_string(issue.recordIndex) + " " + std::string(nameOf(issue.kind));
+        std::string line = std::to_string(issue.recordIndex) + " " + std::string(nameOf(issue.kind()));
         std::string separator = " ";
         std::visit(
             [&](const auto& payload) {
@@ -57,7 +62,7 @@ Findings shown(const std::vector<ValidationIssue>& issues) {
                     },
                     payload.members());
             },
-            issue.kind);
+            issue.kind());
         lines.push_back(line);
     }
     return lines;
@@ -298,7 +303,7 @@ TEST(Duplicates, OfAWholeLogShareTheirList) {
     const std::size_t count = 20000;
     const auto issues = everything().issues(document(std::vector<Fields>(count, qso("DL1ABC"))));
     ASSERT_EQ(issues.size(), count);
-    const auto& numbers = std::get<finding::Duplicate>(issues[7].kind).otherRecordNumbers;
+    const auto& numbers = std::get<finding::Duplicate>(issues[7].kind()).otherRecordNumbers;
     EXPECT_EQ(numbers.size(), count - 1);
     EXPECT_EQ(numbers[6], 7U);
     EXPECT_EQ(numbers[7], 9U);

@@ -74,7 +74,7 @@ TEST(ValidationKinds, AreEqualByValue) {
 TEST(ValidationIssues, EachHaveAnIdentity) {
     const ValidationIssue issue(3, finding::UnknownField{"FOO"});
     const ValidationIssue other(3, finding::UnknownField{"FOO"});
-    EXPECT_NE(issue.id, other.id);
+    EXPECT_NE(issue.id(), other.id());
     EXPECT_EQ(issue.severity(), ValidationSeverity::warning);
 }
 
@@ -89,7 +89,7 @@ TEST(ValidationIssues, AreSortedByRecordAndSeverityAndElseStayPut) {
     sortIssues(issues);
     std::vector<std::string> order;
     for (const ValidationIssue& issue : issues) {
-        order.push_back(std::to_string(issue.recordIndex) + " " + std::string(nameOf(issue.kind)));
+        order.push_back(std::to_string(issue.recordIndex) + " " + std::string(nameOf(issue.kind())));
     }
     EXPECT_EQ(order, (std::vector<std::string>{"0 outdoorMissingField", "0 unknownMode", "1 invalidTime",
                                                "1 invalidDate", "1 unknownMode", "1 unknownBand"}));

@@ -182,7 +182,7 @@ void CheckResultsView::choose(const QModelIndex& finding) {
         store.setSearchText(QString());
     }
     store.selectRecord(issue.recordIndex);
-    const tallyrig::FindingPlace place = tallyrig::placeOf(issue.kind, record);
+    const tallyrig::FindingPlace place = tallyrig::placeOf(issue.kind(), record);
     emit findingChosen(record.id(), std::string(place.field), place.position);
 }
 

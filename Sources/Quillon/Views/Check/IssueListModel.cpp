@@ -29,7 +29,7 @@ QString lineText(const ValidationIssue& issue) {
 /// QSOs would name all the others.
 std::string boundedMessage(const ValidationIssue& issue) {
     constexpr std::size_t mostNamed = 200;
-    const auto* duplicate = std::get_if<tallyrig::finding::Duplicate>(&issue.kind);
+    const auto* duplicate = std::get_if<tallyrig::finding::Duplicate>(&issue.kind());
     if (duplicate == nullptr || duplicate->otherRecordNumbers.size() <= mostNamed) {
         return ADIFFieldCatalog::germanMessage(issue);
     }
