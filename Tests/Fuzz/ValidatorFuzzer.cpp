@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         ++index;
     }
     const auto isSame = [](const ValidationIssue& left, const ValidationIssue& right) {
-        return left.recordIndex == right.recordIndex && left.kind == right.kind;
+        return left.recordIndex == right.recordIndex && left.kind() == right.kind();
     };
     require(std::ranges::equal(validator.issues(document), singly, isSame), "a QSO's findings are its own");
 
