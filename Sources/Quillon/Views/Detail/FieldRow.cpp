@@ -137,6 +137,7 @@ void FieldRow::show(std::string_view name, std::string_view value) {
 void FieldRow::setMarked(bool mark) {
     if (marked != mark) {
         marked = mark;
+        valueEdit->setAccessibleDescription(marked ? QStringLiteral("Befund zu diesem Feld") : QString());
         label->setForegroundRole(marked ? QPalette::WindowText : QPalette::PlaceholderText);
         update();
     }

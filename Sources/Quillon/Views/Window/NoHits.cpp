@@ -18,9 +18,9 @@ NoHits::NoHits(LogStore& logStore, QWidget& rows)
     auto* button = new QPushButton(QStringLiteral("Suche aufheben"), this);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(0);
-    layout->addWidget(message, 3);
+    layout->addWidget(message, 2);
     layout->addWidget(button, 0, Qt::AlignHCenter);
-    layout->addStretch(2);
+    layout->addStretch(3);
     rows.installEventFilter(this);
 
     connect(button, &QPushButton::clicked, this, [this] {

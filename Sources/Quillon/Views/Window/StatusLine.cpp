@@ -3,11 +3,21 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QDir>
 #include <QHBoxLayout>
 
 namespace quillon {
+
+namespace {
+
+/// File names can hold what turns round the text beside them.
+QString visible(const QString& text) {
+    return toQString(tallyrig::text::visibleText(text.toStdString()));
+}
+
+}  // namespace
 
 QString qsoCount(std::size_t count) {
     return numberText(count) + (count == 1 ? QStringLiteral(" QSO") : QStringLiteral(" QSOs"));
@@ -23,7 +33,7 @@ StatusTexts statusTexts(const LogStore& store) {
         texts.selected = numberText(store.selection().size()) + QStringLiteral(" ausgewählt");
     }
     if (store.fileURL()) {
-        texts.path = QDir::toNativeSeparators(*store.fileURL());
+        texts.path = visible(QDir::toNativeSeparators(*store.fileURL()));
     }
     return texts;
 }
@@ -72,8 +82,8 @@ void StatusLine::refresh() {
 }
 
 void StatusLine::showNotice(const QString& text) {
-    notice->setText(text);
-    notice->setToolTip(plainToolTip(text));
+    notice->setText(visible(text));
+    notice->setToolTip(plainToolTip(visible(text)));
     notice->show();
 }
 
