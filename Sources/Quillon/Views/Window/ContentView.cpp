@@ -390,7 +390,7 @@ void ContentView::dropEvent(QDropEvent* event) {
     }
     event->acceptProposedAction();
     openFile(files.first());
-    if (files.size() > 1) {
+    if (files.size() > 1 && !logStore.errorMessage()) {
         statusLine->showNotice(QStringLiteral("Nur „%1“ wurde geöffnet, die erste von %2 Dateien")
                                    .arg(QFileInfo(files.first()).fileName())
                                    .arg(files.size()));
