@@ -50,11 +50,7 @@ TEST(ADXHeader, IsTheDocumentsOwnWhereTheWriterPutsInNone) {
 }
 
 TEST(ADXDefinition, IsWrittenInItsParts) {
-    struct Case {
-        ADIFField field;
-        std::string line;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<ADIFField, std::string> cases[] = {
         {ADIFField("USERDEF1", "EPC,{A,B}", "E"),
          "<USERDEF FIELDID=\"1\" TYPE=\"E\" ENUM=\"{A,B}\">EPC</USERDEF>"},
         {ADIFField("USERDEF22", "EPC,0:100", ""), "<USERDEF FIELDID=\"22\" RANGE=\"{0:100}\">EPC</USERDEF>"},
@@ -63,20 +59,15 @@ TEST(ADXDefinition, IsWrittenInItsParts) {
         {ADIFField("USERDEF٣", "EPC,"), "<USERDEF FIELDID=\"٣\" ENUM=\"{}\">EPC</USERDEF>"},
         {ADIFField("USERDEF", "EPC,{A}"), "<USERDEF>EPC,{A}</USERDEF>"},
         {ADIFField("USERDEF1A", "EPC"), "<USERDEF1A>EPC</USERDEF1A>"},
-        {ADIFField("APP_X_Y", "1"), "<APP_X_Y>1</APP_X_Y>"},
-    };
-    for (const Case& one : cases) {
-        const std::string text = writer(false).write(ADIFDocument("", {one.field}, {}), moment);
-        EXPECT_EQ(inside(text, "HEADER"), "    " + one.line + "\n  ") << one.field.name;
+        {ADIFField("APP_X_Y", "1"), "<APP_X_Y>1</APP_X_Y>"}};
+    for (const auto& [field, line] : cases) {
+        const std::string text = writer(false).write(ADIFDocument("", {field}, {}), moment);
+        EXPECT_EQ(inside(text, "HEADER"), "    " + line + "\n  ") << field.name;
     }
 }
 
 TEST(ADXField, IsWrittenAsTheElementOfItsKind) {
-    struct Case {
-        ADIFField field;
-        std::string line;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<ADIFField, std::string> cases[] = {
         {ADIFField("CALL", "DL1ABC"), "<CALL>DL1ABC</CALL>"},
         {ADIFField("NOTES", "a \"<b>\" & &amp;\n", "M"),
          "<NOTES TYPE=\"M\">a \"&lt;b&gt;\" &amp; &amp;amp;\n</NOTES>"},
@@ -89,13 +80,12 @@ TEST(ADXField, IsWrittenAsTheElementOfItsKind) {
         {ADIFField("ÉPC", "<", "N"), "<USERDEF FIELDNAME=\"ÉPC\">&lt;</USERDEF>"},
         {ADIFField("RANGED", "5"), "<USERDEF FIELDNAME=\"RANGED\">5</USERDEF>"},
         {ADIFField("UNDEFINED", "5"), "<UNDEFINED>5</UNDEFINED>"},
-        {ADIFField("2 M", "5"), "<2 M>5</2 M>"},
-    };
+        {ADIFField("2 M", "5"), "<2 M>5</2 M>"}};
     const Fields header = {ADIFField("USERDEF1", " e\u0301pc ,{A}"), ADIFField("USERDEF2", "ranged,0:5"),
                            ADIFField("USERDEFX", "UNDEFINED"), ADIFField("USERDEF3", " ,{A}")};
-    for (const Case& one : cases) {
-        const ADIFDocument log("", header, ADIFRecordList({ADIFRecord(Fields({one.field}))}));
-        EXPECT_EQ(inside(writer(false).write(log, moment), "RECORD"), "      " + one.line + "\n    ");
+    for (const auto& [field, line] : cases) {
+        const ADIFDocument log("", header, ADIFRecordList({ADIFRecord(Fields({field}))}));
+        EXPECT_EQ(inside(writer(false).write(log, moment), "RECORD"), "      " + line + "\n    ");
     }
 }
 

@@ -35,8 +35,7 @@ TEST(Lines, EndAtEveryLineBreak) {
         {"\xE2\x80", {"\xE2\x80"}},
         {"\x1C\x1D\x1E\x1F", {"\x1C\x1D\x1E\x1F"}},
         {"", {}},
-        {"\n\u0085", {}},
-    };
+        {"\n\u0085", {}}};
     for (const auto& [text, lines] : cases) {
         EXPECT_EQ(linesOf(text), lines) << text;
     }
@@ -76,18 +75,15 @@ TEST(NumericCharacters, AreThoseOfAnyScript) {
 }
 
 TEST(Columns, CountCharacters) {
-    struct Case {
-        std::string_view text;
-        std::string_view column;
-    };
-    const std::vector<Case> cases = {{"", "    "},          {"ab", "ab  "},
-                                     {"abcde", "abcd"},     {"—", "—   "},
-                                     {"äöüßé", "äöüß"},     {"abcd\u0308e", "abcd\u0308"},
-                                     {"a\r\nb", "a\r\nb "}, {"👨‍👩‍👧x", "👨‍👩‍👧x  "}};
-    for (const Case& one : cases) {
+    const std::pair<std::string_view, std::string_view> cases[] = {
+        {"", "    "},          {"ab", "ab  "},
+        {"abcde", "abcd"},     {"—", "—   "},
+        {"äöüßé", "äöüß"},     {"abcd\u0308e", "abcd\u0308"},
+        {"a\r\nb", "a\r\nb "}, {"👨‍👩‍👧x", "👨‍👩‍👧x  "}};
+    for (const auto& [text, column] : cases) {
         std::string line = "|";
-        appendColumn(line, one.text, 4);
-        EXPECT_EQ(line, "|" + std::string(one.column)) << one.text;
+        appendColumn(line, text, 4);
+        EXPECT_EQ(line, "|" + std::string(column)) << text;
     }
     EXPECT_EQ(firstCharacters("abc\u0308d", 3), "abc\u0308");
     EXPECT_TRUE(hasLength("a\r\nbc\u0308", 4));

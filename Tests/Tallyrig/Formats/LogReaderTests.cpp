@@ -18,24 +18,19 @@ std::string inUTF16(const std::string& text, bool isLittleEndian) {
 }
 
 TEST(LogReader, ReadsEachFormatInEachEncoding) {
-    struct Case {
-        LogFormat format;
-        std::string text;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<LogFormat, std::string> cases[] = {
         {LogFormat::adif, "A log\n<EOH><CALL:5>DL1AB<EOR>"},
         {LogFormat::adx, "<ADX><RECORDS><RECORD><CALL>DL1AB</CALL></RECORD></RECORDS></ADX>"},
         {LogFormat::cabrillo,
          "START-OF-LOG: 3.0\nQSO: 14000 CW 2024-03-02 1405 DL2AB 599 001 DL1AB 599 002\nEND-OF-LOG:\n"},
-        {LogFormat::edi, "[REG1TEST;1]\r\n[QSORecords;1]\r\n240302;1405;DL1AB;1\r\n[END]\r\n"},
-    };
-    for (const Case& c : cases) {
+        {LogFormat::edi, "[REG1TEST;1]\r\n[QSORecords;1]\r\n240302;1405;DL1AB;1\r\n[END]\r\n"}};
+    for (const auto& [format, text] : cases) {
         for (const std::string& bytes :
-             {c.text, "\xEF\xBB\xBF" + c.text, inUTF16(c.text, true), inUTF16(c.text, false)}) {
+             {text, "\xEF\xBB\xBF" + text, inUTF16(text, true), inUTF16(text, false)}) {
             const LogReader::Log log = LogReader::read(bytes);
-            EXPECT_EQ(log.format, c.format) << c.text;
-            ASSERT_EQ(log.document.records().size(), 1U) << c.text;
-            EXPECT_EQ(log.document.records()[0]["CALL"], "DL1AB") << c.text;
+            EXPECT_EQ(log.format, format) << text;
+            ASSERT_EQ(log.document.records().size(), 1U) << text;
+            EXPECT_EQ(log.document.records()[0]["CALL"], "DL1AB") << text;
         }
     }
 }

@@ -4,18 +4,13 @@
 
 #include <optional>
 #include <string>
-#include <vector>
+#include <tuple>
 
 namespace tallyrig {
 namespace {
 
 TEST(Locator, NamesTheCentreOfItsSquareOrSubsquare) {
-    struct Case {
-        std::string locator;
-        double lat;
-        double lon;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<std::string, double, double> cases[] = {
         {"JO62", 52.5, 13},
         {"JO62QM", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
         {"jo62qm", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
@@ -35,11 +30,11 @@ TEST(Locator, NamesTheCentreOfItsSquareOrSubsquare) {
         {"JO62QMÄ", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
         {"\uFB0022", -90 + 50 + 2.5, -180 + 100 + 5},  // the ligature of two f in upper case
     };
-    for (const Case& c : cases) {
-        const auto coordinate = maidenheadToCoordinate(c.locator);
-        ASSERT_TRUE(coordinate) << c.locator;
-        EXPECT_NEAR(coordinate->lat, c.lat, 1e-12) << c.locator;
-        EXPECT_NEAR(coordinate->lon, c.lon, 1e-12) << c.locator;
+    for (const auto& [locator, lat, lon] : cases) {
+        const auto coordinate = maidenheadToCoordinate(locator);
+        ASSERT_TRUE(coordinate) << locator;
+        EXPECT_NEAR(coordinate->lat, lat, 1e-12) << locator;
+        EXPECT_NEAR(coordinate->lon, lon, 1e-12) << locator;
     }
 }
 
@@ -54,13 +49,7 @@ TEST(Locator, NeedsTwoLettersFromAToRAndTwoDigits) {
 
 // The distances were worked out from the angle between the vectors to both points.
 TEST(Distance, IsAlongTheGreatCircle) {
-    struct Case {
-        std::string from;
-        std::string to;
-        double km;
-        int wholeKm;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<std::string, std::string, double, int> cases[] = {
         {"JO62", "JO62", 0, 0},
         {"JO62", "JO63", 111.19492664455846, 111},
         {"JO62", "JO72", 135.3780386081784, 135},
@@ -72,10 +61,10 @@ TEST(Distance, IsAlongTheGreatCircle) {
         {"AA00", "RR99", 19903.908805331746, 19904},
         {"AA00", "JR09", 20015.086796020572, 20015},  // antipodes
     };
-    for (const Case& c : cases) {
-        EXPECT_NEAR(greatCircleKm(c.from, c.to).value_or(-1), c.km, 1e-6) << c.from << ' ' << c.to;
-        EXPECT_NEAR(greatCircleKm(c.to, c.from).value_or(-1), c.km, 1e-6) << c.to << ' ' << c.from;
-        EXPECT_EQ(distanceKm(c.from, c.to), c.wholeKm) << c.from << ' ' << c.to;
+    for (const auto& [from, to, km, wholeKm] : cases) {
+        EXPECT_NEAR(greatCircleKm(from, to).value_or(-1), km, 1e-6) << from << ' ' << to;
+        EXPECT_NEAR(greatCircleKm(to, from).value_or(-1), km, 1e-6) << to << ' ' << from;
+        EXPECT_EQ(distanceKm(from, to), wholeKm) << from << ' ' << to;
     }
 }
 

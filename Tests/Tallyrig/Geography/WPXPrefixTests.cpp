@@ -48,8 +48,7 @@ TEST(PrefixOfACall, EndsWithItsLastDigit) {
         {"W1XYZ/Ⅳ", "WⅣ"},
         {"DL1\u0301XYZ", "DL1\u0301"},
         {"W1XYZ/\u03014", "W1XYZ/\u03014"},
-        {"УА3ДЛ", "УА3"},
-    };
+        {"УА3ДЛ", "УА3"}};
     for (const auto& [call, prefix] : cases) {
         EXPECT_EQ(WPXPrefix::prefix(call), prefix) << call;
     }

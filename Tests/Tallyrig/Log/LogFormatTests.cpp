@@ -3,17 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace tallyrig {
 namespace {
 
 TEST(Detection, GoesByTheContentAlone) {
-    struct Case {
-        std::string data;
-        LogFormat format;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<std::string, LogFormat> cases[] = {
         {"", LogFormat::adif},
         {"\xFF\xFE\x00", LogFormat::adif},
         {"<ADIF_VER:5>3.1.7", LogFormat::adif},
@@ -32,10 +28,9 @@ TEST(Detection, GoesByTheContentAlone) {
         {std::string(3'000, 'x') + "[REG1TEST;1]", LogFormat::adif},
         {std::string(2'047, '\xC3') + "\xB6[REG1TEST;1]", LogFormat::adif},
         {std::string(2'040, ' ') + "<ADX", LogFormat::adx},
-        {std::string(2'045, ' ') + "<ADX", LogFormat::adif},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(LogFormatDetector::detect(c.data), c.format) << c.data.substr(0, 40);
+        {std::string(2'045, ' ') + "<ADX", LogFormat::adif}};
+    for (const auto& [data, format] : cases) {
+        EXPECT_EQ(LogFormatDetector::detect(data), format) << data.substr(0, 40);
     }
 }
 

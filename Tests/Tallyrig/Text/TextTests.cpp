@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -43,12 +42,7 @@ TEST(Equality, IsCanonicalEquivalence) {
 }
 
 TEST(Trimming, KnowsTwoKindsOfWhiteSpace) {
-    struct Case {
-        std::string text;
-        std::string trimmedText;
-        std::string withoutBlanks;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<std::string, std::string, std::string> cases[] = {
         {"", "", ""},
         {"DL1ABC", "DL1ABC", "DL1ABC"},
         {"  a b\t", "a b", "a b"},
@@ -58,11 +52,10 @@ TEST(Trimming, KnowsTwoKindsOfWhiteSpace) {
         {" \n\t ", "", "\n"},
         {"\u200Bx", "\u200Bx", "\u200Bx"},  // a zero-width space is a format character
         {" \u00F6 ", "\u00F6", "\u00F6"},
-        {"\0 "s, "\0"s, "\0"s},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(trimmed(c.text), c.trimmedText) << testing::PrintToString(c.text);
-        EXPECT_EQ(trimmedOfBlanks(c.text), c.withoutBlanks) << testing::PrintToString(c.text);
+        {"\0 "s, "\0"s, "\0"s}};
+    for (const auto& [text, trimmedText, withoutBlanks] : cases) {
+        EXPECT_EQ(trimmed(text), trimmedText) << testing::PrintToString(text);
+        EXPECT_EQ(trimmedOfBlanks(text), withoutBlanks) << testing::PrintToString(text);
     }
 }
 
@@ -118,63 +111,54 @@ TEST(Integers, AreASignAndDigitsWithin64Bits) {
 }
 
 TEST(Numbers, FollowStrtodInTheCLocale) {
-    std::vector<std::string> cases = {"14.074",
-                                      "7",
-                                      ".5",
-                                      "5.",
-                                      "-1e3",
-                                      "+1E-2",
-                                      " \t\n1.5",
-                                      "1.5 ",
-                                      "14,074",
-                                      "0x10",
-                                      "0X1.8P3",
-                                      "0x.8",
-                                      "0x",
-                                      "0xg",
-                                      "0x-1",
-                                      "0xinf",
-                                      "0xnan",
-                                      "inf",
-                                      "-Infinity",
-                                      "INFIN",
-                                      "nan",
-                                      "-NAN",
-                                      "nan(12_a)",
-                                      "nan(",
-                                      "nan(-)",
-                                      "",
-                                      " ",
-                                      ".",
-                                      "+",
-                                      "-",
-                                      "+-1",
-                                      "--1",
-                                      "e5",
-                                      "1e",
-                                      "1e+",
-                                      "1e400",
-                                      "-1e400",
-                                      "1e-400",
-                                      "0.0001e-330",
-                                      "0e999999",
-                                      "1e99999999999999999999",
-                                      "1e-99999999999999999999",
-                                      "0x1p99999",
-                                      "0x1p-99999",
-                                      "1_000",
-                                      "1 2",
-                                      "0x1p",
-                                      "1d5"};
-    std::mt19937 random(317);  // any seed: the alphabet is what matters
-    const std::string alphabet = "0123456789..eE+-xXpPaAfFnNiI ";
-    for (int round = 0; round < 20'000; ++round) {
-        std::string text;
-        for (auto length = random() % 8; length > 0; --length) {
-            text += alphabet[random() % alphabet.size()];
-        }
-        cases.push_back(text);
-    }
+    const std::string cases[] = {"14.074",
+                                 "7",
+                                 ".5",
+                                 "5.",
+                                 "-1e3",
+                                 "+1E-2",
+                                 " \t\n1.5",
+                                 "1.5 ",
+                                 "14,074",
+                                 "0x10",
+                                 "0X1.8P3",
+                                 "0x.8",
+                                 "0x",
+                                 "0xg",
+                                 "0x-1",
+                                 "0xinf",
+                                 "0xnan",
+                                 "inf",
+                                 "-Infinity",
+                                 "INFIN",
+                                 "nan",
+                                 "-NAN",
+                                 "nan(12_a)",
+                                 "nan(",
+                                 "nan(-)",
+                                 "",
+                                 " ",
+                                 ".",
+                                 "+",
+                                 "-",
+                                 "+-1",
+                                 "--1",
+                                 "e5",
+                                 "1e",
+                                 "1e+",
+                                 "1e400",
+                                 "-1e400",
+                                 "1e-400",
+                                 "0.0001e-330",
+                                 "0e999999",
+                                 "1e99999999999999999999",
+                                 "1e-99999999999999999999",
+                                 "0x1p99999",
+                                 "0x1p-99999",
+                                 "1_000",
+                                 "1 2",
+                                 "0x1p",
+                                 "1d5"};
     for (const std::string& text : cases) {
         char* end = nullptr;
         const double expected = std::strtod(text.c_str(), &end);

@@ -4,7 +4,7 @@
 
 #include <optional>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace tallyrig::text {
 namespace {
@@ -12,11 +12,7 @@ namespace {
 using namespace std::string_literals;
 
 TEST(UTF16, IsReadByItsByteOrderMarkAndRepaired) {
-    struct Case {
-        std::string bytes;
-        std::optional<std::string> text;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<std::string, std::optional<std::string>> cases[] = {
         {"", std::nullopt},
         {"DL1ABC", std::nullopt},
         {"\xFF", std::nullopt},
@@ -33,10 +29,9 @@ TEST(UTF16, IsReadByItsByteOrderMarkAndRepaired) {
         {"\xFE\xFF\xDC\xFB\xD8\x3D", "\uFFFD\uFFFD"},
         {"\xFE\xFF\xD8\x3D\xD8\x3D\xDC\xFB", "\uFFFD\U0001F4FB"},
         {"\xFE\xFF\0x\xD8"s, "x\uFFFD"},
-        {"\xFF\xFE\x3D\xD8\xFB", "\uFFFD\uFFFD"},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(fromUTF16(c.bytes), c.text) << ::testing::PrintToString(c.bytes);
+        {"\xFF\xFE\x3D\xD8\xFB", "\uFFFD\uFFFD"}};
+    for (const auto& [bytes, text] : cases) {
+        EXPECT_EQ(fromUTF16(bytes), text) << ::testing::PrintToString(bytes);
     }
 }
 

@@ -18,8 +18,7 @@ TEST(VisibleText, HasASignForWhatActsUnseen) {
         {"\u2066\u2067\u2068\u2069\u200E\u200F\u061C\u202A\u202B\u202D",
          "⟨LRI⟩⟨RLI⟩⟨FSI⟩⟨PDI⟩⟨LRM⟩⟨RLM⟩⟨ALM⟩⟨LRE⟩⟨RLE⟩⟨LRO⟩"},
         {"שלום \u0627\u200B👍🏽", "שלום \u0627\u200B👍🏽"},
-        {"cut off\xE2\x80", "cut off\xE2\x80"},
-    };
+        {"cut off\xE2\x80", "cut off\xE2\x80"}};
     for (const auto& [text, shown] : cases) {
         EXPECT_EQ(visibleText(text), shown);
     }

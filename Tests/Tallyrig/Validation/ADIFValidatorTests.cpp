@@ -1,6 +1,6 @@
 #include "Tallyrig/Validation/ADIFValidator.h"
 
-#include "Tallyrig/Log/ADIFRecordBuilder.h"
+#include "Tallyrig/Log/LogSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -12,20 +12,9 @@
 namespace tallyrig {
 namespace {
 
-using Fields = std::vector<std::pair<std::string, std::string>>;
+using testing::document;
+using Fields = testing::Pairs;
 using Findings = std::vector<std::string>;
-
-ADIFDocument document(const std::vector<Fields>& records) {
-    ADIFRecordBuilder builder;
-    std::vector<ADIFRecord> made;
-    for (const Fields& fields : records) {
-        for (const auto& [name, value] : fields) {
-            builder.addField(name, value);
-        }
-        made.push_back(builder.takeRecord());
-    }
-    return {"", {}, ADIFRecordList(std::move(made))};
-}
 
 std::string shown(const std::string& text) {
     return text;
@@ -94,12 +83,6 @@ TEST(RequiredFields, AreReportedWhereTheyAreMissingOrBlank) {
               (Findings{"0 missingRequiredField NAME"}));
 }
 
-TEST(RequiredFields, AreReadFromTheFirstFieldOfTheirName) {
-    Fields twoCalls = qso("");
-    twoCalls.emplace_back("CALL", "DL1ABC");
-    EXPECT_EQ(shown(everything().issues(document({twoCalls}))), (Findings{"0 missingRequiredField CALL"}));
-}
-
 TEST(FieldNames, AreReportedWhereTheStandardDoesNotKnowThem) {
     EXPECT_EQ(findings({{"FOO", "x"}}), (Findings{"0 unknownField FOO"}));
     for (const char* const name : {"APP_X_Y", "USERDEF3", "APP_", "CREDIT_GRANTED", "ADIF_VER"}) {
@@ -125,24 +108,22 @@ TEST(FieldNames, CountAsTheyAreStored) {
 }
 
 TEST(Values, AreHeldAgainstTheirDataType) {
-    const std::pair<const char*, const char*> good[] = {
-        {"GRIDSQUARE_EXT", "JO62"},
-        {"VUCC_GRIDS", "JO62, jo61 ,\tJO50,"},
-        {"VUCC_GRIDS", ",,"},
-        {"TX_PWR", " 1e3 "},
-        {"AGE", "-0x1F.8p1"},
-        {"A_INDEX", "nan"},
-        {"ANT_AZ", ".5"},
-        {"CQZ", "0"},
-        {"CQZ", "٣"},
-        {"SRX", "-5"},
-        {"SRX", "+5"},
-        {"SWL", "y"},
-        {"SWL", "N"},
-        {"CREDIT_GRANTED", "anything"},
-        {"LAT", "north"},
-        {"SOTA_REF", "?"},
-    };
+    const std::pair<const char*, const char*> good[] = {{"GRIDSQUARE_EXT", "JO62"},
+                                                        {"VUCC_GRIDS", "JO62, jo61 ,\tJO50,"},
+                                                        {"VUCC_GRIDS", ",,"},
+                                                        {"TX_PWR", " 1e3 "},
+                                                        {"AGE", "-0x1F.8p1"},
+                                                        {"A_INDEX", "nan"},
+                                                        {"ANT_AZ", ".5"},
+                                                        {"CQZ", "0"},
+                                                        {"CQZ", "٣"},
+                                                        {"SRX", "-5"},
+                                                        {"SRX", "+5"},
+                                                        {"SWL", "y"},
+                                                        {"SWL", "N"},
+                                                        {"CREDIT_GRANTED", "anything"},
+                                                        {"LAT", "north"},
+                                                        {"SOTA_REF", "?"}};
     for (const auto& [field, value] : good) {
         EXPECT_EQ(findings({{field, value}}), Findings()) << field << " " << value;
     }
@@ -160,27 +141,24 @@ TEST(Values, AreHeldAgainstTheirDataType) {
         {"STX", "--5", "0 invalidValue STX|--5|Integer"},
         {"STX", "-", "0 invalidValue STX|-|Integer"},
         {"STX", "1.0", "0 invalidValue STX|1.0|Integer"},
-        {"SWL", "YES", "0 invalidValue SWL|YES|Boolean"},
-    };
+        {"SWL", "YES", "0 invalidValue SWL|YES|Boolean"}};
     for (const auto& [field, value, finding] : bad) {
         EXPECT_EQ(findings({{field, value}}), (Findings{finding})) << field << " " << value;
     }
 }
 
 TEST(Values, AreHeldAgainstTheirEnumeration) {
-    const std::pair<const char*, const char*> good[] = {
-        {"BAND", " 20m "},
-        {"MODE", "ft8"},
-        {"MODE", "psk31"},
-        {"SUBMODE", "XYZ"},
-        {"CONTEST_ID", "XYZ"},
-        {"STATE", "XX"},
-        {"DXCC", "230"},
-        {"QSL_SENT", "q"},
-        {"QSL_RCVD_VIA", "e"},
-        {"QSO_COMPLETE", "?"},
-        {"ARRL_SECT", "O\xE2\x84\xAA"},
-    };
+    const std::pair<const char*, const char*> good[] = {{"BAND", " 20m "},
+                                                        {"MODE", "ft8"},
+                                                        {"MODE", "psk31"},
+                                                        {"SUBMODE", "XYZ"},
+                                                        {"CONTEST_ID", "XYZ"},
+                                                        {"STATE", "XX"},
+                                                        {"DXCC", "230"},
+                                                        {"QSL_SENT", "q"},
+                                                        {"QSL_RCVD_VIA", "e"},
+                                                        {"QSO_COMPLETE", "?"},
+                                                        {"ARRL_SECT", "O\xE2\x84\xAA"}};
     for (const auto& [field, value] : good) {
         EXPECT_EQ(findings({{field, value}}), Findings()) << field << " " << value;
     }
@@ -191,8 +169,7 @@ TEST(Values, AreHeldAgainstTheirEnumeration) {
         {"QSL_RCVD", "Z", "0 invalidEnumeration QSL_RCVD|Z"},
         {"QSL_RCVD", "q", "0 invalidEnumeration QSL_RCVD|q"},
         {"MY_DXCC", "073", "0 invalidEnumeration MY_DXCC|073"},
-        {"PROP_MODE", "Äs", "0 invalidEnumeration PROP_MODE|Äs"},
-    };
+        {"PROP_MODE", "Äs", "0 invalidEnumeration PROP_MODE|Äs"}};
     for (const auto& [field, value, finding] : bad) {
         EXPECT_EQ(findings({{field, value}}), (Findings{finding})) << field << " " << value;
     }
@@ -209,8 +186,7 @@ TEST(Frequency, LiesInTheBandWithBothEdges) {
         {"nan", "30M", {}},
         {"14.074", "", {}},
         {"14.074", "21M", {"0 unknownBand 21M"}},
-        {"14,074", "40M", {"0 nonNumericFrequency FREQ|14,074"}},
-    };
+        {"14,074", "40M", {"0 nonNumericFrequency FREQ|14,074"}}};
     for (const auto& [frequency, band, expected] : cases) {
         EXPECT_EQ(findings({{"FREQ", frequency}, {"BAND", band}}), expected) << frequency << " " << band;
     }
