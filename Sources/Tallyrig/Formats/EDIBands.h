@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Tallyrig/Text/Text.h"
+
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -28,5 +31,11 @@ inline constexpr std::array<EDIBand, 14> ediBands = {{
     {"6MM", "47 GHz"},
     {"4MM", "76 GHz"},
 }};
+
+/// The EDI name of an ADIF band in any case; a band that EDI does not know as it is.
+inline std::string_view ediBandName(std::string_view adifBand) {
+    const auto* const known = std::ranges::find(ediBands, text::upper(adifBand), &EDIBand::adif);
+    return known == ediBands.end() ? adifBand : known->edi;
+}
 
 }  // namespace tallyrig

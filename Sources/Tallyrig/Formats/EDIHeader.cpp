@@ -1,6 +1,6 @@
 #include "Tallyrig/Formats/EDIHeader.h"
 
-#include "Tallyrig/Formats/EDIWriter.h"
+#include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/LogLines.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -97,7 +97,7 @@ EDIHeader EDIHeader::suggested(const ADIFDocument& document) {
     header.dateEnd = days.last;
     header.callsign = text::upper(firstValue(document, {"STATION_CALLSIGN", "OPERATOR", "OWNER_CALLSIGN"}));
     header.locator = text::upper(firstValue(document, {"MY_GRIDSQUARE"}));
-    header.band = EDIWriter::ediBand(firstValue(document, {"BAND"}));
+    header.band = ediBandName(firstValue(document, {"BAND"}));
     header.operators = text::upper(firstValue(document, {"OPERATOR"}));
     return header;
 }

@@ -1,13 +1,16 @@
 #include "Tallyrig/Formats/EDIQSO.h"
 
-#include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <iterator>
 
 namespace tallyrig {
@@ -72,6 +75,44 @@ std::string_view EDIQSO::country() const {
     return values.valueOrEmpty(countryField);
 }
 
+std::string_view EDIQSO::modeCode(std::optional<std::string_view> mode) {
+    struct Mode {
+        std::string_view adif;
+        std::string_view code;
+    };
+    constexpr std::array<Mode, 15> modes = {{{"SSB", "1"},
+                                             {"USB", "1"},
+                                             {"LSB", "1"},
+                                             {"CW", "2"},
+                                             {"AM", "5"},
+                                             {"FM", "6"},
+                                             {"NFM", "6"},
+                                             {"FT8", "7"},
+                                             {"FT4", "7"},
+                                             {"MSK144", "7"},
+                                             {"Q65", "7"},
+                                             {"JT65", "7"},
+                                             {"JT9", "7"},
+                                             {"RTTY", "8"},
+                                             {"SSTV", "9"}}};
+    const std::string name = text::canonicalKey(text::upper(mode.value_or(std::string_view())));
+    const auto* const known = std::ranges::find(modes, name, &Mode::adif);
+    return known == modes.end() ? "1" : known->code;
+}
+
+std::string_view EDIQSO::serialIn(std::optional<std::string_view> exchange) {
+    std::string_view rest = text::trimmedOfBlanks(exchange.value_or(std::string_view()));
+    while (!rest.empty()) {
+        const std::size_t blank = rest.rfind(' ');
+        const std::string_view word = blank == std::string_view::npos ? rest : rest.substr(blank + 1);
+        if (!word.empty() && text::isAllNumeric(word)) {
+            return word;
+        }
+        rest = rest.substr(0, blank == std::string_view::npos ? 0 : blank);
+    }
+    return {};
+}
+
 std::int64_t EDIQSO::km(const std::optional<Coordinate>& myPlace) const {
     if (const auto logged = text::number(values.valueOrEmpty(distance))) {
         const auto whole = text::wholeNumber(std::trunc(*logged));
@@ -91,12 +132,12 @@ void EDIQSO::appendLine(std::string& text, std::string_view rcvdWWL, std::string
     append(shortDate(values.valueOrEmpty(qsoDate)));
     append(firstCharacters(values.valueOrEmpty(timeOn), 4));
     append(text::upper(call()));
-    append(EDIWriter::ediMode(values[mode]));
+    append(modeCode(values[mode]));
     append(report(values.valueOrEmpty(rstSent)));
     appendSentNumber(text, values.valueOrEmpty(stx));
     text += ';';
     append(report(values.valueOrEmpty(rstRcvd)));
-    append(EDIWriter::serialFromExchange(exchange.empty() ? values.valueOrEmpty(srx) : exchange));
+    append(serialIn(exchange.empty() ? values.valueOrEmpty(srx) : exchange));
     append("");  // the exchange received, which is not kept apart from its number
     append(rcvdWWL);
     append(points);

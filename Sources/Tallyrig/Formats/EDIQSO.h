@@ -25,6 +25,11 @@ class EDIQSO {
     std::string_view gridsquare() const;
     std::string_view country() const;
 
+    /// The code of a mode, as `EDIWriter::ediMode` explains, and the number in an exchange, as its
+    /// `serialFromExchange` does.
+    static std::string_view modeCode(std::optional<std::string_view> mode);
+    static std::string_view serialIn(std::optional<std::string_view> exchange);
+
     /// The kilometres that the QSO counts from `myPlace`, as `EDIWriter::qrbKm` explains.
     std::int64_t km(const std::optional<Coordinate>& myPlace) const;
     /// Appends the line of the QSO, as `EDIWriter::qsoLine` explains.

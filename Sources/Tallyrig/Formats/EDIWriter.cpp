@@ -3,14 +3,12 @@
 #include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/EDIQSO.h"
 #include "Tallyrig/Formats/LogLines.h"
-#include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
 #include <iterator>
@@ -236,33 +234,11 @@ std::string EDIWriter::qsoLine(const ADIFRecord& record, std::string_view rcvdWW
 }
 
 std::string_view EDIWriter::ediBand(std::string_view adifBand) {
-    const auto* const known = std::ranges::find(ediBands, text::upper(adifBand), &EDIBand::adif);
-    return known == ediBands.end() ? adifBand : known->edi;
+    return ediBandName(adifBand);
 }
 
 std::string_view EDIWriter::ediMode(std::optional<std::string_view> mode) {
-    struct Mode {
-        std::string_view adif;
-        std::string_view code;
-    };
-    constexpr std::array<Mode, 15> modes = {{{"SSB", "1"},
-                                             {"USB", "1"},
-                                             {"LSB", "1"},
-                                             {"CW", "2"},
-                                             {"AM", "5"},
-                                             {"FM", "6"},
-                                             {"NFM", "6"},
-                                             {"FT8", "7"},
-                                             {"FT4", "7"},
-                                             {"MSK144", "7"},
-                                             {"Q65", "7"},
-                                             {"JT65", "7"},
-                                             {"JT9", "7"},
-                                             {"RTTY", "8"},
-                                             {"SSTV", "9"}}};
-    const std::string name = text::canonicalKey(text::upper(mode.value_or(std::string_view())));
-    const auto* const known = std::ranges::find(modes, name, &Mode::adif);
-    return known == modes.end() ? "1" : known->code;
+    return EDIQSO::modeCode(mode);
 }
 
 std::vector<bool> EDIWriter::computeDupes(std::span<const ADIFRecord> records) {
@@ -278,16 +254,7 @@ std::vector<bool> EDIWriter::computeDupes(std::span<const ADIFRecord> records) {
 }
 
 std::string_view EDIWriter::serialFromExchange(std::optional<std::string_view> exchange) {
-    std::string_view rest = text::trimmedOfBlanks(exchange.value_or(std::string_view()));
-    while (!rest.empty()) {
-        const std::size_t blank = rest.rfind(' ');
-        const std::string_view word = blank == std::string_view::npos ? rest : rest.substr(blank + 1);
-        if (!word.empty() && text::isAllNumeric(word)) {
-            return word;
-        }
-        rest = rest.substr(0, blank == std::string_view::npos ? 0 : blank);
-    }
-    return {};
+    return EDIQSO::serialIn(exchange);
 }
 
 std::int64_t EDIWriter::qrbKm(const ADIFRecord& record, std::string_view myLocator) {
