@@ -1,8 +1,9 @@
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Catalogue/DuplicateCriterion.h"
+#include "Tallyrig/Validation/ADIFSpec317.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
 #include "TallyrigTool/Commands.h"
-#include "TallyrigTool/JsonText.h"
+#include "TallyrigTool/JsonList.h"
 #include "TallyrigTool/LogFile.h"
 #include "TallyrigTool/Usage.h"
 
@@ -93,31 +94,46 @@ void addPayload(nlohmann::ordered_json& json, const ValidationKind& kind) {
     std::visit(add, kind);
 }
 
-std::string jsonOf(const ValidationIssue& issue) {
+nlohmann::ordered_json jsonOf(const ValidationIssue& issue) {
     nlohmann::ordered_json json;
     json["recordIndex"] = issue.recordIndex;
     json["severity"] = issue.severity() == ValidationSeverity::error ? "error" : "warning";
     json["kind"] = nameOf(issue.kind());
     json["message"] = quillon::ADIFFieldCatalog::germanMessage(issue);
     addPayload(json, issue.kind());
-    return json.dump();
+    return json;
 }
 
-/// One line for each finding.
 void writeJson(Output& output, const Checked& result) {
-    std::string head = "{\"file\": ";
-    appendJson(head, result.log.fileName());
-    head += ", \"records\": " + std::to_string(result.log.document.records().size());
-    head += ", \"errors\": " + std::to_string(result.errors);
-    head += ", \"warnings\": " + std::to_string(result.warnings());
-    output.write(head + ", \"issues\": [");
-    bool isFirst = true;
+    JsonList issues(output,
+                    {{"file", result.log.fileName()},
+                     {"records", result.log.document.records().size()},
+                     {"errors", result.errors},
+                     {"warnings", result.warnings()}},
+                    "issues");
     for (const ValidationIssue& issue : result.issues) {
-        output.write(isFirst ? "\n" : ",\n");
-        output.write(jsonOf(issue));
-        isFirst = false;
+        issues.add(jsonOf(issue));
     }
-    output.write(isFirst ? "]}" : "\n]}");
+    issues.finish();
+}
+
+/// The message for a person: of a large group of duplicates it names a few, for each of them would name all
+/// others.
+std::string shortMessage(const ValidationIssue& issue) {
+    constexpr std::size_t mostNumbers = 10;
+    const auto* const duplicate = std::get_if<finding::Duplicate>(&issue.kind());
+    if (duplicate == nullptr || duplicate->otherRecordNumbers.size() <= mostNumbers) {
+        return quillon::ADIFFieldCatalog::germanMessage(issue);
+    }
+    std::vector<std::size_t> first;
+    for (std::size_t index = 0; index < mostNumbers; ++index) {
+        first.push_back(duplicate->otherRecordNumbers[index]);
+    }
+    const auto group = std::make_shared<const std::vector<std::size_t>>(std::move(first));
+    const finding::Duplicate shortened = {duplicate->keyFields, OtherRecordNumbers(group, group->size())};
+    const std::size_t others = duplicate->otherRecordNumbers.size() - mostNumbers;
+    return quillon::ADIFFieldCatalog::germanMessage({issue.recordIndex, shortened}) + " und " +
+           counted(others, "weiteren", "weiteren");
 }
 
 void writeText(Output& output, const Checked& result) {
@@ -135,7 +151,7 @@ void writeText(Output& output, const Checked& result) {
         const std::string number = std::to_string(issue.recordIndex + 1);
         output.write("  Zeile " + std::string(width - number.size(), ' ') + number +
                      (issue.severity() == ValidationSeverity::error ? "  Fehler   " : "  Warnung  ") +
-                     visible(quillon::ADIFFieldCatalog::germanMessage(issue)) + "\n");
+                     visible(shortMessage(issue)) + "\n");
     }
 }
 
@@ -185,10 +201,11 @@ ExitStatus check(const Options& options, Output& output) {
 }  // namespace
 
 Command checkCommand(CLI::App& program) {
-    CLI::App& usage = addCommand(program, "check", "Prüft Logs gegen ADIF 3.1.7 und sucht Dubletten.",
-                                 "tallyrig check --duplicates call_band Examples/befunde.adi\n\n"
-                                 "KRITERIUM ist eines von " +
-                                     criterionNames() + ";\nohne Angabe gilt das erste.");
+    CLI::App& usage = addCommand(
+        program, "check", "Prüft Logs gegen ADIF " + std::string(ADIFSpec::version) + " und sucht Dubletten.",
+        "tallyrig check --duplicates call_band Examples/befunde.adi\n\n"
+        "KRITERIUM ist eines von " +
+            criterionNames() + ";\nohne Angabe gilt das erste.");
     const auto options = std::make_shared<Options>();
     usage.add_option("FILE", options->files, "Die Logs; - liest die Standardeingabe")->required();
     usage.add_option("--duplicates", options->criterion, "Worin Dubletten übereinstimmen (siehe unten)")

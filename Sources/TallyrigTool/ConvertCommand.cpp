@@ -1,15 +1,14 @@
-#include "Tallyrig/Formats/ADXWriter.h"
+#include "Quillon/Platform/Files/LogWriters.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Formats/EDIWriter.h"
-#include "Tallyrig/Log/ADIFWriter.h"
-#include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Validation/ADIFSpec317.h"
+#include "Tallyrig/Validation/ADIFValidator.h"
 #include "TallyrigTool/Commands.h"
 #include "TallyrigTool/LogFile.h"
 #include "TallyrigTool/Usage.h"
 
 #include <CLI/CLI.hpp>
 
-#include <chrono>
 #include <cstddef>
 #include <memory>
 #include <span>
@@ -26,34 +25,15 @@ struct Options {
     std::string format;
     std::string target;
     bool hasNoHeader = false;
-    std::string adifVersion = "3.1.7";
+    std::string adifVersion;  ///< Blank for the current one.
     std::string createdTimestamp;
     std::vector<std::string> settings;  ///< Each "NAME=VALUE".
 };
 
-/// The number of the digits of `text`; negative if there is anything else in it.
-int digits(std::string_view text) {
-    int number = 0;
-    for (const char digit : text) {
-        if (digit < '0' || digit > '9') {
-            return -1;
-        }
-        number = number * 10 + (digit - '0');
-    }
-    return number;
-}
-
 /// Whether `text` is "yyyyMMdd HHmmss" and a moment that the calendar and the clock know.
 bool isTimestamp(std::string_view text) {
-    if (text.size() != 15 || text[8] != ' ' || digits(text.substr(0, 8)) < 0 || digits(text.substr(9)) < 0) {
-        return false;
-    }
-    const std::chrono::year_month_day date{
-        std::chrono::year(digits(text.substr(0, 4))),
-        std::chrono::month(static_cast<unsigned>(digits(text.substr(4, 2)))),
-        std::chrono::day(static_cast<unsigned>(digits(text.substr(6, 2))))};
-    return date.ok() && digits(text.substr(9, 2)) < 24 && digits(text.substr(11, 2)) < 60 &&
-           digits(text.substr(13, 2)) < 60;
+    return text.size() == 15 && text[8] == ' ' && ADIFValidator::isValidDate(text.substr(0, 8)) &&
+           ADIFValidator::isValidTime(text.substr(9));
 }
 
 std::string checkedTimestamp(const std::string& text) {
@@ -85,13 +65,10 @@ Header headerFor(const ADIFDocument& document, const Options& options) {
 }
 
 template <typename Writer>
-std::string writtenBy(const ADIFDocument& document, const Options& options) {
+std::string writtenBy(const Writer& writer, const ADIFDocument& document, const Options& options) {
     if (!options.settings.empty()) {
         throw Failure{"--set gilt nur für cbr und edi (Hilfe: tallyrig convert --help)"};
     }
-    const bool isBlank = text::trimmed(options.adifVersion).empty();
-    const Writer writer{"Quillon", TALLYRIG_VERSION, isBlank ? "3.1.7" : options.adifVersion,
-                        !options.hasNoHeader};
     return options.createdTimestamp.empty() ? writer.write(document)
                                             : writer.write(document, options.createdTimestamp);
 }
@@ -103,8 +80,10 @@ std::string converted(const ADIFDocument& document, const Options& options) {
     if (options.format == "edi") {
         return EDIWriter{headerFor<EDIHeader>(document, options)}.write(document);
     }
-    return options.format == "adx" ? writtenBy<ADXWriter>(document, options)
-                                   : writtenBy<ADIFWriter>(document, options);
+    const bool hasHeader = !options.hasNoHeader;
+    return options.format == "adx"
+               ? writtenBy(quillon::adxWriter(options.adifVersion, hasHeader), document, options)
+               : writtenBy(quillon::adifWriter(options.adifVersion, hasHeader), document, options);
 }
 
 /// The names of header members, in lines of a help page.
@@ -139,7 +118,9 @@ Command convertCommand(CLI::App& program) {
     usage.add_option("-o", options->target, "Die Datei, die geschrieben wird, sonst die Standardausgabe")
         ->type_name("OUT");
     usage.add_flag("--no-header", options->hasNoHeader, "Lässt den Kopf weg (adi, adx)");
-    usage.add_option("--adif-version", options->adifVersion, "ADIF-Version im Kopf, sonst 3.1.7 (adi, adx)")
+    usage
+        .add_option("--adif-version", options->adifVersion,
+                    "ADIF-Version im Kopf, sonst " + std::string(ADIFSpec::version) + " (adi, adx)")
         ->type_name("V");
     usage
         .add_option("--timestamp", options->createdTimestamp,

@@ -1,10 +1,11 @@
 #include "Tallyrig/Text/Characters.h"
 #include "TallyrigTool/Commands.h"
-#include "TallyrigTool/JsonText.h"
+#include "TallyrigTool/JsonList.h"
 #include "TallyrigTool/LogFile.h"
 #include "TallyrigTool/Usage.h"
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -23,47 +24,32 @@ struct Options {
 
 /// `fields` is any range of things with a name, a value and an optional type.
 template <typename Fields>
-void appendFields(std::string& json, const Fields& fields) {
-    json += '[';
-    bool isFirst = true;
+nlohmann::ordered_json jsonOf(const Fields& fields) {
+    auto json = nlohmann::ordered_json::array();
     for (const auto& field : fields) {
-        json += isFirst ? "{\"name\": " : ", {\"name\": ";
-        isFirst = false;
-        appendJson(json, field.name);
-        json += ", \"value\": ";
-        appendJson(json, field.value);
-        json += ", \"type\": ";
+        auto& member = json.emplace_back();
+        member["name"] = field.name;
+        member["value"] = field.value;
+        member["type"] = nullptr;
         if (field.type) {
-            appendJson(json, *field.type);
-        } else {
-            json += "null";
+            member["type"] = *field.type;
         }
-        json += '}';
     }
-    json += ']';
+    return json;
 }
 
-/// One line for each record, so that the document suits line-wise tools too.
 void writeJson(Output& output, const LogFile& log) {
-    std::string json = "{\"file\": ";
-    appendJson(json, log.fileName());
-    json += ", \"format\": ";
-    appendJson(json, formatName(log.format));
-    json += ", \"headerComment\": ";
-    appendJson(json, log.document.headerComment());
-    json += ", \"headerFields\": ";
-    appendFields(json, log.document.headerFields());
-    json += ", \"records\": [";
-    output.write(json);
-    bool isFirst = true;
+    JsonList records(output,
+                     {{"file", log.fileName()},
+                      {"format", formatName(log.format)},
+                      {"headerComment", log.document.headerComment()},
+                      {"headerFields", jsonOf(log.document.headerFields())}},
+                     "records");
     for (const ADIFRecord& record : log.document.records()) {
-        json = isFirst ? "\n{\"fields\": " : ",\n{\"fields\": ";
-        isFirst = false;
-        appendFields(json, record.fields());
-        json += '}';
-        output.write(json);
+        records.add({{"fields", jsonOf(record.fields())}});
     }
-    output.write(isFirst ? "]}\n" : "\n]}\n");
+    records.finish();
+    output.write("\n");
 }
 
 /// Appends `value` with its lines one under the other, `indent` blanks in.
@@ -81,6 +67,9 @@ void appendLines(std::string& text, std::string_view value, std::size_t indent) 
     }
 }
 
+/// How far the values stand in at most: a name of a megabyte is no reason to move all others.
+constexpr std::size_t widestName = 40;
+
 template <typename Fields>
 std::string fieldLines(const Fields& fields) {
     std::vector<std::string> labels;
@@ -90,7 +79,7 @@ std::string fieldLines(const Fields& fields) {
         if (field.type && !field.type->empty()) {
             label += " (" + visible(*field.type) + ")";
         }
-        width = std::max(width, text::characterCount(label));
+        width = std::clamp(text::characterCount(label), width, widestName);
         labels.push_back(std::move(label));
     }
     std::string lines;
@@ -98,7 +87,7 @@ std::string fieldLines(const Fields& fields) {
     for (const auto& field : fields) {
         lines += "  " + *label;
         if (!field.value.empty()) {
-            lines.append(width - text::characterCount(*label) + 2, ' ');
+            lines.append(width - std::min(width, text::characterCount(*label)) + 2, ' ');
         }
         appendLines(lines, field.value, width + 4);
         ++label;

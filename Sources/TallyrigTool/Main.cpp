@@ -1,3 +1,4 @@
+#include "Quillon/Platform/Files/LogWriters.h"
 #include "TallyrigTool/Commands.h"
 #include "TallyrigTool/Console.h"
 #include "TallyrigTool/Usage.h"
@@ -27,19 +28,19 @@ ExitStatus run(int count, const char* const* arguments) {
     const std::vector<Command> commands = {dumpCommand(program), checkCommand(program),
                                            convertCommand(program), distanceCommand(program)};
     try {
-        program.parse(count, arguments);
+        parse(program, {arguments + 1, arguments + count});
     } catch (const CLI::CallForHelp&) {
         print(program.help());
         return ExitStatus::good;
     } catch (const CLI::CallForVersion&) {
-        print("tallyrig " TALLYRIG_VERSION "\n");
+        print("tallyrig " + std::string(quillon::programVersion()) + "\n");
         return ExitStatus::good;
     } catch (const CLI::ParseError& error) {
         throw Failure{usageMessage(program, error)};
     }
     const auto chosen =
         std::ranges::find_if(commands, [](const Command& command) { return command.usage->parsed(); });
-    if (chosen == commands.end()) {
+    if (chosen == commands.end() || !program.remaining().empty()) {
         throw Failure{missingCommandMessage(program)};
     }
     Output output;

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string_view>
@@ -54,6 +55,18 @@ std::string behind(std::string_view mark, const std::string& text) {
     return found == std::string::npos ? text : text.substr(found + mark.size());
 }
 
+/// What stands in front of an argument in brackets, which the parser would take for a list, and in front of
+/// one that begins with this itself.
+constexpr char guard = '\1';
+
+std::string withGuard(const std::string& argument) {
+    return argument.starts_with('[') || argument.starts_with(guard) ? guard + argument : argument;
+}
+
+std::string withoutGuard(const std::string& argument) {
+    return argument.substr(argument.starts_with(guard) ? 1 : 0);
+}
+
 /// The parser's own sentence is English. Its class says what is wrong and the sentence, of which it makes
 /// only a few, with what.
 std::string germanMessage(const CLI::ParseError& error) {
@@ -62,7 +75,7 @@ std::string germanMessage(const CLI::ParseError& error) {
         return "Es fehlt: " + before(" is required", said);
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
-        return "Unbekannte Angabe: " + behind("not expected: ", said);
+        return "Unbekannte Angabe: " + withoutGuard(behind("not expected: ", said));
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
         return "Die Zahl der Werte stimmt nicht: " + before(":", said);
@@ -72,6 +85,18 @@ std::string germanMessage(const CLI::ParseError& error) {
     }
     // What remains comes from our own checks of values.
     return said;
+}
+
+/// The first argument that is meant as a short option, but is none; empty if there is no such argument.
+std::string wordLikeOption(const CLI::App& program) {
+    for (const CLI::App* const command : program.get_subcommands()) {
+        for (const std::string& word : command->remaining()) {
+            if (word.size() > 1 && word.starts_with('-') && !word.starts_with("--")) {
+                return word;
+            }
+        }
+    }
+    return {};
 }
 
 std::string withHint(const std::string& message, const CLI::App& program) {
@@ -106,13 +131,42 @@ CLI::App& addCommand(CLI::App& program, const std::string& name, const std::stri
     return command;
 }
 
+void parse(CLI::App& program, std::vector<std::string> arguments) {
+    const auto mark = std::ranges::find(arguments, "--");
+    std::transform(arguments.begin(), mark, arguments.begin(), withGuard);
+    if (mark != arguments.end()) {
+        // Only names stand behind it. The parser knows it too, but loses those that stand behind a list.
+        std::for_each(arguments.erase(mark), arguments.end(),
+                      [](std::string& name) { name.insert(name.begin(), guard); });
+    }
+    for (CLI::App* const command : program.get_subcommands({})) {
+        for (CLI::Option* const option : command->get_options()) {
+            option->transform(CLI::Validator(
+                [](std::string& value) {
+                    value = withoutGuard(value);
+                    return std::string();
+                },
+                ""));
+        }
+    }
+    // The parser takes them from the end.
+    std::ranges::reverse(arguments);
+    program.parse(std::move(arguments));
+}
+
 std::string usageMessage(const CLI::App& program, const CLI::ParseError& error) {
-    return withHint(germanMessage(error), program);
+    const std::string word = wordLikeOption(program);
+    return withHint(word.empty() ? germanMessage(error)
+                                 : "Unbekannte Angabe: " + word + ". Eine Datei dieses Namens heißt hier ./" +
+                                       word + " oder steht hinter --",
+                    program);
 }
 
 std::string missingCommandMessage(const CLI::App& program) {
     const std::vector<std::string> words = program.remaining();
-    return withHint(words.empty() ? "Es fehlt der Befehl" : "Unbekannter Befehl: " + words.front(), program);
+    return withHint(
+        words.empty() ? "Es fehlt der Befehl" : "Unbekannter Befehl: " + withoutGuard(words.front()),
+        program);
 }
 
 }  // namespace tallyrig::tool

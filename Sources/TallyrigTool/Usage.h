@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -15,6 +16,10 @@ void describeProgram(CLI::App& program);
 /// Adds a command with its help: what it does, and an example of its use.
 CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& does,
                      const std::string& example);
+
+/// Parses the program's `arguments`, its name left out. All options are set up before. Throws what the parser
+/// throws.
+void parse(CLI::App& program, std::vector<std::string> arguments);
 
 /// What is wrong with the call, in German and with a hint to the help.
 std::string usageMessage(const CLI::App& program, const CLI::ParseError& error);

@@ -1,10 +1,12 @@
 #include "Quillon/Platform/AppInfo.h"
 
+#include "Quillon/Platform/Files/LogWriters.h"
+
 namespace quillon {
 
 QString appVersion() {
-    const QString version = QStringLiteral(QUILLON_VERSION);
-    return version.isEmpty() ? QStringLiteral("dev") : version;
+    const std::string_view version = programVersion();
+    return QString::fromUtf8(version.data(), static_cast<qsizetype>(version.size()));
 }
 
 }  // namespace quillon

@@ -1,15 +1,12 @@
-#include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/Files.h"
+#include "Quillon/Platform/Files/LogWriters.h"
 #include "Quillon/Platform/LogFileTypes.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
-#include "Tallyrig/Formats/ADXWriter.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Formats/LogReader.h"
-#include "Tallyrig/Log/ADIFWriter.h"
-#include "Tallyrig/Text/Text.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <QFileInfo>
@@ -26,15 +23,11 @@ using tallyrig::ADIFDocument;
 
 /// The log as it is saved at `path`, as the user set it up: ADX for that extension, ADI text for any other.
 std::string textFor(const QString& path, const ADIFDocument& document, const Settings& settings) {
-    const std::string stored = settings.string(setting::adifVersion).toStdString();
-    const bool isBlank = tallyrig::text::trimmedOfBlanks(stored).empty();
-    const std::string version = isBlank ? "3.1.7" : stored;
+    const std::string version = settings.string(setting::adifVersion).toStdString();
     const bool writeHeader = settings.boolean(setting::writeHeaderOnSave, true);
-    const std::string programVersion = appVersion().toStdString();
-    if (extensionOf(path).toLower() == QLatin1String("adx")) {
-        return tallyrig::ADXWriter{"Quillon", programVersion, version, writeHeader}.write(document);
-    }
-    return tallyrig::ADIFWriter{"Quillon", programVersion, version, writeHeader}.write(document);
+    return extensionOf(path).toLower() == QLatin1String("adx")
+               ? adxWriter(version, writeHeader).write(document)
+               : adifWriter(version, writeHeader).write(document);
 }
 
 QString failure(const QString& what, const QString& path, const std::string& why) {

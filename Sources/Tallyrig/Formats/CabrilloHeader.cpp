@@ -1,6 +1,7 @@
 #include "Tallyrig/Formats/CabrilloHeader.h"
 
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Log/ProgramName.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -52,7 +53,7 @@ CabrilloHeader CabrilloHeader::suggested(const ADIFDocument& document) {
     header.contest = text::upper(firstValue(document, {"CONTEST_ID"}));
     header.categoryBand = "ALL";
     header.categoryMode = "MIXED";
-    header.createdBy = "Quillon";
+    header.createdBy = programName;
     return header;
 }
 
