@@ -43,4 +43,9 @@ QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
 
 QuillonApp::~QuillonApp() = default;
 
+void QuillonApp::tellOutOfMemory() {
+    logStore.setErrorMessage(
+        QStringLiteral("Der Arbeitsspeicher reicht dafür nicht.\nDas Log ist, wie es vorher war."));
+}
+
 }  // namespace quillon

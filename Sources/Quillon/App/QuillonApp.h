@@ -25,6 +25,8 @@ class QuillonApp {
 
     LogStore& store() { return logStore; }
     ContentView& window() { return *contentView; }
+    /// Tells the user that what was asked for last was given up.
+    void tellOutOfMemory();
 
   private:
     QTranslator translator;  ///< The words of Qt's own dialogs.

@@ -1,9 +1,8 @@
+#include "Quillon/App/Application.h"
 #include "Quillon/App/QuillonApp.h"
 #include "Quillon/App/Terminal.h"
 #include "Quillon/App/WindowPicture.h"
 #include "Quillon/Views/Window/ContentView.h"
-
-#include <QApplication>
 
 #include <csignal>
 #include <cstddef>
@@ -17,7 +16,7 @@ int main(int argumentCount, char** argumentValues) {
     // A file that may not grow further is a failed write like any other.
     std::signal(SIGXFSZ, SIG_IGN);
     qInstallMessageHandler(quillon::endWithoutDisplay);
-    QApplication application(argumentCount, argumentValues);
+    quillon::Application application(argumentCount, argumentValues);
     qInstallMessageHandler(nullptr);
     QStringList arguments = QApplication::arguments().mid(1);
     const auto picture = quillon::WindowPicture::takenFrom(arguments);
@@ -25,6 +24,7 @@ int main(int argumentCount, char** argumentValues) {
         picture->prepare();
     }
     quillon::QuillonApp quillonApp(application, arguments);
+    application.whenOutOfMemory([&quillonApp] { quillonApp.tellOutOfMemory(); });
     if (picture) {
         picture->takeOf(quillonApp);
     }
