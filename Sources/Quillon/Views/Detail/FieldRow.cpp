@@ -78,9 +78,13 @@ void LogTextField::keyPressEvent(QKeyEvent* event) {
 void LogTextField::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* const menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const QString& own : {QStringLiteral("edit-undo"), QStringLiteral("edit-redo")}) {
-        if (auto* const action = menu->findChild<QAction*>(own)) {
+    if (!isReadOnly()) {
+        // Undo and redo, with the line below them.
+        for (QAction* const action : menu->actions()) {
             menu->removeAction(action);
+            if (action->isSeparator()) {
+                break;
+            }
         }
     }
     menu->addSeparator();

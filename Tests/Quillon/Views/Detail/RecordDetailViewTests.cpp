@@ -6,6 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QTest>
 #include <QToolButton>
 
@@ -134,6 +138,17 @@ TEST_F(RecordDetail, RemovesTheFieldOfTheButtonOrOfTheKeyAndNoOther) {
     QTest::keyClick(&field(1), Qt::Key_Delete, Qt::ControlModifier);
     QTest::keyClick(&field(0), Qt::Key_Delete, Qt::ControlModifier);
     EXPECT_EQ(testing::shownTexts(view), "Felder");
+}
+
+TEST_F(RecordDetail, LeavesUndoToTheLogInTheContextMenu) {
+    openLog({"CALL=DL1ABC BAND=20m"});
+    select({0});
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&field(1), &wanted);
+    const QList<QAction*> actions = field(1).findChild<QMenu*>()->actions();
+    EXPECT_TRUE(actions.first()->text().startsWith(QStringLiteral("Cu&t"))) << "undo and redo stood above it";
+    actions.last()->trigger();
+    EXPECT_EQ(fields(), "Rufzeichen=DL1ABC");
 }
 
 TEST_F(RecordDetail, FollowsChangesMadeElsewhere) {
