@@ -21,5 +21,9 @@ Command dumpCommand(CLI::App& program);
 Command checkCommand(CLI::App& program);
 Command convertCommand(CLI::App& program);
 Command distanceCommand(CLI::App& program);
+Command callCommand(CLI::App& program);
+Command contestsCommand(CLI::App& program);
+Command rulesCommand(CLI::App& program);
+Command scoreCommand(CLI::App& program);
 
 }  // namespace tallyrig::tool

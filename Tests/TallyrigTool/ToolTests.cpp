@@ -1,15 +1,10 @@
+#include "TallyrigTool/ToolFixture.h"
+
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -18,63 +13,7 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
-/// What a run of the tool left behind.
-struct Ran {
-    int status = -1;
-    std::string output;
-    std::string complaint;
-};
-
-/// Runs the built tool in a folder of its own, in which the project's `Examples` are found.
-class Tool : public testing::Test {
-  protected:
-    Tool() {
-        std::string pattern = fs::temp_directory_path() / "tallyrig-XXXXXX";
-        folder = ::mkdtemp(pattern.data());
-        fs::create_directory_symlink(EXAMPLES_FOLDER, folder / "Examples");
-    }
-    ~Tool() override { fs::remove_all(folder); }
-
-    /// The command line as a shell reads it, so that it may redirect the streams.
-    Ran run(const std::string& commandLine, std::string_view input = "") const {
-        write(".in", input);
-        const std::string script = "cd '" + folder.string() + "' && PATH='" TOOL_FOLDER ":'$PATH && { " +
-                                   commandLine + "\n} <.in >.out 2>.err";
-        const int result = std::system(script.c_str());
-        return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, read(".out"), read(".err")};
-    }
-    void write(const std::string& name, std::string_view content) const {
-        std::ofstream(folder / name, std::ios::binary) << content;
-    }
-    std::string read(const std::string& name) const {
-        std::ifstream file(folder / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    /// The names in the folder that a test or the tool put there.
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder)) {
-            const std::string name = entry.path().filename();
-            if (name != "Examples" && name != ".in" && name != ".out" && name != ".err") {
-                names.push_back(name);
-            }
-        }
-        return names;
-    }
-
-    fs::path folder;
-};
-
-std::vector<std::string> linesOf(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
+using namespace tallyrig::tool::testing;
 
 constexpr auto oddLog =
     "Zwei\nZeilen \"hier\"<ADIF_VER:5>3.1.7<EOH>"
@@ -133,7 +72,7 @@ TEST_F(Dump, ShowsTheSameCallsInEachFormatOfAContest) {
             }
         }
         first = first.empty() ? calls : first;
-        EXPECT_EQ(std::ranges::count(calls, ' '), 24);
+        EXPECT_EQ(std::ranges::count(calls, ' '), 26);
         EXPECT_EQ(calls, first) << file;
     }
 }
@@ -345,7 +284,8 @@ using Help = Tool;
 
 TEST_F(Help, ShowsExamplesThatRun) {
     std::size_t examples = 0;
-    for (const std::string page : {"", "dump ", "check ", "convert ", "distance "}) {
+    for (const std::string page :
+         {"", "dump ", "check ", "convert ", "distance ", "call ", "contests ", "rules ", "score "}) {
         for (const std::string& line : linesOf(run("tallyrig " + page + "--help").output)) {
             if (line.starts_with("  tallyrig ")) {
                 ++examples;
@@ -353,7 +293,7 @@ TEST_F(Help, ShowsExamplesThatRun) {
             }
         }
     }
-    EXPECT_EQ(examples, 7);
+    EXPECT_EQ(examples, 11);
     EXPECT_EQ(run("tallyrig --version").output, "tallyrig " TOOL_VERSION "\n");
 }
 
@@ -380,7 +320,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 9);
+    EXPECT_EQ(commands, 13);
 }
 
 }  // namespace

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Quillon/Catalogue/Contests.h"
+#include "Quillon/Catalogue/OwnStation.h"
+#include "Tallyrig/Contest/ContestRules.h"
+
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace tallyrig::tool {
+
+/// What a command is told of the contest and of the own station.
+struct ContestOptions {
+    std::string contest;  ///< The raw value; has been found to be one when a command runs.
+    quillon::OwnStation station;
+
+    /// Adds the options. `name` is that of the contest's own: "--contest", or "CONTEST" for a positional.
+    void addTo(CLI::App& usage, const std::string& name);
+
+    quillon::Contest chosen() const;
+    ContestRules rules() const;
+};
+
+}  // namespace tallyrig::tool
