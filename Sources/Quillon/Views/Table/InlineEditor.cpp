@@ -111,12 +111,12 @@ void InlineEditor::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            commit();
+            commit(Leave::stay);
             event->accept();
             break;
         case Qt::Key_Escape:
             if (escape == Escape::commits) {
-                commit();
+                commit(Leave::stay);
             } else {
                 dismiss();
             }

@@ -13,8 +13,13 @@ class InlineEditor : public QLineEdit {
     Q_OBJECT
 
   public:
-    /// Where the focus is to go on leaving the field.
-    enum class Leave { stay, forward, backward };
+    /// Where the user goes on leaving the field.
+    enum class Leave {
+        stay,      ///< Nowhere: by Return or Escape.
+        forward,   ///< To the next cell.
+        backward,  ///< To the one before.
+        away,      ///< To another part of the window, or a command is run.
+    };
 
     /// What the Escape key does to what stands in the field.
     enum class Escape { commits, drops };
@@ -26,7 +31,7 @@ class InlineEditor : public QLineEdit {
     /// committed first. The place is set with `setGeometry`.
     void begin(const QString& draft);
     /// Hides the field and then commits what stands in it; nothing happens if it is not open.
-    void commit(Leave leave = Leave::stay);
+    void commit(Leave leave = Leave::away);
     /// Hides the field without a word, as for a cell that is gone.
     void dismiss();
 

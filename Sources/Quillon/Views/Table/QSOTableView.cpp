@@ -1,7 +1,9 @@
 #include "Quillon/Views/Table/QSOTableView.h"
 
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Stores/RecordChanges.h"
 #include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Table/ColumnCommands.h"
 #include "Quillon/Views/Table/ColumnToolbar.h"
 #include "Quillon/Views/Table/FileInfoBar.h"
@@ -10,8 +12,11 @@
 #include "Quillon/Views/Table/TableQuestions.h"
 #include "Quillon/Views/Table/TableScroll.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <vector>
 
 namespace quillon {
@@ -42,6 +47,10 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
                               &LogStore::columnWidthsChanged, &LogStore::checkResultsChanged}) {
         connect(&store, signal, this, &QSOTableView::refreshGeometry);
     }
+    connect(rows, &TableBody::currentCellChanged, this, [this] { useFrom(Part::rows); });
+    connect(headerRow, &TableHeader::currentColumnChanged, this, [this] { useFrom(Part::header); });
+    connect(rows, &TableBody::menuAboutToShow, this, &QSOTableView::menuAboutToShow);
+    connect(headerRow, &TableHeader::menuAboutToShow, this, &QSOTableView::menuAboutToShow);
     refreshGeometry();
 }
 
@@ -51,8 +60,108 @@ QSOTableView::~QSOTableView() {
     rows->dismissEditor();
 }
 
-void QSOTableView::scrollToRecord(tallyrig::UUID id) {
-    rows->showRecord(id);
+void QSOTableView::undo() {
+    store.undo();
+    showLastStep();
+}
+
+void QSOTableView::redo() {
+    store.redo();
+    showLastStep();
+}
+
+void QSOTableView::showLastStep() {
+    const RecordChanges changes = store.changesOfLastStep();
+    if (!changes.records.empty()) {
+        rows->reveal(changes.records.front(), changes.fieldName);
+    }
+}
+
+void QSOTableView::addRecord() {
+    store.setSearchText({});
+    store.addRecord();
+    const auto row = store.displayedRow(*store.selection().begin());
+    const auto call = std::ranges::find(store.columns(), "CALL");
+    rows->startEditing(
+        {*row, call == store.columns().end() ? 0 : static_cast<std::size_t>(call - store.columns().begin())});
+}
+
+void QSOTableView::deleteSelected() {
+    const std::size_t hidden = store.hiddenSelectionCount();
+    if (hidden == 0 || questions.confirmDeletion(store.selection().size(), hidden)) {
+        store.deleteSelected();
+    }
+}
+
+void QSOTableView::copySelection() const {
+    if (!store.selection().empty()) {
+        QGuiApplication::clipboard()->setText(toQString(store.selectionAsADIF()));
+    }
+}
+
+void QSOTableView::pasteRecords() {
+    if (store.pasteRecords(QGuiApplication::clipboard()->text().toStdString()) == 0) {
+        return;
+    }
+    store.setSearchText({});
+    const tallyrig::ADIFRecordList& records = store.document().records();
+    rows->showRecord(records[records.size() - 1].id());
+}
+
+void QSOTableView::editCell() {
+    if (const auto cell = rows->framedCell()) {
+        rows->startEditing(*cell);
+    }
+}
+
+void QSOTableView::goToRow() {
+    const std::size_t count = store.document().records().size();
+    const auto number = count > 0 ? questions.rowNumber(count) : std::nullopt;
+    if (number && *number >= 1 && *number <= count) {
+        showCell(store.document().records()[*number - 1].id());
+        rows->setFocus();
+    }
+}
+
+void QSOTableView::renameColumn() {
+    if (const auto column = chosenColumn()) {
+        headerRow->startRename(*column);
+    }
+}
+
+bool QSOTableView::hasFramedCell() const {
+    return rows->framedCell() && !store.columns().empty();
+}
+
+std::optional<std::string> QSOTableView::chosenColumn() const {
+    std::optional<std::size_t> column;
+    if (lastUsed == Part::header) {
+        column = headerRow->currentColumn();
+    } else if (rows->currentCell()) {
+        column = rows->currentCell()->column;
+    }
+    return column && *column < store.columns().size() ? std::optional(store.columns()[*column])
+                                                      : std::nullopt;
+}
+
+void QSOTableView::useFrom(Part part) {
+    lastUsed = part;
+    emit currentCellChanged();
+}
+
+void QSOTableView::showCell(tallyrig::UUID record, const std::string& column) {
+    if (!store.indexOf(record)) {
+        return;
+    }
+    if (!store.displayedRow(record)) {
+        store.setSearchText({});
+    }
+    store.setSelection({record}, record);
+    rows->showRecord(record, column);
+}
+
+void QSOTableView::enterRows() {
+    rows->enter();
 }
 
 void QSOTableView::commitEditing() {
@@ -87,6 +196,7 @@ void QSOTableView::refreshGeometry() {
     tableScroll->setContentSize({geometry.totalWidth(), geometry.contentHeight()});
     headerRow->setTableGeometry(geometry);
     rows->setTableGeometry(geometry);
+    emit currentCellChanged();
 }
 
 }  // namespace quillon

@@ -4,6 +4,9 @@
 
 #include <QWidget>
 
+#include <optional>
+#include <string>
+
 namespace quillon {
 
 class ColumnToolbar;
@@ -28,9 +31,37 @@ class QSOTableView : public QWidget {
     /// first.
     ~QSOTableView() override;
 
-    /// Makes the record's row the current one and brings it into view. Nothing happens if the search hides
-    /// it.
-    void scrollToRecord(tallyrig::UUID id);
+    // What the commands do.
+    /// A step in the history; what it changed comes into view.
+    void undo();
+    void redo();
+    /// A new QSO, selected and with its call open for typing. A search, which would hide it, ends.
+    void addRecord();
+    /// Asks first if the search hides some of the selected QSOs: they go, too.
+    void deleteSelected();
+    /// The selected QSOs as ADI text to the clipboard. Nothing happens without a selection.
+    void copySelection() const;
+    /// The QSOs in the ADI text on the clipboard as new ones, selected and in view. A search, which could
+    /// hide them, ends. Nothing happens if there are none.
+    void pasteRecords();
+    /// Opens the framed cell. Nothing happens if none is.
+    void editCell();
+    /// Asks for the number of a QSO in the log and shows it.
+    void goToRow();
+    /// Opens the editor of the chosen column's name.
+    void renameColumn();
+
+    bool hasFramedCell() const;
+    /// The column that the commands for columns are about: where the keyboard is, or was last, in the rows or
+    /// in the header.
+    std::optional<std::string> chosenColumn() const;
+
+    /// Selects the record and puts the frame on the cell in `column`, both in view; on the column where the
+    /// keyboard was if there is none of that name. A search that hides the record ends. Nothing happens if
+    /// the log does not hold the record.
+    void showCell(tallyrig::UUID record, const std::string& column = {});
+    /// Gives the keyboard to the rows, as they are left from what stands above them.
+    void enterRows();
 
     /// Writes what stands in an open cell editor and closes it.
     void commitEditing();
@@ -42,7 +73,17 @@ class QSOTableView : public QWidget {
     TableBody& body() const { return *rows; }
     TableScroll& scroll() const { return *tableScroll; }
 
+  signals:
+    /// The current or the framed cell or the chosen column may be another one.
+    void currentCellChanged();
+    /// The context menu of rows or columns is about to open.
+    void menuAboutToShow();
+
   private:
+    enum class Part { rows, header };
+
+    void useFrom(Part part);
+    void showLastStep();
     void showAddColumn();
     void refreshGeometry();
     void followDocument();
@@ -54,6 +95,7 @@ class QSOTableView : public QWidget {
     TableScroll* tableScroll;
     TableHeader* headerRow;
     TableBody* rows;
+    Part lastUsed = Part::rows;  ///< Which of them says what the chosen column is.
 };
 
 }  // namespace quillon

@@ -1,5 +1,6 @@
 #include "Quillon/Views/Table/TableBody.h"
 
+#include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Controls/Labels.h"
@@ -7,8 +8,6 @@
 #include "Quillon/Views/Table/TableAccessibility.h"
 #include "Quillon/Views/Table/TableScroll.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -18,7 +17,7 @@
 namespace quillon {
 namespace {
 
-constexpr double currentFrameWidth = 2;
+constexpr double frameWidth = 2;
 
 }  // namespace
 
@@ -29,11 +28,14 @@ TableBody::TableBody(LogStore& logStore, TableScroll& tableScroll)
       cellEditor(new InlineEditor(InlineEditor::Escape::commits, this)),
       emptyOverlay(new EmptyState(QStringLiteral("network-wireless-hotspot"),
                                   QStringLiteral("Kein Logbuch geladen"),
-                                  QStringLiteral("Öffne eine ADIF-Datei oder füge ein QSO hinzu."), this)) {
+                                  QStringLiteral("Öffne eine ADIF-Datei oder füge ein QSO hinzu."), this)),
+      current(logStore) {
     registerTableAccessibility();
     // A click takes the focus by itself: first it must be known which row lies under the pointer, since an
     // editor that loses the focus writes, and what it writes can move the rows.
     setFocusPolicy(Qt::TabFocus);
+    // For letters that are put together from several keys.
+    setAttribute(Qt::WA_InputMethodEnabled);
     setMinimumSize(60, static_cast<int>(3 * TableGeometry::rowHeight));
     setAccessibleName(QStringLiteral("QSO-Tabelle"));
     emptyOverlay->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -92,14 +94,21 @@ void TableBody::paintEvent(QPaintEvent* event) {
             rowView(row).paint(painter, {-scroll.scrollX(), top}, exposed, geometry, palette());
         }
     }
-    if (current && hasFocus() && geometry.columnCount() > 0) {
-        const QRectF frame =
-            cellArea(*current).adjusted(0, 0, -TableGeometry::dividerWidth, -TableGeometry::separatorHeight);
-        const QColor accent = palette().color(QPalette::Highlight);
-        painter.setPen(QPen(accent, currentFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        const double inset = currentFrameWidth / 2;
-        painter.drawRect(frame.adjusted(inset, inset, -inset, -inset));
+    paintFrame(painter);
+}
+
+void TableBody::paintFrame(QPainter& painter) const {
+    if (!current.position() || !hasFocus() || geometry.columnCount() == 0) {
+        return;
     }
+    const bool isFramed = current.isFramed();
+    const double width = isFramed ? frameWidth : 1;
+    painter.setPen(QPen(palette().color(isFramed ? QPalette::Highlight : QPalette::Text), width,
+                        isFramed ? Qt::SolidLine : Qt::DotLine, Qt::SquareCap, Qt::MiterJoin));
+    const double inset = width / 2;
+    painter.drawRect(cellArea(*current.position())
+                         .adjusted(inset, inset, -TableGeometry::dividerWidth - inset,
+                                   -TableGeometry::separatorHeight - inset));
 }
 
 void TableBody::resizeEvent(QResizeEvent*) {
@@ -112,63 +121,86 @@ QPointF TableBody::contentPoint(QPointF point) const {
 
 // The current cell.
 
+std::optional<CellPosition> TableBody::framedCell() const {
+    return current.isFramed() ? current.position() : std::nullopt;
+}
+
 void TableBody::setCurrentCell(CellPosition cell) {
     if (cell.row >= geometry.rowCount()) {
         return;
     }
-    CellContent content = contentOf(cell);
-    if (cellEditor->isOpen() && content != currentContent) {
+    const CellContent content = current.contentOf(cell);
+    if (cellEditor->isOpen() && content != current.content()) {
         cellEditor->commit();
-        cell = positionOf(content).value_or(cell);
+        cell = current.positionOf(content).value_or(cell);
     }
-    current = geometry.nearestCell(cell);
-    if (current) {
-        currentContent = contentOf(*current);
-        bringIntoView(*current);
-        announceCurrentCell(*this);
+    if (const auto nearest = geometry.nearestCell(cell)) {
+        current.set(*nearest);
+        bringIntoView(*nearest);
+        noteCurrentCell();
     }
     update();
 }
 
-void TableBody::showRecord(tallyrig::UUID id) {
-    const std::optional<std::size_t> row = store.displayedRow(id);
-    if (!row) {
+void TableBody::noteCurrentCell() {
+    announceCurrentCell(*this);
+    emit currentCellChanged();
+}
+
+void TableBody::showRecord(tallyrig::UUID id, std::string_view column) {
+    std::optional<CellPosition> cell = current.positionIn(id);
+    if (!cell) {
         return;
     }
-    const double inView = geometry.scrollYShowing(*row, scroll.scrollY(), height());
-    if (inView != scroll.scrollY()) {
-        scroll.setScrollY(geometry.rowRect(*row).center().y() - height() / 2.0);
+    const auto wanted = std::ranges::find(store.columns(), column);
+    if (wanted != store.columns().end()) {
+        cell->column = static_cast<std::size_t>(wanted - store.columns().begin());
     }
-    setCurrentCell({*row, current ? current->column : 0});
+    const double inView = geometry.scrollYShowing(cell->row, scroll.scrollY(), height());
+    if (inView != scroll.scrollY()) {
+        scroll.setScrollY(geometry.rowRect(cell->row).center().y() - height() / 2.0);
+    }
+    setCurrentCell(*cell);
+}
+
+void TableBody::reveal(tallyrig::UUID id, std::string_view column) {
+    const std::optional<CellPosition> cell = current.positionIn(id);
+    if (cell && store.selection().size() == 1 && !store.selection().contains(id)) {
+        bringIntoView(*cell);
+    } else if (cell) {
+        showRecord(id, column);
+    }
+}
+
+void TableBody::enter() {
+    if (geometry.rowCount() > 0 && !showsSelection()) {
+        setCurrentCell(firstInView());
+        select(current.content().record, {});
+    } else if (!current.position() && store.selection().size() == 1) {
+        showRecord(*store.selection().begin());
+    }
+    setFocus(Qt::OtherFocusReason);
 }
 
 void TableBody::startOver() {
     cellEditor->dismiss();
-    current.reset();
+    current.clear();
     scroll.setScrollX(0);
     scroll.setScrollY(0);
 }
 
-/// What stands in the cell keeps being the current one when rows or columns have moved; where it is gone, the
-/// nearest takes its place.
 void TableBody::followContent() {
-    if (!current) {
-        return;
-    }
-    const std::optional<CellPosition> found = positionOf(currentContent);
-    if (!found) {
+    if (!current.follow(geometry)) {
         cellEditor->dismiss();
     }
-    current = geometry.nearestCell(found.value_or(*current));
-    if (current) {
-        currentContent = contentOf(*current);
+    if (!cellEditor->isOpen()) {
+        current.rejoinSelection();
     }
 }
 
 /// A single record that was selected elsewhere is where the keyboard should be, too.
 void TableBody::followSelection() {
-    if (!isSelecting && store.selection().size() == 1 &&
-        (!current || !store.selection().contains(currentContent.record))) {
+    if (!isSelecting && store.selection().size() == 1 && !current.isFramed()) {
         showRecord(*store.selection().begin());
     }
     announceSelection(*this);
@@ -182,34 +214,29 @@ void TableBody::select(tallyrig::UUID id, Qt::KeyboardModifiers keys) {
         id, {.command = keys.testFlag(Qt::ControlModifier), .shift = keys.testFlag(Qt::ShiftModifier)});
 }
 
-TableBody::CellContent TableBody::contentOf(CellPosition cell) const {
-    return {store.displayedRecord(cell.row).id(),
-            cell.column < store.columns().size() ? store.columns()[cell.column] : std::string()};
-}
-
-std::optional<CellPosition> TableBody::positionOf(const CellContent& content) const {
-    const auto column = std::find(store.columns().begin(), store.columns().end(), content.column);
-    if (column == store.columns().end()) {
-        return std::nullopt;
-    }
-    std::optional<std::size_t> row;
-    if (current && current->row < geometry.rowCount() &&
-        store.displayedRecord(current->row).id() == content.record) {
-        row = current->row;
-    } else {
-        row = store.displayedRow(content.record);
-    }
-    if (!row) {
-        return std::nullopt;
-    }
-    return CellPosition{*row, static_cast<std::size_t>(column - store.columns().begin())};
-}
-
 void TableBody::bringIntoView(CellPosition cell) {
     scroll.setScrollY(geometry.scrollYShowing(cell.row, scroll.scrollY(), height()));
     if (cell.column < geometry.columnCount()) {
         scroll.setScrollX(geometry.scrollXShowing(cell.column, scroll.scrollX(), width()));
     }
+}
+
+/// The first cell of the first row that is in view whole.
+CellPosition TableBody::firstInView() const {
+    return {geometry.rowAt(scroll.scrollY() + TableGeometry::rowHeight - 1).value_or(0), 0};
+}
+
+bool TableBody::showsSelection() const {
+    const LogStore::Selection& selected = store.selection();
+    if (selected.size() == 1) {
+        return store.displayedRow(*selected.begin()).has_value();
+    }
+    for (std::size_t row = 0; !selected.empty() && row < geometry.rowCount(); ++row) {
+        if (selected.contains(store.displayedRecord(row).id())) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // Editing.
@@ -220,59 +247,79 @@ void TableBody::startEditing(CellPosition cell) {
     }
     setCurrentCell(cell);
     // What was written on the way may have left no row that the search finds.
-    if (cellEditor->isOpen() || !current) {
+    if (cellEditor->isOpen() || !current.position()) {
         return;
     }
-    const std::string_view value = store.cell(currentContent.record, currentContent.column);
+    const CellContent& content = current.content();
+    const std::string_view value = store.cell(content.record, content.column);
     if (value.size() > longestEditableValue) {
         store.setErrorMessage(tooLongMessage(value.size()));
         return;
     }
-    cellEditor->setAccessibleName(toQString(currentContent.column));
+    if (!store.selection().contains(content.record)) {
+        select(content.record, {});
+    }
+    cellEditor->setAccessibleName(toQString(ADIFFieldCatalog::label(content.column)));
     cellEditor->begin(toQString(value));
     placeEditor();
 }
 
+/// As in a spreadsheet: the text takes the place of what stands in the cell.
+void TableBody::typeIntoFrame(const QString& text) {
+    if (const auto cell = framedCell()) {
+        startEditing(*cell);
+        if (cellEditor->isOpen()) {
+            cellEditor->insert(text);
+        }
+    }
+}
+
 void TableBody::writeCurrent(const QString& draft) {
-    store.setCell(currentContent.record, currentContent.column, draft.toStdString());
+    const CellContent written = current.content();  // What follows from the write can move the current cell.
+    store.setCell(written.record, written.column, draft.toStdString());
 }
 
 void TableBody::finishEditing(const QString& draft, InlineEditor::Leave leave) {
+    const CellContent left = current.content();
     std::optional<CellContent> next;
-    if (leave != InlineEditor::Leave::stay && current) {
+    if (current.position() &&
+        (leave == InlineEditor::Leave::forward || leave == InlineEditor::Leave::backward)) {
         // Taken before the write, which can move this row but shall not change which cell is the next.
-        const auto cell = leave == InlineEditor::Leave::forward ? geometry.cellAfter(*current)
-                                                                : geometry.cellBefore(*current);
+        const auto cell = leave == InlineEditor::Leave::forward ? geometry.cellAfter(*current.position())
+                                                                : geometry.cellBefore(*current.position());
         if (cell) {
-            next = contentOf(*cell);
+            next = current.contentOf(*cell);
         }
     }
-    const tallyrig::UUID left = currentContent.record;
     writeCurrent(draft);
-    if (!next) {
+    if (leave == InlineEditor::Leave::away || !current.position()) {
         return;
     }
-    if (const auto cell = positionOf(*next)) {
-        startEditing(*cell);
-        if (next->record != left) {
+    const auto cell = next ? current.positionOf(*next) : std::nullopt;
+    if (cell) {
+        if (next->record != left.record) {
             select(next->record, {});
         }
+        startEditing(*cell);
+    } else if (leave == InlineEditor::Leave::stay) {
+        // The row may have moved to where the sort puts it. If the search hides it now, the one that came up
+        // in its place is the next to work on.
+        bringIntoView(*current.position());
+        if (!current.isFramed()) {
+            select(current.content().record, {});
+        }
+    } else if (current.content().record != left.record) {
+        // What is typed next was meant for the record that is gone from sight.
+        current.clear();
     }
 }
 
 void TableBody::placeEditor() {
-    if (cellEditor->isOpen() && current) {
+    if (cellEditor->isOpen() && current.position()) {
         cellEditor->setGeometry(
-            cellArea(*current)
+            cellArea(*current.position())
                 .adjusted(0, 0, -TableGeometry::dividerWidth, -TableGeometry::separatorHeight)
                 .toRect());
-    }
-}
-
-void TableBody::copySelection() const {
-    const std::string text = store.selectionAsADIF();
-    if (!store.selection().empty()) {
-        QGuiApplication::clipboard()->setText(toQString(text));
     }
 }
 

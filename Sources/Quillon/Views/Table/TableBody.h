@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Views/Table/CurrentCell.h"
 #include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/QSORowView.h"
 #include "Quillon/Views/Table/TableGeometry.h"
@@ -9,7 +10,9 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
+#include <string_view>
+
+class QPainter;
 
 namespace quillon {
 
@@ -19,10 +22,9 @@ class TableScroll;
 
 /// The rows of the table as far as they are in view, with the editor that is put over one cell.
 ///
-/// The current cell is where the keyboard is; it belongs to its record and follows it when rows move. The
-/// selection is the store's. Arrows, page keys, Home and End move both, with shift from the anchor, with
-/// control the current cell alone; the space bar selects, with control it toggles. Return and F2 edit, Delete
-/// removes the selected QSOs.
+/// The current cell is where the keyboard is, the selection is the store's. Arrows, page keys, Home and End
+/// move both, with shift from the anchor, with control the current cell alone; the space bar selects, with
+/// control it toggles. A letter opens the framed cell and replaces what is in it.
 class TableBody : public QWidget {
     Q_OBJECT
 
@@ -42,12 +44,20 @@ class TableBody : public QWidget {
     QRectF cellArea(CellPosition cell) const;
 
     /// Absent while there are no rows or the keyboard was never here.
-    const std::optional<CellPosition>& currentCell() const { return current; }
+    const std::optional<CellPosition>& currentCell() const { return current.position(); }
+    /// The current cell if what is typed goes into it.
+    std::optional<CellPosition> framedCell() const;
     /// Moves the keyboard there and brings the cell into view. The selection stays.
     void setCurrentCell(CellPosition cell);
-    /// Makes the record's row the current one and brings it into view, in the middle if it was out of it.
-    /// Nothing happens if it is not displayed.
-    void showRecord(tallyrig::UUID id);
+    /// Makes the record's row the current one and brings it into view, in the middle if it was out of it, in
+    /// the column `column` if there is one of that name. Nothing happens if the record is not displayed.
+    void showRecord(tallyrig::UUID id, std::string_view column = {});
+    /// The same for a record that is not the user's choice: where another one is selected, the frame stays on
+    /// that.
+    void reveal(tallyrig::UUID id, std::string_view column);
+    /// Takes the focus from the keyboard. If no displayed QSO is selected, the first in view becomes so: what
+    /// the next key does, it does to what the user sees.
+    void enter();
     /// For a log that was just opened: nothing is current and the view is at its upper left corner.
     void startOver();
 
@@ -58,8 +68,11 @@ class TableBody : public QWidget {
     /// Closes the editor without writing.
     void dismissEditor() { cellEditor->dismiss(); }
 
-    /// The selected records as ADIF text to the clipboard. Nothing happens without a selection.
-    void copySelection() const;
+  signals:
+    /// The keyboard is at another cell, or now in the rows.
+    void currentCellChanged();
+    /// The context menu, which shows the actions of this widget, is about to open.
+    void menuAboutToShow();
 
   protected:
     bool event(QEvent* event) override;
@@ -68,33 +81,27 @@ class TableBody : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    /// A cell by what it holds and not by where it stands.
-    struct CellContent {
-        tallyrig::UUID record;
-        std::string column;
-
-        friend bool operator==(const CellContent&, const CellContent&) = default;
-    };
-
     QPointF contentPoint(QPointF point) const;
-    CellContent contentOf(CellPosition cell) const;
-    std::optional<CellPosition> positionOf(const CellContent& content) const;
     void followContent();
     void followSelection();
     void select(tallyrig::UUID id, Qt::KeyboardModifiers keys);
     void bringIntoView(CellPosition cell);
-    void setFirstCurrent();
+    CellPosition firstInView() const;
+    bool showsSelection() const;
     bool handleKey(const QKeyEvent& event);
     void moveCurrent(TableMove move, Qt::KeyboardModifiers modifiers);
+    void typeIntoFrame(const QString& text);
+    void paintFrame(QPainter& painter) const;
     void writeCurrent(const QString& draft);
     void finishEditing(const QString& draft, InlineEditor::Leave leave);
     void placeEditor();
-    void openMenu(QPoint globalPosition);
+    void noteCurrentCell();
     QString toolTipAt(QPointF point) const;
 
     LogStore& store;
@@ -102,9 +109,8 @@ class TableBody : public QWidget {
     InlineEditor* cellEditor;
     EmptyState* emptyOverlay;
     TableGeometry geometry;
-    std::optional<CellPosition> current;
-    CellContent currentContent;  ///< What the current cell holds.
-    bool isSelecting = false;    ///< The selection changes from here.
+    CurrentCell current;
+    bool isSelecting = false;  ///< The selection changes from here.
 };
 
 }  // namespace quillon

@@ -1,5 +1,4 @@
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Table/CellView.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
@@ -57,7 +56,8 @@ void TableBody::mousePressEvent(QMouseEvent* event) {
     const std::optional<std::size_t> row = geometry.rowAt(point.y());
     std::optional<CellContent> pressed;
     if (row) {
-        pressed = contentOf({*row, geometry.columnAt(point.x()).value_or(current ? current->column : 0)});
+        const std::size_t lastColumn = current.position() ? current.position()->column : 0;
+        pressed = current.contentOf({*row, geometry.columnAt(point.x()).value_or(lastColumn)});
     }
     cellEditor->commit();
     setFocus(Qt::MouseFocusReason);
@@ -67,11 +67,10 @@ void TableBody::mousePressEvent(QMouseEvent* event) {
         }
         return;
     }
-    if (const auto cell = positionOf(*pressed)) {
+    if (const auto cell = current.positionOf(*pressed)) {
         // Not brought into view: a row that moves under the pointer cannot be double-clicked.
-        current = cell;
-        currentContent = *pressed;
-        announceCurrentCell(*this);
+        current.set(*cell);
+        noteCurrentCell();
         update();
     }
     if (event->button() == Qt::LeftButton) {
@@ -97,32 +96,15 @@ void TableBody::contextMenuEvent(QContextMenuEvent* event) {
         return;
     }
     QPoint position = event->globalPos();
-    if (event->reason() == QContextMenuEvent::Keyboard && current) {
-        bringIntoView(*current);
-        position = mapToGlobal(cellArea(*current).bottomLeft().toPoint());
+    if (event->reason() == QContextMenuEvent::Keyboard && current.position()) {
+        bringIntoView(*current.position());
+        position = mapToGlobal(cellArea(*current.position()).bottomLeft().toPoint());
     }
-    openMenu(position);
-}
-
-void TableBody::openMenu(QPoint globalPosition) {
+    emit menuAboutToShow();
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* edit =
-        menu->addAction(icon(QStringLiteral("document-edit")), QStringLiteral("Bearbeiten"), menu, [this] {
-            if (current) {
-                startEditing(*current);
-            }
-        });
-    edit->setEnabled(current && geometry.columnCount() > 0);
-    QAction* copy = menu->addAction(icon(QStringLiteral("edit-copy")), QStringLiteral("Kopieren"), this,
-                                    &TableBody::copySelection);
-    menu->addSeparator();
-    QAction* remove = menu->addAction(icon(QStringLiteral("edit-delete")), QStringLiteral("QSO löschen"),
-                                      &store, &LogStore::deleteSelected);
-    for (QAction* action : {copy, remove}) {
-        action->setEnabled(!store.selection().empty());
-    }
-    menu->popup(globalPosition);
+    menu->addActions(actions());
+    menu->popup(position);
 }
 
 // The keyboard.
@@ -139,75 +121,64 @@ bool TableBody::handleKey(const QKeyEvent& event) {
         moveCurrent(*move, keys);
         return true;
     }
-    if (event.matches(QKeySequence::Copy)) {
-        copySelection();
+    if (event.key() == Qt::Key_Space) {
+        if (current.position()) {
+            select(current.content().record, keys);
+        }
         return true;
     }
-    if (event.matches(QKeySequence::SelectAll)) {
-        store.selectAllDisplayed();
-        return true;
+    // With AltGr, Control and Alt can be down as well.
+    const bool isCommand = (keys & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0 &&
+                           keys != (Qt::ControlModifier | Qt::AltModifier);
+    if (isCommand || event.text().isEmpty() || !event.text().at(0).isPrint()) {
+        return false;
     }
-    switch (event.key()) {
-        case Qt::Key_Space:
-            if (current) {
-                select(currentContent.record, keys);
-            }
-            return true;
-        case Qt::Key_F2:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (current && keys == Qt::NoModifier) {
-                startEditing(*current);
-            }
-            return true;
-        case Qt::Key_Delete:
-            if (keys == Qt::NoModifier) {
-                store.deleteSelected();
-            }
-            return true;
-        default:
-            return false;
+    typeIntoFrame(event.text());
+    return true;
+}
+
+void TableBody::inputMethodEvent(QInputMethodEvent* event) {
+    if (!event->commitString().isEmpty()) {
+        typeIntoFrame(event->commitString());
     }
+    event->accept();
 }
 
 void TableBody::moveCurrent(TableMove move, Qt::KeyboardModifiers modifiers) {
-    const bool isFirstMove = !current;
-    if (isFirstMove) {
-        setFirstCurrent();
-    }
-    if (!current) {
+    if (geometry.rowCount() == 0) {
         return;
     }
-    const CellContent from = currentContent;
-    if (!isFirstMove) {
-        setCurrentCell(*geometry.target(*current, move, height()));
-    }
-    if (isWithinRow(move)) {
+    // The first key in the table only puts the keyboard somewhere.
+    const bool isFirstMove = !current.position();
+    const CellPosition from = current.position().value_or(firstInView());
+    const tallyrig::UUID fromRecord = current.contentOf(from).record;
+    setCurrentCell(isFirstMove ? from : *geometry.target(from, move, height()));
+    const tallyrig::UUID record = current.content().record;
+    if (isWithinRow(move) && !isFirstMove) {
+        if (!current.isFramed()) {
+            select(record, {});
+        }
         return;
     }
     const bool toTableEnd = move == TableMove::tableStart || move == TableMove::tableEnd;
     if (modifiers.testFlag(Qt::ShiftModifier)) {
         if (!store.selectionAnchor()) {
-            select(from.record, {});
+            select(fromRecord, {});
         }
-        select(currentContent.record, Qt::ShiftModifier);
+        select(record, Qt::ShiftModifier);
     } else if (toTableEnd || !modifiers.testFlag(Qt::ControlModifier)) {
-        select(currentContent.record, {});
-    }
-}
-
-/// Begins at the first row that is in view.
-void TableBody::setFirstCurrent() {
-    if (geometry.rowCount() > 0) {
-        setCurrentCell({geometry.rowAt(scroll.scrollY() + TableGeometry::rowHeight - 1).value_or(0), 0});
+        select(record, {});
     }
 }
 
 void TableBody::focusInEvent(QFocusEvent* event) {
-    if (!current && event->reason() != Qt::MouseFocusReason) {
-        setFirstCurrent();
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        enter();
     }
-    announceCurrentCell(*this);
+    // A menu that closes gives the focus back before its command runs, which may be about the header.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason) {
+        noteCurrentCell();
+    }
     update();
 }
 

@@ -54,6 +54,7 @@ TableHeader::TableHeader(LogStore& logStore, TableQuestions& tableQuestions, Tab
     nameEditor->setAccessibleName(QStringLiteral("Spalte umbenennen"));
     nameEditor->setFont(fontFor(MeasuredFont::tag));
     connect(nameEditor, &InlineEditor::committed, this, &TableHeader::finishRename);
+    connect(&store, &LogStore::errorMessageChanged, this, &TableHeader::reopenRefused, Qt::QueuedConnection);
     connect(&store, &LogStore::sortChanged, this, qOverload<>(&QWidget::update));
     connect(&scroll, &TableScroll::scrollXChanged, this, [this] {
         placeEditor();
@@ -67,12 +68,19 @@ void TableHeader::setTableGeometry(const TableGeometry& tableGeometry) {
         nameEditor->dismiss();
     }
     if (grip && grip->place.column >= geometry.columnCount()) {
-        grip.reset();
+        endGrip();
     }
     hovered = {};
-    setFocusedColumn(focusedColumn);
+    const auto focused = std::ranges::find(store.columns(), focusedName);
+    setFocusedColumn(focused == store.columns().end()
+                         ? focusedColumn
+                         : static_cast<std::size_t>(focused - store.columns().begin()));
     placeEditor();
     update();
+}
+
+std::optional<std::size_t> TableHeader::currentColumn() const {
+    return geometry.columnCount() == 0 ? std::nullopt : std::optional(focusedColumn);
 }
 
 void TableHeader::startRename(const std::string& column) {
@@ -97,6 +105,7 @@ void TableHeader::commitEditing() {
 void TableHeader::dismissEditor() {
     nameEditor->dismiss();
     pendingName.reset();
+    refusedName.reset();
 }
 
 QRectF TableHeader::cellArea(std::size_t column) const {
@@ -158,7 +167,20 @@ void TableHeader::finishRename(const QString& draft) {
 
 void TableHeader::runPendingRename() {
     if (const auto name = std::exchange(pendingName, std::nullopt)) {
-        commitRename(store, questions, std::string(renamedColumn), *name);
+        if (!commitRename(store, questions, std::string(renamedColumn), *name)) {
+            refusedName = name;
+        }
+    }
+}
+
+/// When the user has read why a name was refused, they find what they typed and can mend it.
+void TableHeader::reopenRefused() {
+    if (store.errorMessage()) {
+        return;
+    }
+    if (const auto name = std::exchange(refusedName, std::nullopt)) {
+        startRename(std::string(renamedColumn));
+        nameEditor->setText(toQString(*name));
     }
 }
 

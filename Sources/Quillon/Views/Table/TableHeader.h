@@ -20,8 +20,9 @@ class TableScroll;
 /// The row of column headers. It follows the horizontal scroll position only.
 ///
 /// A click sorts, a double click on the name renames, the button opens the column's menu, the right edge
-/// changes the width and dragging the rest moves the column. With the focus: the arrows choose a column, the
-/// space bar sorts, F2 renames and the menu key opens the menu.
+/// changes the width and dragging the rest moves the column; Escape takes a drag back. With the focus: the
+/// arrows choose a column, the space bar sorts and the menu key opens the menu, which shows the actions of
+/// this widget.
 class TableHeader : public QWidget {
     Q_OBJECT
 
@@ -31,6 +32,9 @@ class TableHeader : public QWidget {
 
     void setTableGeometry(const TableGeometry& geometry);
     const TableGeometry& tableGeometry() const { return geometry; }
+
+    /// The column where the keyboard is, or was last. Absent if there are no columns.
+    std::optional<std::size_t> currentColumn() const;
 
     /// Opens the editor of the column's name. Nothing happens if there is no such column.
     void startRename(const std::string& column);
@@ -48,8 +52,15 @@ class TableHeader : public QWidget {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
+  signals:
+    /// The keyboard is at another column, or now in the header.
+    void currentColumnChanged();
+    /// The context menu is about to open.
+    void menuAboutToShow();
+
   protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -91,11 +102,14 @@ class TableHeader : public QWidget {
     QString toolTipAt(QPointF point) const;
     void setHovered(Place place);
     void dragTo(QPointF point);
+    void takeGripBack();
+    void endGrip();
     void click(std::size_t column);
     void restoreSorting();
     void openMenu(std::size_t column, QPoint globalPosition);
     void finishRename(const QString& draft);
     void runPendingRename();
+    void reopenRefused();
     void placeEditor();
     void setFocusedColumn(std::size_t column);
     void paintDrop(QPainter& painter) const;
@@ -107,10 +121,12 @@ class TableHeader : public QWidget {
     TableGeometry geometry;
     std::string renamedColumn;
     std::optional<std::string> pendingName;  ///< What `renamedColumn` is to be called as soon as may be.
+    std::optional<std::string> refusedName;  ///< What `renamedColumn` cannot be called.
     Place hovered;
     std::optional<Grip> grip;
     std::optional<Sorting> sortingBeforeClick;
     std::size_t focusedColumn = 0;
+    std::string focusedName;  ///< Of the focused column, which can move.
 };
 
 }  // namespace quillon

@@ -5,6 +5,7 @@
 #include "Quillon/Views/Table/TableHeader.h"
 #include "Quillon/Views/Table/TableScroll.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -48,6 +49,7 @@ void TableHeader::mousePressEvent(QMouseEvent* event) {
     if (place.part == Part::cell || place.part == Part::handle) {
         const QPointF point = contentPoint(event->position());
         grip = Grip{place, event->position().x(), point, point, std::nullopt, false};
+        qApp->installEventFilter(this);  // For Escape, wherever the focus is.
         update();
     }
 }
@@ -95,16 +97,40 @@ void TableHeader::mouseReleaseEvent(QMouseEvent* event) {
     grip->now = contentPoint(event->position());
     const std::optional<std::size_t> target = dropTarget();
     const Grip released = *grip;
-    grip.reset();
+    endGrip();
     if (target) {
         store.moveColumnBefore(store.columns()[released.place.column], store.columns()[*target]);
     } else if (!released.isDragging && placeAt(event->position()) == released.place &&
                released.place.part == Part::cell) {
         click(released.place.column);
     }
+    setHovered(placeAt(event->position()));
+}
+
+bool TableHeader::eventFilter(QObject* watched, QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (!grip || !isKey || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
+        return QWidget::eventFilter(watched, event);
+    }
+    event->accept();
+    if (event->type() == QEvent::KeyPress) {
+        takeGripBack();
+    }
+    return true;
+}
+
+void TableHeader::takeGripBack() {
+    if (grip->resizeStart) {
+        store.setWidth(*grip->resizeStart, store.columns()[grip->place.column]);
+    }
+    endGrip();
+}
+
+void TableHeader::endGrip() {
+    grip.reset();
+    qApp->removeEventFilter(this);
     unsetCursor();
     hovered = {};
-    setHovered(placeAt(event->position()));
     update();
 }
 
@@ -157,10 +183,12 @@ void TableHeader::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void TableHeader::openMenu(std::size_t column, QPoint globalPosition) {
+    setFocusedColumn(column);
+    emit currentColumnChanged();
+    emit menuAboutToShow();
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const std::string name = store.columns()[column];
-    addColumnCommands(*menu, store, name, [this, name] { startRename(name); });
+    menu->addActions(actions());
     menu->popup(globalPosition);
 }
 
@@ -205,25 +233,27 @@ void TableHeader::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
             store.toggleSort(store.columns()[focusedColumn]);
             break;
-        case Qt::Key_F2:
-            startRename(store.columns()[focusedColumn]);
-            return;
         default:
             QWidget::keyPressEvent(event);
             return;
     }
     scroll.setScrollX(geometry.scrollXShowing(focusedColumn, scroll.scrollX(), scroll.viewportWidth()));
+    emit currentColumnChanged();
     update();
 }
 
 void TableHeader::setFocusedColumn(std::size_t column) {
     const std::size_t count = geometry.columnCount();
     focusedColumn = count == 0 ? 0 : std::min(column, count - 1);
+    focusedName = count == 0 ? std::string() : store.columns()[focusedColumn];
     setAccessibleDescription(count == 0 || !hasFocus() ? QString() : headerCell(focusedColumn).label());
 }
 
 void TableHeader::focusInEvent(QFocusEvent* event) {
     setFocusedColumn(focusedColumn);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason) {
+        emit currentColumnChanged();
+    }
     QWidget::focusInEvent(event);
 }
 

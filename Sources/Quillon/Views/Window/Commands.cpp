@@ -2,23 +2,43 @@
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Window/ContentView.h"
 
-#include <QAction>
+#include <algorithm>
 
 namespace quillon {
 
 namespace {
 
-bool hasSelection(const LogStore& store) {
-    return !store.selection().empty();
+bool hasSelection(const ContentView& window) {
+    return !window.store().selection().empty();
 }
-bool hasRecords(const LogStore& store) {
-    return !store.document().records().empty();
+bool hasRecords(const ContentView& window) {
+    return !window.store().document().records().empty();
 }
-bool hasRows(const LogStore& store) {
-    return store.displayedCount() > 0;
+bool hasRows(const ContentView& window) {
+    return window.store().displayedCount() > 0;
+}
+bool hasColumn(const ContentView& window) {
+    return window.table().chosenColumn().has_value();
+}
+/// Whether the chosen column has another `offset` places further on.
+template <int offset>
+bool hasNeighbour(const ContentView& window) {
+    const LogStore::Columns& columns = window.store().columns();
+    const auto chosen = window.table().chosenColumn();
+    const auto end = offset < 0 ? columns.begin() : columns.end() - 1;
+    return chosen && std::ranges::find(columns, *chosen) != end;
+}
+
+/// What does this to the chosen column.
+std::function<void(ContentView&)> onColumn(void (*change)(LogStore& store, const std::string& column)) {
+    return [change](ContentView& window) {
+        if (const auto column = window.table().chosenColumn()) {
+            change(window.store(), *column);
+        }
+    };
 }
 
 std::vector<Command> makeCommands() {
@@ -27,21 +47,21 @@ std::vector<Command> makeCommands() {
          .menu = CommandMenu::file,
          .title = QStringLiteral("&Neues Logbuch"),
          .iconName = QStringLiteral("document-new"),
-         .shortcut = Qt::CTRL | Qt::Key_N,
+         .shortcuts = {Qt::CTRL | Qt::Key_N},
          .run = [](ContentView& window) { window.newLog(); }},
         {.id = CommandID::open,
          .menu = CommandMenu::file,
          .title = QStringLiteral("Ö&ffnen…"),
          .toolBarTitle = QStringLiteral("Öffnen"),
          .iconName = QStringLiteral("document-open"),
-         .shortcut = Qt::CTRL | Qt::Key_O,
+         .shortcuts = {Qt::CTRL | Qt::Key_O},
          .run = [](ContentView& window) { window.openWithPanel(); }},
         {.id = CommandID::save,
          .menu = CommandMenu::file,
          .title = QStringLiteral("&Speichern"),
          .toolBarTitle = QStringLiteral("Speichern"),
          .iconName = QStringLiteral("document-save"),
-         .shortcut = Qt::CTRL | Qt::Key_S,
+         .shortcuts = {Qt::CTRL | Qt::Key_S},
          .startsGroup = true,
          .run =
              [](ContentView& window) {
@@ -52,74 +72,95 @@ std::vector<Command> makeCommands() {
          .menu = CommandMenu::file,
          .title = QStringLiteral("Speichern &unter…"),
          .iconName = QStringLiteral("document-save-as"),
-         .shortcut = Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+         .shortcuts = {Qt::CTRL | Qt::SHIFT | Qt::Key_S},
          .run = [](ContentView& window) { window.store().saveWithPanel(); }},
         {.id = CommandID::quit,
          .menu = CommandMenu::file,
          .title = QStringLiteral("&Beenden"),
          .iconName = QStringLiteral("application-exit"),
-         .shortcut = Qt::CTRL | Qt::Key_Q,
+         .shortcuts = {Qt::CTRL | Qt::Key_Q},
          .startsGroup = true,
          .run = [](ContentView& window) { window.close(); }},
         {.id = CommandID::undo,
          .menu = CommandMenu::edit,
          .title = QStringLiteral("&Rückgängig"),
          .iconName = QStringLiteral("edit-undo"),
-         .shortcut = Qt::CTRL | Qt::Key_Z,
-         .run = [](ContentView& window) { window.store().undo(); },
-         .isEnabled = [](const LogStore& store) { return store.canUndo(); }},
+         .shortcuts = {Qt::CTRL | Qt::Key_Z},
+         .run = [](ContentView& window) { window.table().undo(); },
+         .isEnabled = [](const ContentView& window) { return window.store().canUndo(); }},
         {.id = CommandID::redo,
          .menu = CommandMenu::edit,
          .title = QStringLiteral("&Wiederholen"),
          .iconName = QStringLiteral("edit-redo"),
-         .shortcut = Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
-         .run = [](ContentView& window) { window.store().redo(); },
-         .isEnabled = [](const LogStore& store) { return store.canRedo(); }},
+         .shortcuts = {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
+         .run = [](ContentView& window) { window.table().redo(); },
+         .isEnabled = [](const ContentView& window) { return window.store().canRedo(); }},
         {.id = CommandID::copy,
          .menu = CommandMenu::edit,
          .title = QStringLiteral("&Kopieren"),
          .iconName = QStringLiteral("edit-copy"),
-         .shortcut = Qt::CTRL | Qt::Key_C,
+         .shortcuts = {Qt::CTRL | Qt::Key_C},
          .startsGroup = true,
-         .run = [](ContentView& window) { window.copySelection(); },
+         .run = [](ContentView& window) { window.table().copySelection(); },
          .isEnabled = hasSelection},
+        {.id = CommandID::paste,
+         .menu = CommandMenu::edit,
+         .title = QStringLiteral("&Einfügen"),
+         .iconName = QStringLiteral("edit-paste"),
+         .shortcuts = {Qt::CTRL | Qt::Key_V},
+         .run = [](ContentView& window) { window.table().pasteRecords(); }},
         {.id = CommandID::selectAll,
          .menu = CommandMenu::edit,
          .title = QStringLiteral("&Alles auswählen"),
          .iconName = QStringLiteral("edit-select-all"),
-         .shortcut = Qt::CTRL | Qt::Key_A,
+         .shortcuts = {Qt::CTRL | Qt::Key_A},
          .run = [](ContentView& window) { window.store().selectAllDisplayed(); },
          .isEnabled = hasRows},
         {.id = CommandID::find,
          .menu = CommandMenu::edit,
          .title = QStringLiteral("&Suchen"),
          .iconName = QStringLiteral("edit-find"),
-         .shortcut = Qt::CTRL | Qt::Key_F,
+         .shortcuts = {Qt::CTRL | Qt::Key_F},
          .startsGroup = true,
          .run = [](ContentView& window) { window.focusSearch(); }},
+        {.id = CommandID::goToRow,
+         .menu = CommandMenu::edit,
+         .title = QStringLiteral("&Gehe zu Zeile …"),
+         .iconName = QStringLiteral("go-jump"),
+         .shortcuts = {Qt::CTRL | Qt::Key_G},
+         .run = [](ContentView& window) { window.table().goToRow(); },
+         .isEnabled = hasRecords},
+        {.id = CommandID::editCell,
+         .menu = CommandMenu::log,
+         .title = QStringLiteral("&Bearbeiten"),
+         .iconName = QStringLiteral("document-edit"),
+         .shortcuts = {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter},
+         .reach = ShortcutReach::focus,
+         .run = [](ContentView& window) { window.table().editCell(); },
+         .isEnabled = [](const ContentView& window) { return window.table().hasFramedCell(); }},
         {.id = CommandID::addRecord,
          .menu = CommandMenu::log,
          .title = QStringLiteral("QSO &hinzufügen"),
          .toolBarTitle = QStringLiteral("QSO hinzufügen"),
          .iconName = QStringLiteral("list-add"),
-         .shortcut = Qt::CTRL | Qt::SHIFT | Qt::Key_N,
+         .shortcuts = {Qt::CTRL | Qt::SHIFT | Qt::Key_N},
          .startsToolBarGroup = true,
-         .run = [](ContentView& window) { window.addRecord(); }},
+         .run = [](ContentView& window) { window.table().addRecord(); }},
         {.id = CommandID::deleteSelected,
          .menu = CommandMenu::log,
          .title = QStringLiteral("QSO &löschen"),
          .toolBarTitle = QStringLiteral("QSO löschen"),
          .iconName = QStringLiteral("edit-delete"),
-         .shortcut = Qt::Key_Delete,
-         .reach = ShortcutReach::table,
-         .run = [](ContentView& window) { window.store().deleteSelected(); },
+         .shortcuts = {Qt::Key_Delete},
+         .reach = ShortcutReach::focus,
+         .run = [](ContentView& window) { window.table().deleteSelected(); },
          .isEnabled = hasSelection},
         {.id = CommandID::check,
          .menu = CommandMenu::log,
          .title = QStringLiteral("&Prüfen"),
          .toolBarTitle = QStringLiteral("Prüfen"),
          .iconName = QStringLiteral(":/Icons/check.svg"),
-         .shortcut = Qt::Key_F7,
+         .shortcuts = {Qt::Key_F7},
          .toolTip = QStringLiteral("Auf Pflichtfelder, Formatfehler und Dubletten prüfen"),
          .startsGroup = true,
          .startsToolBarGroup = true,
@@ -129,11 +170,62 @@ std::vector<Command> makeCommands() {
                  window.store().runCheck();
              },
          .isEnabled = hasRecords},
+        {.id = CommandID::renameColumn,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("&Umbenennen"),
+         .iconName = QStringLiteral("edit-rename"),
+         .shortcuts = {Qt::Key_F2},
+         .reach = ShortcutReach::focus,
+         .run = [](ContentView& window) { window.table().renameColumn(); },
+         .isEnabled = hasColumn},
+        {.id = CommandID::duplicateColumn,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("Spalte &duplizieren"),
+         .iconName = QStringLiteral("edit-duplicate"),
+         .run = onColumn([](LogStore& store, const std::string& column) { store.duplicateColumn(column); }),
+         .isEnabled = hasColumn},
+        {.id = CommandID::fitColumn,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("&Breite an Inhalt anpassen"),
+         .iconName = QStringLiteral("resizecol"),
+         .run = onColumn([](LogStore& store, const std::string& column) { store.autoFitColumns({column}); }),
+         .isEnabled = hasColumn},
+        {.id = CommandID::fitColumns,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("&Alle Spalten an Inhalt anpassen"),
+         .iconName = QStringLiteral("zoom-fit-width"),
+         .run = [](ContentView& window) { window.store().autoFitColumns(); }},
+        {.id = CommandID::bulkEdit,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("Alle &Werte ändern …"),
+         .iconName = QStringLiteral("tools-wizard"),
+         .run = onColumn([](LogStore& store, const std::string& column) { store.setBulkEditColumn(column); }),
+         .isEnabled = hasColumn},
+        {.id = CommandID::moveColumnLeft,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("Nach &links"),
+         .iconName = QStringLiteral("arrow-left"),
+         .startsGroup = true,
+         .run = onColumn([](LogStore& store, const std::string& column) { store.moveColumnBy(column, -1); }),
+         .isEnabled = hasNeighbour<-1>},
+        {.id = CommandID::moveColumnRight,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("Nach &rechts"),
+         .iconName = QStringLiteral("arrow-right"),
+         .run = onColumn([](LogStore& store, const std::string& column) { store.moveColumnBy(column, 1); }),
+         .isEnabled = hasNeighbour<1>},
+        {.id = CommandID::removeColumn,
+         .menu = CommandMenu::column,
+         .title = QStringLiteral("Spalte l&öschen"),
+         .iconName = QStringLiteral("edit-delete"),
+         .startsGroup = true,
+         .run = onColumn([](LogStore& store, const std::string& column) { store.removeColumn(column); }),
+         .isEnabled = hasColumn},
         {.id = CommandID::fullScreen,
          .menu = CommandMenu::view,
          .title = QStringLiteral("&Vollbild"),
          .iconName = QStringLiteral("view-fullscreen"),
-         .shortcut = Qt::Key_F11,
+         .shortcuts = {Qt::Key_F11},
          .run = [](ContentView& window) { window.toggleFullScreen(); }},
         {.id = CommandID::about,
          .menu = CommandMenu::help,
@@ -141,14 +233,6 @@ std::vector<Command> makeCommands() {
          .iconName = QStringLiteral("help-about"),
          .run = [](ContentView& window) { window.showAbout(); }},
     };
-}
-
-QString toolTipWithShortcut(const Command& command) {
-    QString text = command.plainTitle().remove(QChar(u'…'));
-    if (!command.shortcut.isEmpty()) {
-        text += QStringLiteral(" (") + command.shortcut.toString(QKeySequence::NativeText) + QLatin1Char(')');
-    }
-    return text;
 }
 
 }  // namespace
@@ -161,6 +245,8 @@ QString title(CommandMenu menu) {
             return QStringLiteral("&Bearbeiten");
         case CommandMenu::log:
             return QStringLiteral("&Logbuch");
+        case CommandMenu::column:
+            return QStringLiteral("&Spalte");
         case CommandMenu::view:
             return QStringLiteral("&Ansicht");
         case CommandMenu::help:
@@ -176,53 +262,6 @@ QString Command::plainTitle() const {
 const std::vector<Command>& commands() {
     static const std::vector<Command> all = makeCommands();
     return all;
-}
-
-CommandActions::CommandActions(ContentView& contentView) : QObject(&contentView), window(contentView) {
-    actions.resize(commands().size());
-    for (const Command& command : commands()) {
-        auto* action = new QAction(command.title, this);
-        action->setIconText(command.toolBarTitle.isEmpty() ? command.plainTitle() : command.toolBarTitle);
-        action->setToolTip(command.toolTip.isEmpty() ? toolTipWithShortcut(command) : command.toolTip);
-        action->setShortcut(command.shortcut);
-        if (command.reach == ShortcutReach::table) {
-            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        }
-        connect(action, &QAction::triggered, this, [this, run = command.run] {
-            window.commitEditing();
-            run(window);
-        });
-        actions[static_cast<std::size_t>(command.id)] = action;
-        if (!command.toolBarTitle.isEmpty()) {
-            showIcon(command);
-        }
-    }
-    LogStore& store = window.store();
-    connect(&store, &LogStore::historyChanged, this, &CommandActions::refresh);
-    connect(&store, &LogStore::documentChanged, this, &CommandActions::refresh);
-    connect(&store, &LogStore::displayedRecordsChanged, this, &CommandActions::refresh);
-    connect(&store, &LogStore::selectionChanged, this, &CommandActions::refresh);
-    refresh();
-}
-
-void CommandActions::showIcons(CommandMenu menu) {
-    for (const Command& command : commands()) {
-        if (command.menu == menu && action(command.id)->icon().isNull()) {
-            showIcon(command);
-        }
-    }
-}
-
-void CommandActions::showIcon(const Command& command) {
-    action(command.id)->setIcon(icon(command.iconName));
-}
-
-void CommandActions::refresh() {
-    for (const Command& command : commands()) {
-        if (command.isEnabled != nullptr) {
-            action(command.id)->setEnabled(command.isEnabled(window.store()));
-        }
-    }
 }
 
 }  // namespace quillon

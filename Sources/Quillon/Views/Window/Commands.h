@@ -1,24 +1,21 @@
 #pragma once
 
 #include <QKeySequence>
-#include <QObject>
+#include <QList>
 #include <QString>
 
 #include <array>
-#include <cstddef>
+#include <functional>
 #include <vector>
-
-class QAction;
 
 namespace quillon {
 
 class ContentView;
-class LogStore;
 
-enum class CommandMenu { file, edit, log, view, help };
+enum class CommandMenu { file, edit, log, column, view, help };
 
-inline constexpr std::array allCommandMenus = {CommandMenu::file, CommandMenu::edit, CommandMenu::log,
-                                               CommandMenu::view, CommandMenu::help};
+inline constexpr std::array allCommandMenus = {CommandMenu::file,   CommandMenu::edit, CommandMenu::log,
+                                               CommandMenu::column, CommandMenu::view, CommandMenu::help};
 
 /// The title in the menu bar, with "&" in front of the letter that opens it.
 QString title(CommandMenu menu);
@@ -32,11 +29,22 @@ enum class CommandID {
     undo,
     redo,
     copy,
+    paste,
     selectAll,
     find,
+    goToRow,
+    editCell,
     addRecord,
     deleteSelected,
     check,
+    renameColumn,
+    duplicateColumn,
+    fitColumn,
+    fitColumns,
+    bulkEdit,
+    moveColumnLeft,
+    moveColumnRight,
+    removeColumn,
     fullScreen,
     about,
 };
@@ -44,23 +52,24 @@ enum class CommandID {
 /// Where the shortcut of a command works.
 enum class ShortcutReach {
     window,  ///< Wherever the focus is.
-    table,   ///< While the table has the focus: the key means something else in a text.
+    focus,   ///< While the part of the table that the command is about has the focus: elsewhere the key means
+             ///< something else.
 };
 
 /// A command of the program: what menu, tool bar, shortcut and test know of it.
 struct Command {
     CommandID id = CommandID::newLog;
     CommandMenu menu = CommandMenu::file;
-    QString title = {};         ///< In the menu, with "&" in front of the letter that picks it.
-    QString toolBarTitle = {};  ///< Empty if the tool bar does not offer the command.
-    QString iconName = {};      ///< Empty if it has none.
-    QKeySequence shortcut = {};
+    QString title = {};                  ///< In the menu, with "&" in front of the letter that picks it.
+    QString toolBarTitle = {};           ///< Empty if the tool bar does not offer the command.
+    QString iconName = {};               ///< Empty if it has none.
+    QList<QKeySequence> shortcuts = {};  ///< The first is the one that is shown.
     ShortcutReach reach = ShortcutReach::window;
     QString toolTip = {};             ///< Empty for the title and the shortcut.
     bool startsGroup = false;         ///< In the menu a divider stands in front of it.
     bool startsToolBarGroup = false;  ///< In the tool bar a divider stands in front of it.
-    void (*run)(ContentView& window) = nullptr;
-    bool (*isEnabled)(const LogStore& store) = nullptr;  ///< Null if it always is.
+    std::function<void(ContentView& window)> run = {};
+    bool (*isEnabled)(const ContentView& window) = nullptr;  ///< Null if it always is.
 
     /// The title as it is read, without "&".
     QString plainTitle() const;
@@ -68,26 +77,5 @@ struct Command {
 
 /// All commands, in the order of the menus.
 const std::vector<Command>& commands();
-
-/// The commands as actions of one window, enabled as the state of its store allows.
-class CommandActions : public QObject {
-    Q_OBJECT
-
-  public:
-    explicit CommandActions(ContentView& contentView);
-
-    QAction* action(CommandID id) const { return actions[static_cast<std::size_t>(id)]; }
-
-    /// Gives the commands of a menu their icons, which are looked for when the menu opens: that takes a while
-    /// for all of them together. Those in the tool bar have theirs already.
-    void showIcons(CommandMenu menu);
-
-  private:
-    void showIcon(const Command& command);
-    void refresh();
-
-    ContentView& window;
-    std::vector<QAction*> actions;  ///< By `CommandID`.
-};
 
 }  // namespace quillon

@@ -17,7 +17,9 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
+#include "Quillon/Views/Table/TableHeader.h"
 #include "Quillon/Views/Table/TableQuestions.h"
+#include "Quillon/Views/Window/CommandActions.h"
 #include "Quillon/Views/Window/Commands.h"
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/NoHits.h"
@@ -26,7 +28,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -81,9 +82,9 @@ ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList ar
     resize(firstWindowSize.boundedTo(screen()->availableSize() - frame));
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu);
+    buildPanes();
     commandActions = new CommandActions(*this);
     buildMenus();
-    buildPanes();
     buildToolBar();
     paneKeys = std::make_unique<PaneKeys>(*this, [this] { return panes(); });
     dropHint = new DropHint(*this);
@@ -104,17 +105,6 @@ void ContentView::newLog() {
 void ContentView::openWithPanel() {
     logStore.openWithPanel();
     focusTable();
-}
-
-void ContentView::addRecord() {
-    logStore.addRecord();
-    if (const tallyrig::ADIFRecord* added = logStore.selectedRecord()) {
-        table->scrollToRecord(added->id());
-    }
-}
-
-void ContentView::copySelection() {
-    QApplication::clipboard()->setText(toQString(logStore.selectionAsADIF()));
 }
 
 void ContentView::focusSearch() {
@@ -139,7 +129,7 @@ void ContentView::showAbout() {
 }
 
 void ContentView::commitEditing() {
-    table->commitEditing();
+    tableView->commitEditing();
 }
 
 void ContentView::buildMenus() {
@@ -147,16 +137,15 @@ void ContentView::buildMenus() {
         QMenu* entry = menuBar()->addMenu(title(menu));
         connect(entry, &QMenu::aboutToShow, commandActions,
                 [this, menu] { commandActions->showIcons(menu); });
-        for (const Command& command : commands()) {
-            if (command.menu != menu) {
-                continue;
-            }
-            if (command.startsGroup) {
-                entry->addSeparator();
-            }
-            entry->addAction(commandActions->action(command.id));
-        }
+        commandActions->addMenu(menu, *entry);
     }
+    commandActions->addRowMenu(tableView->body());
+    commandActions->addMenu(CommandMenu::column, tableView->header());
+    connect(tableView, &QSOTableView::menuAboutToShow, commandActions, [this] {
+        for (const CommandMenu menu : {CommandMenu::edit, CommandMenu::log, CommandMenu::column}) {
+            commandActions->showIcons(menu);
+        }
+    });
 }
 
 void ContentView::buildPanes() {
@@ -172,8 +161,8 @@ void ContentView::buildPanes() {
     tableColumn = new QVBoxLayout(work);
     tableColumn->setContentsMargins(0, 0, 0, 0);
     tableColumn->setSpacing(0);
-    table = new QSOTableView(logStore, *questions, work);
-    tableColumn->addWidget(table, 1);
+    tableView = new QSOTableView(logStore, *questions, work);
+    tableColumn->addWidget(tableView, 1);
     detail = new RecordDetailView(logStore, splitter);
     splitter->addPane(sidebar, sidebarWidths);
     splitter->addPane(work, tableWidths);
@@ -185,15 +174,10 @@ void ContentView::buildPanes() {
     statusLine = new StatusLine(logStore, area);
     areaLayout->addWidget(statusLine);
 
-    for (const Command& command : commands()) {
-        if (command.reach == ShortcutReach::table) {
-            table->addAction(commandActions->action(command.id));
-        }
-    }
-    auto* noHits = new NoHits(logStore, table->body());
+    auto* noHits = new NoHits(logStore, tableView->body());
     connect(noHits, &NoHits::searchEnded, this, &ContentView::focusTable);
     endSearchKey = new QShortcut(
-        Qt::Key_Escape, &table->body(), this, [this] { logStore.setSearchText(QString()); },
+        Qt::Key_Escape, &tableView->body(), this, [this] { logStore.setSearchText(QString()); },
         Qt::WidgetShortcut);
     connect(sidebar, &SidebarPane::fieldAdded, detail, &RecordDetailView::focusLastField);
 }
@@ -233,13 +217,13 @@ void ContentView::buildToolBar() {
         searchField->setClearButtonEnabled(true);
         logStore.setSearchText(text);
     });
-    connect(searchField, &QLineEdit::returnPressed, this, &ContentView::focusTable);
-    new QShortcut(Qt::Key_Down, searchField, this, &ContentView::focusTable, Qt::WidgetShortcut);
+    connect(searchField, &QLineEdit::returnPressed, tableView, &QSOTableView::enterRows);
+    new QShortcut(Qt::Key_Down, searchField, tableView, &QSOTableView::enterRows, Qt::WidgetShortcut);
     new QShortcut(
         Qt::Key_Escape, searchField, this,
         [this] {
             searchField->clear();
-            focusTable();
+            tableView->enterRows();
         },
         Qt::WidgetShortcut);
 }
@@ -285,11 +269,11 @@ void ContentView::openFile(const QString& path) {
 }
 
 void ContentView::focusTable() {
-    table->body().setFocus();
+    tableView->body().setFocus();
 }
 
 QWidgetList ContentView::panes() const {
-    return {searchField, sidebar, table, results, detail};
+    return {searchField, sidebar, tableView, results, detail};
 }
 
 void ContentView::showResults() {
@@ -303,10 +287,10 @@ void ContentView::showResults() {
         layout->addWidget(horizontalLine(results));
         layout->addWidget(view);
         tableColumn->addWidget(results);
-        setTabOrder(&table->body(), view);
+        setTabOrder(&tableView->body(), view);
         connect(view, &CheckResultsView::findingChosen, this,
-                [this](tallyrig::UUID record, const std::string&, std::optional<std::size_t> position) {
-                    table->scrollToRecord(record);
+                [this](tallyrig::UUID record, const std::string& field, std::optional<std::size_t> position) {
+                    tableView->showCell(record, field);
                     detail->markField(position);
                 });
         connect(view, &CheckResultsView::left, this, &ContentView::focusTable);

@@ -36,15 +36,13 @@ class ContentView : public QMainWindow {
     ContentView(LogStore& logStore, Settings& userSettings, QStringList arguments, QWidget* parent = nullptr);
     ~ContentView() override;
 
-    LogStore& store() { return logStore; }
+    LogStore& store() const { return logStore; }
+    QSOTableView& table() const { return *tableView; }
     const CommandActions& actions() const { return *commandActions; }
 
     // What the commands do beyond the store.
     void newLog();
     void openWithPanel();
-    void addRecord();
-    /// Puts the selected records on the clipboard, as ADI text.
-    void copySelection();
     void focusSearch();
     void toggleFullScreen();
     void showAbout();
@@ -89,7 +87,7 @@ class ContentView : public QMainWindow {
     std::unique_ptr<PaneKeys> paneKeys;  ///< Goes before the panes that it looks at.
     CommandActions* commandActions = nullptr;
     QLineEdit* searchField = nullptr;
-    QSOTableView* table = nullptr;
+    QSOTableView* tableView = nullptr;
     RecordDetailView* detail = nullptr;
     StatusLine* statusLine = nullptr;
     DropHint* dropHint = nullptr;

@@ -17,6 +17,7 @@ using testing::TableViewTest;
 class CellEditor : public TableViewTest {};
 class TableMouse : public TableViewTest {};
 class TableKeyboard : public TableViewTest {};
+class SelectionAndFrame : public TableViewTest {};
 class TableScrolling : public TableViewTest {};
 class TableRows : public TableViewTest {};
 class TableForAssistiveTechnology : public TableViewTest {};
@@ -189,14 +190,16 @@ TEST_F(TableMouse, SelectsWithTheKeysHeldDown) {
     EXPECT_EQ(selected(), "");
 }
 
-TEST_F(TableMouse, OpensAMenuForTheRowUnderThePointer) {
+TEST_F(TableMouse, OpensTheMenuForTheRowUnderThePointer) {
     showLog(manyRecords(5));
+    QAction command(QStringLiteral("command"));
+    body.addAction(&command);
     click(1, 0);
     QTest::mousePress(&body, Qt::RightButton, {}, at(3, 1));
     QContextMenuEvent menu(QContextMenuEvent::Mouse, at(3, 1), body.mapToGlobal(at(3, 1)));
     QApplication::sendEvent(&body, &menu);
     EXPECT_EQ(selected(), "DL4A");
-    EXPECT_EQ(popupTitles(), "Bearbeiten\nKopieren\n-\nQSO löschen\n");
+    EXPECT_EQ(popupTitles(), "command\n");
 }
 
 TEST_F(TableKeyboard, MovesAndSelects) {
@@ -219,12 +222,10 @@ TEST_F(TableKeyboard, MovesAndSelects) {
         {Qt::Key_Right, {}, "3/1", "DL1A DL2A DL4A"},
         {Qt::Key_Home, {}, "3/0", "DL1A DL2A DL4A"},
         {Qt::Key_End, {}, "3/1", "DL1A DL2A DL4A"},
-        {Qt::Key_X, {}, "3/1", "DL1A DL2A DL4A"},
         {Qt::Key_Space, {}, "3/1", "DL4A"},
         {Qt::Key_Home, Qt::ControlModifier, "0/0", "DL1A"},
         {Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier, "5/1", "DL1A DL2A DL3A DL4A DL5A DL6A"},
         {Qt::Key_PageUp, {}, "0/1", "DL1A"},
-        {Qt::Key_A, Qt::ControlModifier, "0/1", "DL1A DL2A DL3A DL4A DL5A DL6A"},
     };
     showLog(manyRecords(6));
     body.setCurrentCell({0, 0});
@@ -238,23 +239,142 @@ TEST_F(TableKeyboard, MovesAndSelects) {
     EXPECT_EQ(editorText(), "(closed)");
 }
 
-TEST_F(TableKeyboard, EditsDeletesAndCopies) {
-    showLog(manyRecords(4));
-    for (const Qt::Key start : {Qt::Key_Return, Qt::Key_F2}) {
-        click(1, 1);
-        key(start);
-        EXPECT_EQ(editorText(), "20m");
-        key(Qt::Key_Escape);
+TEST_F(TableKeyboard, OpensTheFramedCellWithTheLetterTyped) {
+    showLog(manyRecords(2));
+    click(1, 1);
+    typeText("4");
+    EXPECT_EQ(editorText(), "4");
+    typeText("0m");
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, "BAND"), "40m");
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("Ä"));
+    QApplication::sendEvent(&body, &composed);
+    EXPECT_EQ(editorText(), "Ä");
+}
+
+TEST_F(TableKeyboard, SelectsWhereItEntersFromTheSearch) {
+    showLog(manyRecords(5));
+    click(3, 0);
+    header.setFocus();
+    store.setSearchText(QStringLiteral("DL2A"));
+    view.enterRows();
+    EXPECT_EQ(selected(), "DL2A") << "and no longer the hidden one, which the next key would delete";
+    EXPECT_EQ(framed(), "0/0");
+}
+
+TEST_F(SelectionAndFrame, NeverShowTwoDifferentRecords) {
+    showLog(manyRecords(5));
+    click(3, 1);
+    store.setSearchText(QStringLiteral("DL2A"));
+    EXPECT_EQ(framed(), "(none)") << "the selected record is hidden";
+    view.editCell();
+    typeText("x");
+    EXPECT_EQ(editorText(), "(closed)");
+    EXPECT_EQ(cell(1, "BAND"), "20m");
+    key(Qt::Key_Down);
+    EXPECT_EQ(selected(), "DL2A");
+    EXPECT_EQ(framed(), "0/1");
+    store.selectRecord(4);
+    EXPECT_EQ(framed(), "(none)");
+    store.setSearchText({});
+    EXPECT_EQ(framed(), "4/1");
+    key(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(framed(), "(none)") << "on its way to the next row to be selected as well";
+    key(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(framed(), "3/1");
+}
+
+TEST_F(SelectionAndFrame, AreBothOnTheCellThatIsShownThoughTheSearchHidIt) {
+    showLog(manyRecords(100));
+    view.showCell(id(60), "BAND");
+    EXPECT_EQ(framed(), "60/1");
+    EXPECT_NEAR(body.cellArea({60, 0}).center().y(), body.height() / 2.0, 1) << "in the middle";
+    store.setSearchText(QStringLiteral("DL5A"));
+    view.showCell(id(10), "NOWHERE");
+    EXPECT_EQ(store.searchText(), QString());
+    EXPECT_EQ(selected(), "DL11A");
+    EXPECT_EQ(framed(), "10/1");
+    EXPECT_TRUE(body.rect().contains(at(10, 0)));
+
+    store.setSearchText(QStringLiteral("DL5A"));
+    questions.row = 7;
+    view.goToRow();
+    EXPECT_EQ(framed(), "6/1");
+}
+
+TEST_F(SelectionAndFrame, GoOnWithTheNextHitAfterAnEditThatTookTheLastOneOut) {
+    showLog({"CALL=DL1A NAME=Ann", "CALL=DL2A NAME=Ann", "CALL=DL3A NAME=Ann"});
+    store.setSearchText(QStringLiteral("ann"));
+    doubleClick(1, 1);
+    typeText("Bob");
+    key(Qt::Key_Return);
+    EXPECT_EQ(framed(), "1/1");
+    EXPECT_EQ(selected(), "DL3A");
+    typeText("Eve");
+    key(Qt::Key_Tab);
+    typeText("what belongs into the record that is gone");
+    EXPECT_EQ(shown("NAME"), "Ann");
+    EXPECT_EQ(editorText(), "(closed)");
+    EXPECT_EQ(cell(2, "NAME"), "Eve");
+}
+
+TEST_F(SelectionAndFrame, AreOnTheNewRecordWithItsCallOpen) {
+    for (const char* search : {"", "DL2A"}) {
+        showLog(manyRecords(100));
+        store.moveColumnBy("CALL", 1);
+        store.toggleSort("BAND");
+        store.setSearchText(QString::fromLatin1(search));
+        view.addRecord();
+        EXPECT_EQ(store.displayedCount(), 101U);
+        EXPECT_EQ(framed(), "100/1");
+        typeText("DK5X");
+        view.commitEditing();
+        EXPECT_EQ(selected(), "DK5X");
+        EXPECT_TRUE(body.rect().contains(at(100, 1)));
     }
-    key(Qt::Key_Down, Qt::ShiftModifier);
-    key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
-              "<CALL:4>DL2A <BAND:3>20m <EOR>\n<CALL:4>DL3A <BAND:3>20m <EOR>\n");
-    key(Qt::Key_Delete);
-    EXPECT_EQ(shown(), "DL1A DL4A");
-    EXPECT_EQ(current(), "1/1") << "the nearest row that is left";
-    key(Qt::Key_Delete);
-    EXPECT_EQ(shown(), "DL1A DL4A") << "nothing is selected any more";
+    store.newLog();
+    view.addRecord();
+    EXPECT_EQ(editorText(), "");
+}
+
+TEST_F(SelectionAndFrame, ComeToWhatAStepInTheHistoryChanged) {
+    showLog(manyRecords(100));
+    type(70, "BAND", "40m");
+    view.undo();
+    EXPECT_EQ(framed(), "70/1");
+    view.scroll().setScrollY(0);
+    click(0, 0);
+    view.redo();
+    EXPECT_EQ(framed(), "0/0") << "where the selection is";
+    EXPECT_TRUE(body.rect().contains(at(70, 1)));
+}
+
+TEST_F(SelectionAndFrame, AreOnWhatWasPasted) {
+    showLog(manyRecords(50));
+    store.setSearchText(QStringLiteral("DL2A"));
+    QApplication::clipboard()->setText(QStringLiteral("<CALL:4>DK5X<EOR><CALL:4>DK6X<EOR>"));
+    view.pasteRecords();
+    EXPECT_EQ(selected(), "DK5X DK6X");
+    EXPECT_TRUE(body.rect().contains(at(51, 0)));
+}
+
+TEST_F(SelectionAndFrame, AskBeforeHiddenRecordsAreDeleted) {
+    showLog(manyRecords(5));
+    select({0, 1, 2});
+    store.setSearchText(QStringLiteral("DL2A"));
+    view.deleteSelected();
+    EXPECT_EQ(questions.asked, "2 of 3");
+    EXPECT_EQ(store.document().records().size(), 5U);
+    questions.consents = true;
+    view.deleteSelected();
+    EXPECT_EQ(store.document().records().size(), 2U);
+    store.setSearchText({});
+    select({0});
+    questions.asked.clear();
+    view.deleteSelected();
+    EXPECT_EQ(questions.asked, "");
+    EXPECT_EQ(shown(), "DL5A");
 }
 
 TEST_F(TableScrolling, FollowsTheKeyboardBothWays) {
@@ -270,19 +390,6 @@ TEST_F(TableScrolling, FollowsTheKeyboardBothWays) {
     key(Qt::Key_Home, Qt::ControlModifier);
     EXPECT_EQ(view.scroll().scrollY(), 0);
     EXPECT_EQ(view.scroll().scrollX(), 0);
-}
-
-TEST_F(TableScrolling, ShowsARecordFromElsewhere) {
-    showLog(manyRecords(100));
-    view.scrollToRecord(id(60));
-    EXPECT_EQ(current(), "60/0");
-    EXPECT_NEAR(body.cellArea({60, 0}).center().y(), body.height() / 2.0, 1) << "in the middle";
-    store.selectRecord(10);
-    EXPECT_EQ(current(), "10/0");
-    EXPECT_TRUE(body.rect().contains(at(10, 0)));
-    store.setSearchText(QStringLiteral("DL5A"));
-    view.scrollToRecord(id(60));
-    EXPECT_EQ(current(), "0/0") << "hidden by the search";
 }
 
 TEST_F(TableScrolling, EndsWhereTheRowsEndAndStartsOverWithAnotherLog) {

@@ -26,10 +26,16 @@ class ScriptedQuestions : public TableQuestions {
         asked += QStringLiteral("%1>%2 (%3)").arg(from, to, QString::number(recordCount)).toStdString();
         return consents;
     }
+    bool confirmDeletion(std::size_t count, std::size_t hiddenCount) override {
+        asked += std::to_string(hiddenCount) + " of " + std::to_string(count);
+        return consents;
+    }
     std::optional<QString> newColumnName() override { return newName; }
+    std::optional<std::size_t> rowNumber(std::size_t) override { return row; }
 
     bool consents = false;
     std::optional<QString> newName;
+    std::optional<std::size_t> row;
     std::string asked;
 };
 
@@ -80,10 +86,10 @@ class TableViewTest : public LogStoreTest {
     std::string editorText() const {
         return body.editor().isOpen() ? body.editor().text().toStdString() : "(closed)";
     }
-    std::string current() const {
-        return body.currentCell() ? std::to_string(body.currentCell()->row) + "/" +
-                                        std::to_string(body.currentCell()->column)
-                                  : "(none)";
+    std::string current() const { return described(body.currentCell()); }
+    std::string framed() const { return described(body.framedCell()); }
+    static std::string described(const std::optional<CellPosition>& cell) {
+        return cell ? std::to_string(cell->row) + "/" + std::to_string(cell->column) : "(none)";
     }
     /// The titles of the menu that pops up; the menu is closed.
     static std::string popupTitles() {

@@ -16,7 +16,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QListView>
@@ -228,15 +227,6 @@ TEST_F(Window, SaysWhereAnExportWent) {
     panels.answers = {folder.path(QStringLiteral("x.edi"))};
     store.exportEDI({});
     EXPECT_NE(status().find("1 QSO nach „x.edi“ exportiert"), std::string::npos) << status();
-}
-
-TEST_F(Window, CopiesTheSelectedRecords) {
-    openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
-    show();
-    select({1});
-    window->copySelection();
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), store.selectionAsADIF());
-    EXPECT_NE(QApplication::clipboard()->text().indexOf(QStringLiteral("DL2ABC")), -1);
 }
 
 TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
