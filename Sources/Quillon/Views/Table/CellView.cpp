@@ -6,6 +6,7 @@
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Table/TableGeometry.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -17,8 +18,6 @@
 namespace quillon {
 namespace {
 
-/// The dot and the room behind it.
-constexpr double bandDotAdvance = 13;
 constexpr double dividerOpacity = 0.22;
 
 }  // namespace
@@ -28,17 +27,11 @@ QString CellView::text() const {
     if (!value || value->empty()) {
         return {};
     }
-    QString shown = toQString(ADIFFieldCatalog::displayValue(cutToShow(*value), column));
-    for (QChar& character : shown) {
-        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-            character == QChar::ParagraphSeparator) {
-            character = QLatin1Char(' ');
-        }
-    }
-    return shown;
+    return toQString(tallyrig::text::visibleText(ADIFFieldCatalog::displayValue(cutToShow(*value), column)));
 }
 
-void CellView::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const {
+void CellView::paint(QPainter& painter, const QRectF& area, const TableMetrics& metrics,
+                     const QPalette& palette) const {
     const double line = hairlineWidth(painter);
     const QRectF divider(area.right() - line, area.top(), line, area.height() - line);
     painter.fillRect(divider, withOpacity(palette.color(QPalette::Text), dividerOpacity));
@@ -48,28 +41,29 @@ void CellView::paint(QPainter& painter, const QRectF& area, const QPalette& pale
     }
     if (hasBandDot()) {
         BandDot{std::string(record.valueOrEmpty(column))}.paint(
-            painter, {area.left() + padding + BandDot::diameter / 2,
+            painter, {area.left() + metrics.cellMargins / 2 + BandDot::diameter / 2,
                       area.top() + (area.height() - TableGeometry::separatorHeight) / 2});
     }
     // Drawn at a point: laid out in a rectangle, the same text costs half as much again.
-    const QRectF place = textArea(area);
-    const QFontMetricsF metrics(painter.font());
-    const double baseline = std::round(place.center().y() + (metrics.ascent() - metrics.descent()) / 2);
+    const QRectF place = textArea(area, metrics);
+    const QFontMetricsF letters(painter.font());
+    const double baseline = std::round(place.center().y() + (letters.ascent() - letters.descent()) / 2);
     painter.setPen(palette.color(QPalette::Text));
     painter.drawText(QPointF(place.left(), baseline),
-                     metrics.elidedText(full, Qt::ElideRight, place.width()));
+                     letters.elidedText(full, Qt::ElideRight, place.width()));
 }
 
-bool CellView::isCutOff(const QRectF& area, const QFont& font) const {
-    return QFontMetricsF(font).horizontalAdvance(text()) > textArea(area).width();
+bool CellView::isCutOff(const QRectF& area, const TableMetrics& metrics, const QFont& font) const {
+    return QFontMetricsF(font).horizontalAdvance(text()) > textArea(area, metrics).width();
 }
 
 bool CellView::hasBandDot() const {
     return column == "BAND";
 }
 
-QRectF CellView::textArea(const QRectF& area) const {
-    return area.adjusted(padding + (hasBandDot() ? bandDotAdvance : 0), 0, -padding,
+QRectF CellView::textArea(const QRectF& area, const TableMetrics& metrics) const {
+    const double margin = metrics.cellMargins / 2;
+    return area.adjusted(margin + (hasBandDot() ? metrics.bandDotRoom : 0), 0, -margin,
                          -TableGeometry::separatorHeight);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Platform/TableMetrics.h"
 #include "Tallyrig/Log/ADIFRecord.h"
 
 #include <QRectF>
@@ -15,21 +16,21 @@ namespace quillon {
 
 /// One cell as it is shown while nobody edits it.
 struct CellView {
-    static constexpr double padding = 8;  ///< Between the edge of the cell and its text.
-
     const tallyrig::ADIFRecord& record;
     const std::string& column;  ///< In upper case.
 
-    /// What the cell says: the field in readable form on one line, a text far too long for any cell cut off.
+    /// What the cell says: the field in readable form on one line, with signs for what would act unseen; a
+    /// text far too long for any cell cut off.
     QString text() const;
     /// `area` is the cell with its divider. The painter brings the font of the cells along.
-    void paint(QPainter& painter, const QRectF& area, const QPalette& palette) const;
+    void paint(QPainter& painter, const QRectF& area, const TableMetrics& metrics,
+               const QPalette& palette) const;
     /// Whether the text is wider than its place in a cell of `area`.
-    bool isCutOff(const QRectF& area, const QFont& font) const;
+    bool isCutOff(const QRectF& area, const TableMetrics& metrics, const QFont& font) const;
 
   private:
     bool hasBandDot() const;
-    QRectF textArea(const QRectF& area) const;
+    QRectF textArea(const QRectF& area, const TableMetrics& metrics) const;
 };
 
 }  // namespace quillon

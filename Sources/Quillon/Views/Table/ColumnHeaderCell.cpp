@@ -2,10 +2,11 @@
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
+#include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
-#include "Quillon/Views/Table/CellView.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -18,12 +19,8 @@ namespace quillon {
 namespace {
 
 constexpr double verticalPadding = 4;
-constexpr double handleRoom = 6;
-constexpr double menuSize = 16;
 constexpr double chevronWidth = 8;
-constexpr double chevronRoom = 12;  ///< With the space in front of it.
 constexpr double handleOpacity = 0.22;
-constexpr double tagOpacity = 0.6;
 
 enum class Points { up, down };
 
@@ -46,17 +43,39 @@ double lineHeight(MeasuredFont font) {
 
 }  // namespace
 
+ColumnHeaderCell::Sort ColumnHeaderCell::sortOf(const LogStore& store, const std::string& column) {
+    if (store.sortColumn() != column) {
+        return Sort::none;
+    }
+    return store.sortAscending() ? Sort::ascending : Sort::descending;
+}
+
 QString ColumnHeaderCell::label() const {
-    return toQString(cutToShow(ADIFFieldCatalog::label(column)));
+    return toQString(tallyrig::text::visibleText(cutToShow(ADIFFieldCatalog::label(column))));
+}
+
+QString ColumnHeaderCell::remark() const {
+    const QString name = toQString(cutToShow(column));
+    switch (sort) {
+        case Sort::ascending:
+            return name + QStringLiteral(", aufsteigend sortiert");
+        case Sort::descending:
+            return name + QStringLiteral(", absteigend sortiert");
+        case Sort::none:
+            break;
+    }
+    return name;
 }
 
 QString ColumnHeaderCell::tag() const {
-    return QLatin1Char('<') + toQString(cutToShow(column));
+    return QLatin1Char('<') + toQString(tallyrig::text::visibleText(cutToShow(column)));
 }
 
 void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const {
     const QColor primary = palette.color(QPalette::WindowText);
-    const QColor accent = palette.color(QPalette::Highlight);
+    const QColor accent =
+        standingOut(palette.color(QPalette::Highlight), {palette.color(QPalette::Window)}, shapeContrast);
+    const QColor secondary = palette.color(QPalette::PlaceholderText);
     painter.save();
     if (isDragging) {
         painter.fillRect(area, withOpacity(accent, 0.15));
@@ -70,7 +89,7 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
     painter.drawText(labelPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
     if (sort != Sort::none) {
         const double left = labelPlace.left() + std::ceil(QFontMetricsF(labelFont).horizontalAdvance(name)) +
-                            chevronRoom - chevronWidth;
+                            desktopTableMetrics().sortMarkRoom - chevronWidth;
         paintChevron(painter, {left + chevronWidth / 2, labelPlace.center().y()}, chevronWidth - 1, 2,
                      sort == Sort::ascending ? Points::up : Points::down, accent);
     }
@@ -78,7 +97,7 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
     const QRectF tagPlace = tagArea(area);
     const QFont tagFont = fontFor(MeasuredFont::tag);
     painter.setFont(tagFont);
-    painter.setPen(withOpacity(primary, tagOpacity));
+    painter.setPen(secondary);
     painter.drawText(tagPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      QFontMetricsF(tagFont).elidedText(tag(), Qt::ElideRight, tagPlace.width()));
 
@@ -90,8 +109,7 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
         painter.drawRoundedRect(menu, 3, 3);
         painter.setRenderHint(QPainter::Antialiasing, false);
     }
-    paintChevron(painter, menu.center(), 6, 1.25, Points::down,
-                 withOpacity(primary, isHoveringMenu ? 1 : tagOpacity));
+    paintChevron(painter, menu.center(), 6, 1.25, Points::down, isHoveringMenu ? primary : secondary);
 
     const double handle = isHoveringHandle ? 2 : hairlineWidth(painter);
     painter.fillRect(QRectF(area.right() - handle, area.top(), handle, area.height()),
@@ -105,8 +123,9 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
 }
 
 QRectF ColumnHeaderCell::menuArea(const QRectF& area) {
-    const QRectF line = tagArea(area);
-    return {area.right() - handleRoom - menuSize, line.center().y() - menuSize / 2, menuSize, menuSize};
+    const TableMetrics metrics = desktopTableMetrics();
+    const double size = metrics.menuRoom - metrics.handleRoom;
+    return {area.right() - metrics.menuRoom, tagArea(area).center().y() - size / 2, size, size};
 }
 
 int ColumnHeaderCell::height() {
@@ -120,15 +139,18 @@ bool ColumnHeaderCell::isCutOff(const QRectF& area) const {
 }
 
 QRectF ColumnHeaderCell::labelArea(const QRectF& area) const {
-    const double right = handleRoom + 2 + (sort == Sort::none ? 0 : chevronRoom);
-    return {area.left() + CellView::padding, area.top() + verticalPadding,
-            std::max(0.0, area.width() - CellView::padding - right), lineHeight(MeasuredFont::label)};
+    const TableMetrics metrics = desktopTableMetrics();
+    const double left = metrics.cellMargins / 2;
+    const double right = metrics.handleRoom + 2 + (sort == Sort::none ? 0 : metrics.sortMarkRoom);
+    return {area.left() + left, area.top() + verticalPadding, std::max(0.0, area.width() - left - right),
+            lineHeight(MeasuredFont::label)};
 }
 
 QRectF ColumnHeaderCell::tagArea(const QRectF& area) {
     const double lineTop = area.top() + verticalPadding + lineHeight(MeasuredFont::label);
-    return {area.left() + CellView::padding, lineTop,
-            std::max(0.0, area.width() - CellView::padding - handleRoom - menuSize - 2),
+    const TableMetrics metrics = desktopTableMetrics();
+    const double left = metrics.cellMargins / 2;
+    return {area.left() + left, lineTop, std::max(0.0, area.width() - left - metrics.menuRoom - 2),
             lineHeight(MeasuredFont::tag)};
 }
 

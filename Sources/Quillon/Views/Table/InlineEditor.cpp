@@ -1,6 +1,6 @@
 #include "Quillon/Views/Table/InlineEditor.h"
 
-#include "Quillon/Views/Table/CellView.h"
+#include "Quillon/Views/Controls/Colors.h"
 
 #include <QApplication>
 #include <QInputMethod>
@@ -20,13 +20,17 @@ constexpr int builtInMarginPx = 2;
 
 InlineEditor::InlineEditor(Escape escapeKey, QWidget* parent) : QLineEdit(parent), escape(escapeKey) {
     setFrame(false);
-    const int margin = static_cast<int>(CellView::padding) - builtInMarginPx;
-    setTextMargins(margin, 0, margin, 0);
+    setMetrics({});
     // A value must come out as long as it went in.
     setMaxLength(std::numeric_limits<int>::max());
     // A log file that is dropped here is to be opened.
     setAcceptDrops(false);
     hide();
+}
+
+void InlineEditor::setMetrics(const TableMetrics& metrics) {
+    const int margin = static_cast<int>(metrics.cellMargins / 2) - builtInMarginPx;
+    setTextMargins(margin, 0, margin, 0);
 }
 
 void InlineEditor::begin(const QString& draft) {
@@ -137,7 +141,8 @@ void InlineEditor::focusOutEvent(QFocusEvent* event) {
 void InlineEditor::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
-    const QColor accent = palette().color(QPalette::Highlight);
+    const QColor accent =
+        standingOut(palette().color(QPalette::Highlight), {palette().color(QPalette::Base)}, shapeContrast);
     painter.fillRect(0, 0, width(), borderPx, accent);
     painter.fillRect(0, height() - borderPx, width(), borderPx, accent);
     painter.fillRect(0, 0, borderPx, height(), accent);

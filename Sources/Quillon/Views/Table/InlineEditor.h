@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Quillon/Platform/TableMetrics.h"
+
 #include <QLineEdit>
 
 namespace quillon {
@@ -25,6 +27,9 @@ class InlineEditor : public QLineEdit {
     enum class Escape { commits, drops };
 
     InlineEditor(Escape escapeKey, QWidget* parent);
+
+    /// Puts the text where the cell has its own.
+    void setMetrics(const TableMetrics& metrics);
 
     bool isOpen() const { return open; }
     /// Shows the field with `draft`, all of it selected, and takes the focus; what stood in an open one is

@@ -13,7 +13,6 @@
 namespace quillon {
 namespace {
 
-constexpr double selectedOpacity = 0.25;
 constexpr double oddRowOpacity = 0.04;
 constexpr double separatorOpacity = 0.08;
 
@@ -23,7 +22,7 @@ void QSORowView::paint(QPainter& painter, QPointF origin, const QRectF& exposed,
                        const TableGeometry& geometry, const QPalette& palette) const {
     const QColor primary = palette.color(QPalette::Text);
     // The ground goes on beyond the last column, to where the viewport ends.
-    const QRectF ground(exposed.left(), origin.y(), exposed.width(), TableGeometry::rowHeight);
+    const QRectF ground(exposed.left(), origin.y(), exposed.width(), geometry.rowHeight());
     if (isSelected) {
         painter.fillRect(ground, withOpacity(palette.color(QPalette::Highlight), selectedOpacity));
     } else if (rowIndex % 2 == 1) {
@@ -42,7 +41,7 @@ void QSORowView::paint(QPainter& painter, QPointF origin, const QRectF& exposed,
         if (area.left() >= exposed.right()) {
             break;
         }
-        CellView{record, columns[column]}.paint(painter, area, palette);
+        CellView{record, columns[column]}.paint(painter, area, geometry.metrics(), palette);
     }
 }
 

@@ -17,6 +17,8 @@ namespace quillon {
 
 /// One row of the table: its ground, its mark and its cells.
 struct QSORowView {
+    static constexpr double selectedOpacity = 0.25;  ///< Of the accent colour behind a selected row.
+
     const tallyrig::ADIFRecord& record;
     const std::vector<std::string>& columns;
     std::size_t rowIndex = 0;  ///< Among the displayed records.

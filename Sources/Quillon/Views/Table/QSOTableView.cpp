@@ -1,5 +1,6 @@
 #include "Quillon/Views/Table/QSOTableView.h"
 
+#include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/RecordChanges.h"
 #include "Quillon/Views/Controls/Labels.h"
@@ -7,12 +8,14 @@
 #include "Quillon/Views/Table/ColumnCommands.h"
 #include "Quillon/Views/Table/ColumnToolbar.h"
 #include "Quillon/Views/Table/FileInfoBar.h"
+#include "Quillon/Views/Table/RowRuler.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableHeader.h"
 #include "Quillon/Views/Table/TableQuestions.h"
 #include "Quillon/Views/Table/TableScroll.h"
 
 #include <QClipboard>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QVBoxLayout>
 
@@ -29,8 +32,10 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
       toolbar(new ColumnToolbar(store, this)),
       tableScroll(new TableScroll(this)),
       headerRow(new TableHeader(store, questions, *tableScroll)),
-      rows(new TableBody(store, *tableScroll)) {
-    tableScroll->setContent(headerRow, rows);
+      rows(new TableBody(store, *tableScroll)),
+      ruler(new RowRuler(store, *tableScroll, *headerRow, *rows)),
+      knownColumns(store.columns()) {
+    tableScroll->setContent(headerRow, rows, ruler);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -47,6 +52,7 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
                               &LogStore::columnWidthsChanged, &LogStore::checkResultsChanged}) {
         connect(&store, signal, this, &QSOTableView::refreshGeometry);
     }
+    connect(&store, &LogStore::columnsChanged, this, &QSOTableView::showNewColumn);
     connect(rows, &TableBody::currentCellChanged, this, [this] { useFrom(Part::rows); });
     connect(headerRow, &TableHeader::currentColumnChanged, this, [this] { useFrom(Part::header); });
     connect(rows, &TableBody::menuAboutToShow, this, &QSOTableView::menuAboutToShow);
@@ -100,12 +106,13 @@ void QSOTableView::copySelection() const {
 }
 
 void QSOTableView::pasteRecords() {
-    if (store.pasteRecords(QGuiApplication::clipboard()->text().toStdString()) == 0) {
+    const std::size_t count = store.pasteRecords(QGuiApplication::clipboard()->text().toStdString());
+    if (count == 0) {
         return;
     }
     store.setSearchText({});
     const tallyrig::ADIFRecordList& records = store.document().records();
-    rows->showRecord(records[records.size() - 1].id());
+    rows->showRecord(records[records.size() - count].id());
 }
 
 void QSOTableView::editCell() {
@@ -185,6 +192,27 @@ void QSOTableView::followDocument() {
     refreshGeometry();
 }
 
+/// A column that came by itself, and not with a log, is what the user waits to see.
+void QSOTableView::showNewColumn() {
+    const bool isOneMore = store.canUndo() && store.columns().size() == knownColumns.size() + 1;
+    const auto added = std::ranges::mismatch(store.columns(), knownColumns).in1;
+    if (isOneMore) {
+        const auto column = static_cast<std::size_t>(added - store.columns().begin());
+        const double x = tableScroll->scrollX();
+        tableScroll->setScrollX(
+            rows->tableGeometry().scrollXShowing(column, x, tableScroll->viewportWidth()));
+    }
+    knownColumns = store.columns();
+}
+
+/// Other letters need other rows.
+void QSOTableView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        refreshGeometry();
+    }
+    QWidget::changeEvent(event);
+}
+
 void QSOTableView::refreshGeometry() {
     std::vector<double> widths;
     widths.reserve(store.columns().size());
@@ -192,10 +220,12 @@ void QSOTableView::refreshGeometry() {
         widths.push_back(store.width(column));
     }
     const StatusGutter gutter = store.hasRecordSeverities() ? StatusGutter::shown : StatusGutter::hidden;
-    const TableGeometry geometry(widths, store.displayedCount(), gutter);
+    const TableGeometry geometry(widths, store.displayedCount(), gutter, desktopTableMetrics());
+    tableScroll->setRowHeight(geometry.rowHeight());
     tableScroll->setContentSize({geometry.totalWidth(), geometry.contentHeight()});
     headerRow->setTableGeometry(geometry);
     rows->setTableGeometry(geometry);
+    ruler->setTableGeometry(geometry);
     emit currentCellChanged();
 }
 

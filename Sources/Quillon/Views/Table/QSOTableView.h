@@ -6,12 +6,14 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillon {
 
 class ColumnToolbar;
 class FileInfoBar;
 class LogStore;
+class RowRuler;
 class TableBody;
 class TableHeader;
 class TableQuestions;
@@ -73,6 +75,9 @@ class QSOTableView : public QWidget {
     TableBody& body() const { return *rows; }
     TableScroll& scroll() const { return *tableScroll; }
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   signals:
     /// The current or the framed cell or the chosen column may be another one.
     void currentCellChanged();
@@ -86,6 +91,7 @@ class QSOTableView : public QWidget {
     void showLastStep();
     void showAddColumn();
     void refreshGeometry();
+    void showNewColumn();
     void followDocument();
 
     LogStore& store;
@@ -95,7 +101,9 @@ class QSOTableView : public QWidget {
     TableScroll* tableScroll;
     TableHeader* headerRow;
     TableBody* rows;
-    Part lastUsed = Part::rows;  ///< Which of them says what the chosen column is.
+    RowRuler* ruler;
+    std::vector<std::string> knownColumns;  ///< As they were at the last change.
+    Part lastUsed = Part::rows;             ///< Which of them says what the chosen column is.
 };
 
 }  // namespace quillon

@@ -1,16 +1,11 @@
 #include "Quillon/Views/Table/TableAccessibility.h"
 
-#include "Quillon/Catalogue/ADIFFieldCatalog.h"
-#include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Controls/Strings.h"
-#include "Quillon/Views/Table/CellView.h"
-#include "Quillon/Views/Table/ColumnHeaderCell.h"
-#include "Quillon/Views/Table/StatusGutterCell.h"
-#include "Quillon/Views/Table/TableBody.h"
+#include "Quillon/Views/Table/AccessibleTable.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPointer>
+#include <QWidget>
 
 #include <cstddef>
 #include <unordered_map>
@@ -20,47 +15,51 @@ namespace {
 
 // Assistive technology counts in `int`, from 0; the header is the row in front of the first.
 
-int columnCount(const TableBody& body) {
-    return static_cast<int>(body.tableGeometry().columnCount());
+int columnCount(const AccessibleTable& table) {
+    return static_cast<int>(table.tableGeometry().columnCount());
 }
 
-int rowCount(const TableBody& body) {
-    return static_cast<int>(body.tableGeometry().rowCount());
+int rowCount(const AccessibleTable& table) {
+    return static_cast<int>(table.tableGeometry().rowCount());
 }
 
-int childIndex(const TableBody& body, int row, int column) {
-    return (row + 1) * columnCount(body) + column;
+int childIndex(const AccessibleTable& table, int row, int column) {
+    return (row + 1) * columnCount(table) + column;
 }
 
-QAccessibleInterface* interfaceOf(TableBody& body) {
-    return QAccessible::queryAccessibleInterface(&body);
+/// The table that a widget paints; null if it paints none.
+AccessibleTable* tableIn(QObject* object) {
+    return dynamic_cast<AccessibleTable*>(object);
 }
 
 /// A cell that is not a widget: what column headers and the cells of records have in common.
 class CellBase : public QAccessibleInterface {
   public:
-    CellBase(TableBody& tableBody, int cellRow, int cellColumn)
-        : body(&tableBody), row(cellRow), column(cellColumn) {}
-    int indexInTable() const { return body ? childIndex(*body, row, column) : -1; }
+    CellBase(QWidget& tableWidget, int cellRow, int cellColumn)
+        : widget(&tableWidget), row(cellRow), column(cellColumn) {}
+    int indexInTable() const { return widget ? childIndex(shown(), row, column) : -1; }
 
-    bool isValid() const override { return body && column < columnCount(*body); }
+    bool isValid() const override { return widget && column < columnCount(shown()); }
     QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return isValid() ? interfaceOf(*body)->window() : nullptr; }
+    QWindow* window() const override { return isValid() ? parent()->window() : nullptr; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return body ? interfaceOf(*body) : nullptr; }
+    QAccessibleInterface* parent() const override {
+        return widget ? QAccessible::queryAccessibleInterface(widget) : nullptr;
+    }
     QAccessibleInterface* child(int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     void setText(QAccessible::Text, const QString&) override {}
 
   protected:
-    const std::string& columnName() const { return body->log().columns()[static_cast<std::size_t>(column)]; }
+    AccessibleTable& shown() const { return *tableIn(widget); }
+    std::size_t columnPosition() const { return static_cast<std::size_t>(column); }
     QRect onScreen(const QRectF& place) const {
         const QRect area = place.toRect();
-        return {body->mapToGlobal(area.topLeft()), area.size()};
+        return {widget->mapToGlobal(area.topLeft()), area.size()};
     }
 
-    QPointer<TableBody> body;
+    QPointer<QWidget> widget;
     int row;  ///< -1 for the header.
     int column;
 };
@@ -75,8 +74,8 @@ class HeaderCellInterface : public CellBase, public QAccessibleActionInterface {
         if (!isValid()) {
             return {};
         }
-        QRectF place = body->cellArea({0, static_cast<std::size_t>(column)});
-        place.setTop(-ColumnHeaderCell::height());
+        QRectF place = shown().cellArea({0, columnPosition()});
+        place.setTop(-shown().headerHeight());
         place.setBottom(0);
         return onScreen(place);
     }
@@ -84,8 +83,8 @@ class HeaderCellInterface : public CellBase, public QAccessibleActionInterface {
         if (!isValid() || (kind != QAccessible::Name && kind != QAccessible::Description)) {
             return {};
         }
-        return kind == QAccessible::Name ? toQString(ADIFFieldCatalog::label(columnName()))
-                                         : toQString(columnName());
+        return kind == QAccessible::Name ? shown().columnTitle(columnPosition())
+                                         : shown().columnRemark(columnPosition());
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
         return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
@@ -95,7 +94,7 @@ class HeaderCellInterface : public CellBase, public QAccessibleActionInterface {
     QStringList actionNames() const override { return {pressAction()}; }
     void doAction(const QString& name) override {
         if (name == pressAction() && isValid()) {
-            body->log().toggleSort(columnName());
+            shown().pressColumn(columnPosition());
         }
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
@@ -107,7 +106,7 @@ class CellInterface : public CellBase,
   public:
     using CellBase::CellBase;
 
-    bool isValid() const override { return CellBase::isValid() && row < rowCount(*body); }
+    bool isValid() const override { return CellBase::isValid() && row < rowCount(shown()); }
     QAccessible::Role role() const override { return QAccessible::Cell; }
     QAccessible::State state() const override {
         QAccessible::State state;
@@ -119,23 +118,21 @@ class CellInterface : public CellBase,
         state.focusable = true;
         state.editable = true;
         state.selected = isSelected();
-        state.focused = body->hasFocus() && body->currentCell() == position();
-        state.offscreen = !body->cellArea(position()).intersects(body->rect());
+        state.focused = widget->hasFocus() && shown().currentCell() == position();
+        state.offscreen = !shown().cellArea(position()).intersects(widget->rect());
         return state;
     }
-    QRect rect() const override { return isValid() ? onScreen(body->cellArea(position())) : QRect(); }
+    QRect rect() const override { return isValid() ? onScreen(shown().cellArea(position())) : QRect(); }
     QString text(QAccessible::Text kind) const override {
         if (!isValid()) {
             return {};
         }
-        const QSORowView shown = body->rowView(position().row);
         switch (kind) {
             case QAccessible::Name:
             case QAccessible::Value:
-                return CellView{shown.record, columnName()}.text();
+                return shown().cellText(position());
             case QAccessible::Description:
-                return StatusGutterCell{shown.severity, body->log().recordIssueMessages(shown.record.id())}
-                    .toolTip();
+                return shown().rowRemark(position().row);
             default:
                 return {};
         }
@@ -151,9 +148,9 @@ class CellInterface : public CellBase,
         }
     }
 
-    bool isSelected() const override { return isValid() && body->rowView(position().row).isSelected; }
+    bool isSelected() const override { return isValid() && shown().isRowSelected(position().row); }
     QList<QAccessibleInterface*> columnHeaderCells() const override {
-        return isValid() ? QList{interfaceOf(*body)->child(column)} : QList<QAccessibleInterface*>();
+        return isValid() ? QList{parent()->child(column)} : QList<QAccessibleInterface*>();
     }
     QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
     int columnIndex() const override { return column; }
@@ -165,8 +162,7 @@ class CellInterface : public CellBase,
     QStringList actionNames() const override { return {pressAction()}; }
     void doAction(const QString& name) override {
         if (name == pressAction() && isValid()) {
-            body->setCurrentCell(position());
-            body->log().selectRow(body->rowView(position().row).record.id(), {});
+            shown().pressCell(position());
         }
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
@@ -179,7 +175,7 @@ class CellInterface : public CellBase,
 
 class TableInterface : public QAccessibleWidget, public QAccessibleTableInterface {
   public:
-    explicit TableInterface(TableBody& tableBody) : QAccessibleWidget(&tableBody, QAccessible::Table) {}
+    explicit TableInterface(QWidget& tableWidget) : QAccessibleWidget(&tableWidget, QAccessible::Table) {}
     ~TableInterface() override {
         for (const auto& [index, id] : cells) {
             QAccessible::deleteAccessibleInterface(id);
@@ -207,9 +203,9 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
         const int column = index % columnCount();
         CellBase* cell = nullptr;
         if (row < 0) {
-            cell = new HeaderCellInterface(body(), row, column);
+            cell = new HeaderCellInterface(*widget(), row, column);
         } else {
-            cell = new CellInterface(body(), row, column);
+            cell = new CellInterface(*widget(), row, column);
         }
         // The registry of interfaces owns it from here on.
         cells.emplace(index, QAccessible::registerAccessibleInterface(cell));
@@ -220,16 +216,19 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
         return cell != nullptr ? cell->indexInTable() : -1;
     }
     QAccessibleInterface* childAt(int x, int y) const override {
-        const QPoint point = body().mapFromGlobal(QPoint(x, y));
-        const QPointF origin = body().cellArea({0, 0}).topLeft();
-        const auto row = body().tableGeometry().rowAt(point.y() - origin.y());
-        const auto column =
-            body().tableGeometry().columnAt(point.x() - origin.x() + body().tableGeometry().columnLeft(0));
+        const QPoint point = widget()->mapFromGlobal(QPoint(x, y));
+        const TableGeometry& geometry = shown().tableGeometry();
+        if (geometry.columnCount() == 0) {
+            return nullptr;
+        }
+        const QPointF origin = shown().cellArea({0, 0}).topLeft();
+        const auto row = geometry.rowAt(point.y() - origin.y());
+        const auto column = geometry.columnAt(point.x() - origin.x() + geometry.columnLeft(0));
         return row && column ? cellAt(static_cast<int>(*row), static_cast<int>(*column)) : nullptr;
     }
     QAccessibleInterface* focusChild() const override {
-        const auto& current = body().currentCell();
-        return current && body().hasFocus()
+        const auto& current = shown().currentCell();
+        return current && widget()->hasFocus()
                    ? cellAt(static_cast<int>(current->row), static_cast<int>(current->column))
                    : QAccessibleWidget::focusChild();
     }
@@ -238,11 +237,13 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
     QAccessibleInterface* summary() const override { return nullptr; }
     QAccessibleInterface* cellAt(int row, int column) const override {
         const bool exists = row >= 0 && row < rowCount() && column >= 0 && column < columnCount();
-        return exists ? child(childIndex(body(), row, column)) : nullptr;
+        return exists ? child(childIndex(shown(), row, column)) : nullptr;
     }
-    int rowCount() const override { return quillon::rowCount(body()); }
-    int columnCount() const override { return quillon::columnCount(body()); }
-    QString rowDescription(int row) const override { return QString::number(row + 1); }
+    int rowCount() const override { return quillon::rowCount(shown()); }
+    int columnCount() const override { return quillon::columnCount(shown()); }
+    QString rowDescription(int row) const override {
+        return row >= 0 && row < rowCount() ? shown().rowTitle(static_cast<std::size_t>(row)) : QString();
+    }
     QString columnDescription(int column) const override {
         const QAccessibleInterface* header = column >= 0 && column < columnCount() ? child(column) : nullptr;
         return header != nullptr ? header->text(QAccessible::Name) : QString();
@@ -272,7 +273,7 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
     QList<int> selectedColumns() const override { return {}; }
     int selectedColumnCount() const override { return 0; }
     bool isRowSelected(int row) const override {
-        return row >= 0 && row < rowCount() && body().rowView(static_cast<std::size_t>(row)).isSelected;
+        return row >= 0 && row < rowCount() && shown().isRowSelected(static_cast<std::size_t>(row));
     }
     bool isColumnSelected(int) const override { return false; }
     bool selectRow(int row) override { return row < rowCount() && (isRowSelected(row) || toggle(row)); }
@@ -283,14 +284,13 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
     void modelChange(QAccessibleTableModelChangeEvent*) override { forgetCells(); }
 
   private:
-    TableBody& body() const { return *static_cast<TableBody*>(widget()); }
+    AccessibleTable& shown() const { return *tableIn(widget()); }
 
     bool toggle(int row) {
         if (row < 0) {
             return false;
         }
-        const tallyrig::UUID id = body().rowView(static_cast<std::size_t>(row)).record.id();
-        body().log().selectRow(id, {.command = true});
+        shown().toggleRow(static_cast<std::size_t>(row));
         return true;
     }
 
@@ -306,37 +306,46 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
     mutable int columnsOfCells = 0;  ///< The number of columns that the indices count by.
 };
 
-QAccessibleInterface* makeTableInterface(const QString& className, QObject* object) {
-    auto* body =
-        className == QLatin1String("quillon::TableBody") ? qobject_cast<TableBody*>(object) : nullptr;
-    return body != nullptr ? new TableInterface(*body) : nullptr;
+QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (widget == nullptr) {
+        return nullptr;
+    }
+    if (tableIn(widget) != nullptr) {
+        return new TableInterface(*widget);
+    }
+    // The header is one stop for the keyboard; its description tells the column.
+    return className == QLatin1String("quillon::TableHeader")
+               ? new QAccessibleWidget(widget, QAccessible::ColumnHeader)
+               : nullptr;
 }
 
 }  // namespace
 
 void registerTableAccessibility() {
-    QAccessible::installFactory(makeTableInterface);
+    QAccessible::installFactory(makeInterface);
 }
 
-void announceCurrentCell(TableBody& body) {
-    if (!QAccessible::isActive() || !body.currentCell() || !body.hasFocus()) {
+void announceCurrentCell(QWidget& table) {
+    const AccessibleTable* shown = tableIn(&table);
+    if (!QAccessible::isActive() || !shown->currentCell() || !table.hasFocus()) {
         return;
     }
-    QAccessibleEvent event(&body, QAccessible::Focus);
-    event.setChild(childIndex(body, static_cast<int>(body.currentCell()->row),
-                              static_cast<int>(body.currentCell()->column)));
+    QAccessibleEvent event(&table, QAccessible::Focus);
+    event.setChild(childIndex(*shown, static_cast<int>(shown->currentCell()->row),
+                              static_cast<int>(shown->currentCell()->column)));
     QAccessible::updateAccessibility(&event);
 }
 
-void announceSelection(TableBody& body) {
+void announceSelection(QWidget& table) {
     if (QAccessible::isActive()) {
-        QAccessibleEvent event(&body, QAccessible::SelectionWithin);
+        QAccessibleEvent event(&table, QAccessible::SelectionWithin);
         QAccessible::updateAccessibility(&event);
     }
 }
 
-void announceOtherCells(TableBody& body) {
-    QAccessibleTableModelChangeEvent event(&body, QAccessibleTableModelChangeEvent::ModelReset);
+void announceOtherCells(QWidget& table) {
+    QAccessibleTableModelChangeEvent event(&table, QAccessibleTableModelChangeEvent::ModelReset);
     QAccessible::updateAccessibility(&event);
 }
 

@@ -1,19 +1,19 @@
 #pragma once
 
+class QWidget;
+
 namespace quillon {
 
-class TableBody;
-
-/// Lets assistive technology see `TableBody` as a table of cells with their column headers. To be called
-/// before the first one is made; further calls do nothing.
+/// Lets assistive technology see every widget that is an `AccessibleTable` as a table, and the header over it
+/// as one. To be called before the first of them is made; further calls do nothing.
 void registerTableAccessibility();
 
-// What assistive technology is told, if any is listening.
+// What assistive technology is told, if any is listening. `table` is an `AccessibleTable`.
 
 /// The keyboard is at another cell.
-void announceCurrentCell(TableBody& body);
-void announceSelection(TableBody& body);
+void announceCurrentCell(QWidget& table);
+void announceSelection(QWidget& table);
 /// Rows or columns came, went or moved: what was known about cells is void.
-void announceOtherCells(TableBody& body);
+void announceOtherCells(QWidget& table);
 
 }  // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
@@ -18,6 +19,13 @@ namespace quillon {
 namespace {
 
 constexpr double frameWidth = 2;
+
+/// The accent colour, as strong as it must be to be seen on a row that is selected as well.
+QColor frameColor(const QPalette& palette) {
+    const QColor accent = palette.color(QPalette::Highlight);
+    const QColor base = palette.color(QPalette::Base);
+    return standingOut(accent, {base, blended(accent, QSORowView::selectedOpacity, base)}, shapeContrast);
+}
 
 }  // namespace
 
@@ -36,7 +44,7 @@ TableBody::TableBody(LogStore& logStore, TableScroll& tableScroll)
     setFocusPolicy(Qt::TabFocus);
     // For letters that are put together from several keys.
     setAttribute(Qt::WA_InputMethodEnabled);
-    setMinimumSize(60, static_cast<int>(3 * TableGeometry::rowHeight));
+    setMinimumSize(60, static_cast<int>(3 * geometry.rowHeight()));
     setAccessibleName(QStringLiteral("QSO-Tabelle"));
     emptyOverlay->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(cellEditor, &InlineEditor::committed, this, &TableBody::finishEditing);
@@ -57,6 +65,7 @@ void TableBody::setTableGeometry(const TableGeometry& tableGeometry) {
     const bool hasOtherCells = tableGeometry.rowCount() != geometry.rowCount() ||
                                tableGeometry.columnCount() != geometry.columnCount();
     geometry = tableGeometry;
+    cellEditor->setMetrics(geometry.metrics());
     emptyOverlay->setVisible(store.document().records().empty());
     if (hasOtherCells) {
         announceOtherCells(*this);
@@ -90,7 +99,7 @@ void TableBody::paintEvent(QPaintEvent* event) {
     const TableGeometry::RowRange rows = builtRows();
     for (std::size_t row = rows.first; row < rows.last; ++row) {
         const double top = geometry.rowRect(row).top() - scroll.scrollY();
-        if (top < exposed.bottom() && top + TableGeometry::rowHeight > exposed.top()) {
+        if (top < exposed.bottom() && top + geometry.rowHeight() > exposed.top()) {
             rowView(row).paint(painter, {-scroll.scrollX(), top}, exposed, geometry, palette());
         }
     }
@@ -98,12 +107,13 @@ void TableBody::paintEvent(QPaintEvent* event) {
 }
 
 void TableBody::paintFrame(QPainter& painter) const {
-    if (!current.position() || !hasFocus() || geometry.columnCount() == 0) {
+    const bool isFramed = current.isFramed();
+    if (!current.position() || !(hasFocus() || isFramed) || geometry.columnCount() == 0) {
         return;
     }
-    const bool isFramed = current.isFramed();
-    const double width = isFramed ? frameWidth : 1;
-    painter.setPen(QPen(palette().color(isFramed ? QPalette::Highlight : QPalette::Text), width,
+    // Thin while the keyboard is elsewhere, as in the list of findings that led here.
+    const double width = isFramed && hasFocus() ? frameWidth : 1;
+    painter.setPen(QPen(isFramed ? frameColor(palette()) : palette().color(QPalette::Text), width,
                         isFramed ? Qt::SolidLine : Qt::DotLine, Qt::SquareCap, Qt::MiterJoin));
     const double inset = width / 2;
     painter.drawRect(cellArea(*current.position())
@@ -223,7 +233,7 @@ void TableBody::bringIntoView(CellPosition cell) {
 
 /// The first cell of the first row that is in view whole.
 CellPosition TableBody::firstInView() const {
-    return {geometry.rowAt(scroll.scrollY() + TableGeometry::rowHeight - 1).value_or(0), 0};
+    return {geometry.rowAt(scroll.scrollY() + geometry.rowHeight() - 1).value_or(0), 0};
 }
 
 bool TableBody::showsSelection() const {
@@ -311,6 +321,7 @@ void TableBody::finishEditing(const QString& draft, InlineEditor::Leave leave) {
     } else if (current.content().record != left.record) {
         // What is typed next was meant for the record that is gone from sight.
         current.clear();
+        noteCurrentCell();
     }
 }
 

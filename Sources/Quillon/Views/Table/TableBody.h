@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Views/Table/AccessibleTable.h"
 #include "Quillon/Views/Table/CurrentCell.h"
 #include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/QSORowView.h"
@@ -25,26 +26,23 @@ class TableScroll;
 /// The current cell is where the keyboard is, the selection is the store's. Arrows, page keys, Home and End
 /// move both, with shift from the anchor, with control the current cell alone; the space bar selects, with
 /// control it toggles. A letter opens the framed cell and replaces what is in it.
-class TableBody : public QWidget {
+class TableBody : public QWidget, public AccessibleTable {
     Q_OBJECT
 
   public:
     /// Both outlive the body.
     TableBody(LogStore& logStore, TableScroll& tableScroll);
 
-    LogStore& log() const { return store; }
-
     void setTableGeometry(const TableGeometry& geometry);
-    const TableGeometry& tableGeometry() const { return geometry; }
+    const TableGeometry& tableGeometry() const override { return geometry; }
     /// The rows to build for the present scroll position.
     TableGeometry::RowRange builtRows() const;
     /// The row as it is painted.
     QSORowView rowView(std::size_t row) const;
-    /// The place of the cell in the coordinates of this widget, in view or not.
-    QRectF cellArea(CellPosition cell) const;
+    QRectF cellArea(CellPosition cell) const override;
 
     /// Absent while there are no rows or the keyboard was never here.
-    const std::optional<CellPosition>& currentCell() const { return current.position(); }
+    const std::optional<CellPosition>& currentCell() const override { return current.position(); }
     /// The current cell if what is typed goes into it.
     std::optional<CellPosition> framedCell() const;
     /// Moves the keyboard there and brings the cell into view. The selection stays.
@@ -55,6 +53,10 @@ class TableBody : public QWidget {
     /// The same for a record that is not the user's choice: where another one is selected, the frame stays on
     /// that.
     void reveal(tallyrig::UUID id, std::string_view column);
+    /// As a press of the mouse on the row, but not on one of its cells.
+    void pressRow(std::size_t row, Qt::MouseButton button, Qt::KeyboardModifiers keys);
+    /// Selects from the row that was pressed to this one.
+    void dragToRow(std::size_t row);
     /// Takes the focus from the keyboard. If no displayed QSO is selected, the first in view becomes so: what
     /// the next key does, it does to what the user sees.
     void enter();
@@ -67,6 +69,18 @@ class TableBody : public QWidget {
     void commitEditing() { cellEditor->commit(); }
     /// Closes the editor without writing.
     void dismissEditor() { cellEditor->dismiss(); }
+
+    // For those who do not see it.
+    double headerHeight() const override;
+    QString cellText(CellPosition cell) const override;
+    QString columnTitle(std::size_t column) const override;
+    QString columnRemark(std::size_t column) const override;
+    QString rowTitle(std::size_t row) const override;
+    QString rowRemark(std::size_t row) const override;
+    bool isRowSelected(std::size_t row) const override;
+    void toggleRow(std::size_t row) override;
+    void pressCell(CellPosition cell) override;
+    void pressColumn(std::size_t column) override;
 
   signals:
     /// The keyboard is at another cell, or now in the rows.
@@ -88,6 +102,7 @@ class TableBody : public QWidget {
 
   private:
     QPointF contentPoint(QPointF point) const;
+    void press(CellPosition cell, Qt::MouseButton button, Qt::KeyboardModifiers keys);
     void followContent();
     void followSelection();
     void select(tallyrig::UUID id, Qt::KeyboardModifiers keys);

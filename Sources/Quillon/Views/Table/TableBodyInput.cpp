@@ -53,31 +53,47 @@ bool isWithinRow(TableMove move) {
 
 void TableBody::mousePressEvent(QMouseEvent* event) {
     const QPointF point = contentPoint(event->position());
-    const std::optional<std::size_t> row = geometry.rowAt(point.y());
-    std::optional<CellContent> pressed;
-    if (row) {
-        const std::size_t lastColumn = current.position() ? current.position()->column : 0;
-        pressed = current.contentOf({*row, geometry.columnAt(point.x()).value_or(lastColumn)});
+    if (const std::optional<std::size_t> row = geometry.rowAt(point.y())) {
+        const auto column = geometry.columnAt(point.x());
+        press({*row, column.value_or(current.position() ? current.position()->column : 0)}, event->button(),
+              event->modifiers());
+        return;
     }
     cellEditor->commit();
     setFocus(Qt::MouseFocusReason);
-    if (!pressed) {
-        if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
-            store.setSelection({}, std::nullopt);
-        }
-        return;
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+        store.setSelection({}, std::nullopt);
     }
-    if (const auto cell = current.positionOf(*pressed)) {
+}
+
+void TableBody::pressRow(std::size_t row, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+    press({row, current.position() ? current.position()->column : 0}, button, keys);
+}
+
+void TableBody::press(CellPosition cell, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+    // What is written now can move the row, but it was this one that was meant.
+    const CellContent pressed = current.contentOf(cell);
+    cellEditor->commit();
+    setFocus(Qt::MouseFocusReason);
+    if (const auto now = current.positionOf(pressed)) {
         // Not brought into view: a row that moves under the pointer cannot be double-clicked.
-        current.set(*cell);
+        current.set(*now);
         noteCurrentCell();
         update();
     }
-    if (event->button() == Qt::LeftButton) {
-        select(pressed->record, event->modifiers());
-    } else if (!store.selection().contains(pressed->record)) {
-        select(pressed->record, {});
+    if (button == Qt::LeftButton) {
+        select(pressed.record, keys);
+    } else if (!store.selection().contains(pressed.record)) {
+        select(pressed.record, {});
     }
+}
+
+void TableBody::dragToRow(std::size_t row) {
+    if (!current.position() || current.position()->row == row) {
+        return;
+    }
+    setCurrentCell({row, current.position()->column});
+    select(current.content().record, Qt::ShiftModifier);
 }
 
 void TableBody::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -172,7 +188,8 @@ void TableBody::moveCurrent(TableMove move, Qt::KeyboardModifiers modifiers) {
 }
 
 void TableBody::focusInEvent(QFocusEvent* event) {
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+        event->reason() == Qt::ShortcutFocusReason) {
         enter();
     }
     // A menu that closes gives the focus back before its command runs, which may be about the header.
@@ -206,7 +223,9 @@ QString TableBody::toolTipAt(QPointF point) const {
     const QSORowView shown = rowView(*row);
     if (const auto column = geometry.columnAt(place.x())) {
         const CellView cell{shown.record, store.columns()[*column]};
-        return cell.isCutOff(cellArea({*row, *column}), font()) ? plainToolTip(cell.text()) : QString();
+        return cell.isCutOff(cellArea({*row, *column}), geometry.metrics(), font())
+                   ? plainToolTip(cell.text())
+                   : QString();
     }
     if (geometry.hasGutter() && geometry.gutterRect(*row).contains(place)) {
         const StatusGutterCell mark{shown.severity, store.recordIssueMessages(shown.record.id())};

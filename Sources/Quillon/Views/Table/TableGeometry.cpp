@@ -6,9 +6,8 @@
 namespace quillon {
 namespace {
 
-/// How far from a column's right edge the handle can be grasped: wide to the left, where the header keeps
-/// room for it, and just over the edge to the right, where the next column's name begins.
-constexpr double handleReachLeft = 6;
+/// How far beyond a column's right edge its handle can be grasped: just over it, for there the next column's
+/// name begins. To the left the header keeps room for it.
 constexpr double handleReachRight = 2;
 
 std::size_t wholeRows(double height) {
@@ -24,8 +23,8 @@ double scrollShowing(double begin, double end, double scroll, double viewport) {
 }  // namespace
 
 TableGeometry::TableGeometry(const std::vector<double>& columnWidths, std::size_t rowCount,
-                             StatusGutter gutter)
-    : rows(rowCount) {
+                             StatusGutter gutter, const TableMetrics& tableMetrics)
+    : rows(rowCount), lengths(tableMetrics) {
     edges.reserve(columnWidths.size() + 1);
     edges.push_back(gutter == StatusGutter::shown ? gutterWidth : 0);
     for (const double width : columnWidths) {
@@ -36,8 +35,8 @@ TableGeometry::TableGeometry(const std::vector<double>& columnWidths, std::size_
 TableGeometry::RowRange TableGeometry::bodyRows(double scrollY, double viewportHeight,
                                                 double fallbackViewport) const {
     const double viewport = viewportHeight > 1 ? viewportHeight : fallbackViewport;
-    const std::size_t top = wholeRows(scrollY / rowHeight);
-    const std::size_t visible = wholeRows(std::ceil(viewport / rowHeight)) + 2 * rowBuffer;
+    const std::size_t top = wholeRows(scrollY / rowHeight());
+    const std::size_t visible = wholeRows(std::ceil(viewport / rowHeight())) + 2 * rowBuffer;
     const std::size_t first = std::min(top - std::min(top, rowBuffer), rows);
     return {first, std::min(first + visible, rows)};
 }
@@ -52,7 +51,7 @@ std::optional<std::size_t> TableGeometry::rowAt(double y) const {
     if (y < 0 || y >= contentHeight()) {
         return std::nullopt;
     }
-    return wholeRows(y / rowHeight);
+    return wholeRows(y / rowHeight());
 }
 
 std::optional<std::size_t> TableGeometry::columnAt(double x) const {
@@ -64,28 +63,28 @@ std::optional<std::size_t> TableGeometry::columnAt(double x) const {
 
 std::optional<std::size_t> TableGeometry::resizeHandleAt(double x) const {
     const auto right = std::lower_bound(edges.begin() + 1, edges.end(), x - handleReachRight);
-    if (right == edges.end() || x < *right - handleReachLeft || x >= *right + handleReachRight) {
+    if (right == edges.end() || x < *right - lengths.handleRoom || x >= *right + handleReachRight) {
         return std::nullopt;
     }
     return static_cast<std::size_t>(right - (edges.begin() + 1));
 }
 
 QRectF TableGeometry::rowRect(std::size_t row) const {
-    return {0, static_cast<double>(row) * rowHeight, totalWidth(), rowHeight};
+    return {0, static_cast<double>(row) * rowHeight(), totalWidth(), rowHeight()};
 }
 
 QRectF TableGeometry::gutterRect(std::size_t row) const {
-    return {0, static_cast<double>(row) * rowHeight, edges.front(), rowHeight};
+    return {0, static_cast<double>(row) * rowHeight(), edges.front(), rowHeight()};
 }
 
 QRectF TableGeometry::cellRect(CellPosition cell) const {
-    return {columnLeft(cell.column), static_cast<double>(cell.row) * rowHeight, columnWidth(cell.column),
-            rowHeight};
+    return {columnLeft(cell.column), static_cast<double>(cell.row) * rowHeight(), columnWidth(cell.column),
+            rowHeight()};
 }
 
 double TableGeometry::scrollYShowing(std::size_t row, double scrollY, double viewportHeight) const {
-    const double top = static_cast<double>(row) * rowHeight;
-    return scrollShowing(top, top + rowHeight, scrollY, viewportHeight);
+    const double top = static_cast<double>(row) * rowHeight();
+    return scrollShowing(top, top + rowHeight(), scrollY, viewportHeight);
 }
 
 double TableGeometry::scrollXShowing(std::size_t column, double scrollX, double viewportWidth) const {
@@ -100,7 +99,7 @@ std::optional<CellPosition> TableGeometry::target(CellPosition from, TableMove m
     }
     const std::size_t lastRow = rows - 1;
     const std::size_t lastColumn = columnCount() == 0 ? 0 : columnCount() - 1;
-    const std::size_t page = std::max<std::size_t>(1, wholeRows(viewportHeight / rowHeight));
+    const std::size_t page = std::max<std::size_t>(1, wholeRows(viewportHeight / rowHeight()));
     CellPosition cell = *nearest;
     switch (move) {
         case TableMove::up:

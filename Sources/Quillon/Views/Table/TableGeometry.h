@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Quillon/Platform/TableMetrics.h"
+
 #include <QRectF>
 
 #include <cstddef>
@@ -29,7 +31,6 @@ enum class StatusGutter { hidden, shown };
 /// the columns at most, whatever the number of rows.
 class TableGeometry {
   public:
-    static constexpr double rowHeight = 22;
     static constexpr std::size_t rowBuffer = 8;  ///< Rows kept outside the viewport on each side.
     static constexpr double gutterWidth = 26;
     static constexpr double separatorHeight = 1;  ///< The last line of each row.
@@ -45,7 +46,11 @@ class TableGeometry {
 
     /// No columns and no rows.
     TableGeometry() : TableGeometry({}, 0, StatusGutter::hidden) {}
-    TableGeometry(const std::vector<double>& columnWidths, std::size_t rowCount, StatusGutter gutter);
+    TableGeometry(const std::vector<double>& columnWidths, std::size_t rowCount, StatusGutter gutter,
+                  const TableMetrics& tableMetrics = {});
+
+    const TableMetrics& metrics() const { return lengths; }
+    double rowHeight() const { return lengths.rowHeight; }
 
     std::size_t rowCount() const { return rows; }
     std::size_t columnCount() const { return edges.size() - 1; }
@@ -53,7 +58,7 @@ class TableGeometry {
 
     /// The widths of all columns and of the gutter.
     double totalWidth() const { return edges.back(); }
-    double contentHeight() const { return rowHeight * static_cast<double>(rows); }
+    double contentHeight() const { return rowHeight() * static_cast<double>(rows); }
 
     /// The rows to build: those in the viewport and `rowBuffer` more on each side. `viewportHeight` is what
     /// the scroll container reported last; as long as it reported nothing (1 or less), `fallbackViewport`
@@ -99,6 +104,7 @@ class TableGeometry {
   private:
     std::vector<double> edges;  ///< The left edge of each column and the right edge of the last.
     std::size_t rows = 0;
+    TableMetrics lengths;
 };
 
 }  // namespace quillon

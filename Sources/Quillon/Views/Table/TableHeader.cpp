@@ -55,7 +55,10 @@ TableHeader::TableHeader(LogStore& logStore, TableQuestions& tableQuestions, Tab
     nameEditor->setFont(fontFor(MeasuredFont::tag));
     connect(nameEditor, &InlineEditor::committed, this, &TableHeader::finishRename);
     connect(&store, &LogStore::errorMessageChanged, this, &TableHeader::reopenRefused, Qt::QueuedConnection);
-    connect(&store, &LogStore::sortChanged, this, qOverload<>(&QWidget::update));
+    connect(&store, &LogStore::sortChanged, this, [this] {
+        setFocusedColumn(focusedColumn);
+        update();
+    });
     connect(&scroll, &TableScroll::scrollXChanged, this, [this] {
         placeEditor();
         update();
@@ -64,6 +67,7 @@ TableHeader::TableHeader(LogStore& logStore, TableQuestions& tableQuestions, Tab
 
 void TableHeader::setTableGeometry(const TableGeometry& tableGeometry) {
     geometry = tableGeometry;
+    nameEditor->setMetrics(geometry.metrics());
     if (nameEditor->isOpen() && !store.columnExists(renamedColumn)) {
         nameEditor->dismiss();
     }
@@ -219,11 +223,7 @@ QRectF TableHeader::gutterArea() const {
 
 ColumnHeaderCell TableHeader::headerCell(std::size_t column) const {
     const std::string& name = store.columns()[column];
-    ColumnHeaderCell cell{name};
-    if (store.sortColumn() == name) {
-        cell.sort =
-            store.sortAscending() ? ColumnHeaderCell::Sort::ascending : ColumnHeaderCell::Sort::descending;
-    }
+    ColumnHeaderCell cell{name, ColumnHeaderCell::sortOf(store, name)};
     const bool isGripped = grip && grip->place.column == column;
     cell.isDragging = isGripped && grip->isDragging;
     cell.isHoveringHandle =

@@ -246,7 +246,12 @@ void TableHeader::setFocusedColumn(std::size_t column) {
     const std::size_t count = geometry.columnCount();
     focusedColumn = count == 0 ? 0 : std::min(column, count - 1);
     focusedName = count == 0 ? std::string() : store.columns()[focusedColumn];
-    setAccessibleDescription(count == 0 || !hasFocus() ? QString() : headerCell(focusedColumn).label());
+    if (count == 0 || !hasFocus()) {
+        setAccessibleDescription({});
+        return;
+    }
+    const ColumnHeaderCell cell = headerCell(focusedColumn);
+    setAccessibleDescription(cell.label() + QStringLiteral(", ") + cell.remark());
 }
 
 void TableHeader::focusInEvent(QFocusEvent* event) {

@@ -1,7 +1,5 @@
 #include "Quillon/Views/Table/TableScroll.h"
 
-#include "Quillon/Views/Table/TableGeometry.h"
-
 #include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
@@ -34,24 +32,28 @@ TableScroll::TableScroll(QWidget* parent)
       horizontal(new QScrollBar(Qt::Horizontal, this)),
       vertical(new QScrollBar(Qt::Vertical, this)) {
     horizontal->setSingleStep(horizontalStepPx);
-    vertical->setSingleStep(static_cast<int>(TableGeometry::rowHeight));
     connect(horizontal, &QScrollBar::valueChanged, this, &TableScroll::report);
     connect(vertical, &QScrollBar::valueChanged, this, &TableScroll::report);
 }
 
-void TableScroll::setContent(QWidget* headerWidget, QWidget* bodyWidget) {
+void TableScroll::setRowHeight(double height) {
+    vertical->setSingleStep(static_cast<int>(height));
+}
+
+void TableScroll::setContent(QWidget* headerWidget, QWidget* bodyWidget, QWidget* rulerWidget) {
     header = headerWidget;
     body = bodyWidget;
     body->installEventFilter(this);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(header, 0, 0);
-    layout->addWidget(body, 1, 0);
-    layout->addWidget(vertical, 1, 1);
-    layout->addWidget(horizontal, 2, 0);
+    layout->addWidget(rulerWidget, 0, 0, 2, 1);
+    layout->addWidget(header, 0, 1);
+    layout->addWidget(body, 1, 1);
+    layout->addWidget(vertical, 1, 2);
+    layout->addWidget(horizontal, 2, 1);
     layout->setRowStretch(1, 1);
-    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
 }
 
 void TableScroll::setContentSize(QSizeF size) {

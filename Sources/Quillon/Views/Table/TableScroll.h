@@ -8,8 +8,8 @@ class QScrollBar;
 namespace quillon {
 
 /// The scroll container of the table: a header that follows the horizontal position only, the body under it,
-/// and both scroll bars, always shown. The body is a viewport: it stays where it is and paints the part that
-/// is scrolled to.
+/// on their left a ruler that follows the vertical one only, and both scroll bars, always shown. The body is
+/// a viewport: it stays where it is and paints the part that is scrolled to.
 ///
 /// All values are logical pixels. Changes smaller than 0.5 are not reported, so that jitter repaints nothing.
 class TableScroll : public QWidget {
@@ -18,8 +18,10 @@ class TableScroll : public QWidget {
   public:
     explicit TableScroll(QWidget* parent = nullptr);
 
-    /// Takes both into the layout, once.
-    void setContent(QWidget* headerWidget, QWidget* bodyWidget);
+    /// Takes the three into the layout, once. The ruler stands beside header and body.
+    void setContent(QWidget* headerWidget, QWidget* bodyWidget, QWidget* rulerWidget);
+    /// How far a step of the scroll bar goes, in rows one.
+    void setRowHeight(double height);
     /// A position beyond the new end moves to it.
     void setContentSize(QSizeF size);
 

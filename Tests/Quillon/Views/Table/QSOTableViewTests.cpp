@@ -2,10 +2,10 @@
 
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Table/CellView.h"
+#include "Quillon/Views/Table/RowRuler.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
 
 #include <QAccessible>
-#include <QClipboard>
 #include <QHelpEvent>
 #include <QToolTip>
 
@@ -17,18 +17,9 @@ using testing::TableViewTest;
 class CellEditor : public TableViewTest {};
 class TableMouse : public TableViewTest {};
 class TableKeyboard : public TableViewTest {};
-class SelectionAndFrame : public TableViewTest {};
 class TableScrolling : public TableViewTest {};
 class TableRows : public TableViewTest {};
 class TableForAssistiveTechnology : public TableViewTest {};
-
-std::vector<std::string> manyRecords(int count) {
-    std::vector<std::string> records;
-    for (int number = 1; number <= count; ++number) {
-        records.push_back("CALL=DL" + std::to_string(number) + "A BAND=20m");
-    }
-    return records;
-}
 
 TEST_F(CellEditor, ShowsTheRawValueOverTheReadableOne) {
     showLog({"CALL=DL1A QSO_DATE=20240115"});
@@ -253,130 +244,6 @@ TEST_F(TableKeyboard, OpensTheFramedCellWithTheLetterTyped) {
     EXPECT_EQ(editorText(), "Ä");
 }
 
-TEST_F(TableKeyboard, SelectsWhereItEntersFromTheSearch) {
-    showLog(manyRecords(5));
-    click(3, 0);
-    header.setFocus();
-    store.setSearchText(QStringLiteral("DL2A"));
-    view.enterRows();
-    EXPECT_EQ(selected(), "DL2A") << "and no longer the hidden one, which the next key would delete";
-    EXPECT_EQ(framed(), "0/0");
-}
-
-TEST_F(SelectionAndFrame, NeverShowTwoDifferentRecords) {
-    showLog(manyRecords(5));
-    click(3, 1);
-    store.setSearchText(QStringLiteral("DL2A"));
-    EXPECT_EQ(framed(), "(none)") << "the selected record is hidden";
-    view.editCell();
-    typeText("x");
-    EXPECT_EQ(editorText(), "(closed)");
-    EXPECT_EQ(cell(1, "BAND"), "20m");
-    key(Qt::Key_Down);
-    EXPECT_EQ(selected(), "DL2A");
-    EXPECT_EQ(framed(), "0/1");
-    store.selectRecord(4);
-    EXPECT_EQ(framed(), "(none)");
-    store.setSearchText({});
-    EXPECT_EQ(framed(), "4/1");
-    key(Qt::Key_Up, Qt::ControlModifier);
-    EXPECT_EQ(framed(), "(none)") << "on its way to the next row to be selected as well";
-    key(Qt::Key_Space, Qt::ControlModifier);
-    EXPECT_EQ(framed(), "3/1");
-}
-
-TEST_F(SelectionAndFrame, AreBothOnTheCellThatIsShownThoughTheSearchHidIt) {
-    showLog(manyRecords(100));
-    view.showCell(id(60), "BAND");
-    EXPECT_EQ(framed(), "60/1");
-    EXPECT_NEAR(body.cellArea({60, 0}).center().y(), body.height() / 2.0, 1) << "in the middle";
-    store.setSearchText(QStringLiteral("DL5A"));
-    view.showCell(id(10), "NOWHERE");
-    EXPECT_EQ(store.searchText(), QString());
-    EXPECT_EQ(selected(), "DL11A");
-    EXPECT_EQ(framed(), "10/1");
-    EXPECT_TRUE(body.rect().contains(at(10, 0)));
-
-    store.setSearchText(QStringLiteral("DL5A"));
-    questions.row = 7;
-    view.goToRow();
-    EXPECT_EQ(framed(), "6/1");
-}
-
-TEST_F(SelectionAndFrame, GoOnWithTheNextHitAfterAnEditThatTookTheLastOneOut) {
-    showLog({"CALL=DL1A NAME=Ann", "CALL=DL2A NAME=Ann", "CALL=DL3A NAME=Ann"});
-    store.setSearchText(QStringLiteral("ann"));
-    doubleClick(1, 1);
-    typeText("Bob");
-    key(Qt::Key_Return);
-    EXPECT_EQ(framed(), "1/1");
-    EXPECT_EQ(selected(), "DL3A");
-    typeText("Eve");
-    key(Qt::Key_Tab);
-    typeText("what belongs into the record that is gone");
-    EXPECT_EQ(shown("NAME"), "Ann");
-    EXPECT_EQ(editorText(), "(closed)");
-    EXPECT_EQ(cell(2, "NAME"), "Eve");
-}
-
-TEST_F(SelectionAndFrame, AreOnTheNewRecordWithItsCallOpen) {
-    for (const char* search : {"", "DL2A"}) {
-        showLog(manyRecords(100));
-        store.moveColumnBy("CALL", 1);
-        store.toggleSort("BAND");
-        store.setSearchText(QString::fromLatin1(search));
-        view.addRecord();
-        EXPECT_EQ(store.displayedCount(), 101U);
-        EXPECT_EQ(framed(), "100/1");
-        typeText("DK5X");
-        view.commitEditing();
-        EXPECT_EQ(selected(), "DK5X");
-        EXPECT_TRUE(body.rect().contains(at(100, 1)));
-    }
-    store.newLog();
-    view.addRecord();
-    EXPECT_EQ(editorText(), "");
-}
-
-TEST_F(SelectionAndFrame, ComeToWhatAStepInTheHistoryChanged) {
-    showLog(manyRecords(100));
-    type(70, "BAND", "40m");
-    view.undo();
-    EXPECT_EQ(framed(), "70/1");
-    view.scroll().setScrollY(0);
-    click(0, 0);
-    view.redo();
-    EXPECT_EQ(framed(), "0/0") << "where the selection is";
-    EXPECT_TRUE(body.rect().contains(at(70, 1)));
-}
-
-TEST_F(SelectionAndFrame, AreOnWhatWasPasted) {
-    showLog(manyRecords(50));
-    store.setSearchText(QStringLiteral("DL2A"));
-    QApplication::clipboard()->setText(QStringLiteral("<CALL:4>DK5X<EOR><CALL:4>DK6X<EOR>"));
-    view.pasteRecords();
-    EXPECT_EQ(selected(), "DK5X DK6X");
-    EXPECT_TRUE(body.rect().contains(at(51, 0)));
-}
-
-TEST_F(SelectionAndFrame, AskBeforeHiddenRecordsAreDeleted) {
-    showLog(manyRecords(5));
-    select({0, 1, 2});
-    store.setSearchText(QStringLiteral("DL2A"));
-    view.deleteSelected();
-    EXPECT_EQ(questions.asked, "2 of 3");
-    EXPECT_EQ(store.document().records().size(), 5U);
-    questions.consents = true;
-    view.deleteSelected();
-    EXPECT_EQ(store.document().records().size(), 2U);
-    store.setSearchText({});
-    select({0});
-    questions.asked.clear();
-    view.deleteSelected();
-    EXPECT_EQ(questions.asked, "");
-    EXPECT_EQ(shown(), "DL5A");
-}
-
 TEST_F(TableScrolling, FollowsTheKeyboardBothWays) {
     showLog(manyRecords(100));
     for (const std::string& column : store.columns()) {
@@ -408,14 +275,50 @@ TEST_F(TableScrolling, EndsWhereTheRowsEndAndStartsOverWithAnotherLog) {
     EXPECT_EQ(current(), "(none)");
 }
 
+TEST_F(TableRows, AreSelectedByDraggingAlongTheirNumbers) {
+    showLog(manyRecords(5));
+    auto* ruler = view.findChild<RowRuler*>();
+    const auto place = [&](int row) { return QPoint(5, header.height() + 22 * row + 11); };
+    drag(*ruler, place(1), place(3));
+    drop(*ruler, place(3));
+    EXPECT_EQ(selected(), "DL2A DL3A DL4A");
+    QTest::mouseClick(ruler, Qt::LeftButton, Qt::ControlModifier, place(2));
+    EXPECT_EQ(selected(), "DL2A DL4A");
+}
+
+TEST_F(TableRows, AreHighEnoughForALargeFont) {
+    showLog({"CALL=DL1A"});
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(24);
+    QApplication::setFont(large);
+    {
+        QSOTableView other(store, questions);
+        other.show();
+        other.body().startEditing({0, 0});
+        const int needed = QFontMetrics(large).height();
+        EXPECT_GE(other.body().tableGeometry().rowHeight(), needed + 4);
+        EXPECT_GE(other.body().editor().height(), needed + 2);
+    }
+    QApplication::setFont(before);
+}
+
+TEST_F(TableRows, ShowWhatWouldTurnThemRound) {
+    showLog({"CALL=DL1A NAME=a\u202Eb\x1B"});
+    EXPECT_EQ(CellView({body.rowView(0).record, "NAME"}).text(), QStringLiteral("a⟨RLO⟩b␛"));
+}
+
 TEST_F(TableRows, StayCurrentWhereTheyGo) {
-    showLog({"CALL=C", "CALL=A", "CALL=B"});
+    showLog({"CALL=C BAND=20m", "CALL=A", "CALL=B"});
     click(0, 0);
     store.toggleSort("CALL");
     EXPECT_EQ(current(), "2/0");
+    store.setWidth(600, "CALL");
+    store.setWidth(600, "BAND");
     store.addColumn("NAME");
+    EXPECT_TRUE(body.rect().contains(at(2, 2))) << "an added column comes into view";
     store.moveColumnBefore("CALL", "");
-    EXPECT_EQ(current(), "2/1");
+    EXPECT_EQ(current(), "2/2");
 }
 
 TEST_F(TableRows, ShowTheirFindingsInAGutter) {
@@ -461,6 +364,18 @@ TEST_F(TableForAssistiveTechnology, HasCellsWithHeaders) {
     EXPECT_EQ(table->tableInterface()->selectedRows(), QList{1});
     QAccessibleInterface* cell = table->tableInterface()->cellAt(1, 1);
     EXPECT_EQ(cell->text(QAccessible::Name), "16.01.2024");
+    store.toggleSort("QSO_DATE");
+    store.runCheck();
+    const auto remark = [&](QAccessibleInterface* from) {
+        return from->text(QAccessible::Description).toStdString();
+    };
+    EXPECT_EQ(remark(table->child(1)), "QSO_DATE, aufsteigend sortiert");
+    EXPECT_EQ(remark(cell).substr(0, 8), "Fehler: ");
+    EXPECT_EQ(table->tableInterface()->rowDescription(1), "Zeile 2");
+    header.setFocus();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&header)->role(), QAccessible::ColumnHeader);
+    EXPECT_EQ(remark(QAccessible::queryAccessibleInterface(&header)), "Rufzeichen, CALL");
+    body.setFocus();
     EXPECT_TRUE(cell->state().focused && cell->state().selected);
     EXPECT_EQ(table->child(table->indexOfChild(cell)), cell);
     EXPECT_EQ(cell->tableCellInterface()->columnHeaderCells().value(0)->text(QAccessible::Name), "Datum");

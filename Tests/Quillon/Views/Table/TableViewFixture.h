@@ -59,6 +59,15 @@ class TableViewTest : public LogStoreTest {
         QApplication::processEvents();
     }
 
+    /// Records for `showLog` that are told apart by the call: DL1A, DL2A and so on.
+    static std::vector<std::string> manyRecords(int count) {
+        std::vector<std::string> records;
+        for (int number = 1; number <= count; ++number) {
+            records.push_back("CALL=DL" + std::to_string(number) + "A BAND=20m");
+        }
+        return records;
+    }
+
     QPoint at(std::size_t row, std::size_t column) const {
         return body.cellArea({row, column}).center().toPoint();
     }

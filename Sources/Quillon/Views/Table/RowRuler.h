@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Quillon/Views/Table/TableGeometry.h"
+
+#include <QWidget>
+
+namespace quillon {
+
+class LogStore;
+class TableBody;
+class TableHeader;
+class TableScroll;
+
+/// The strip to the left of header and rows, which stays when the columns scroll. It tells of each row which
+/// number the QSO has in the log, whatever search and sort make of the order. A click on a number selects the
+/// row, with the keys held down as in the rows; dragging selects from the first to the last.
+class RowRuler : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// All outlive the ruler.
+    RowRuler(const LogStore& logStore, TableScroll& tableScroll, const TableHeader& tableHeader,
+             TableBody& tableBody);
+
+    /// Makes the strip as wide as the longest number needs.
+    void setTableGeometry(const TableGeometry& tableGeometry);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    /// The height at which the rows begin.
+    double top() const;
+
+    const LogStore& store;
+    const TableScroll& scroll;
+    const TableHeader& header;
+    TableBody& body;
+    TableGeometry geometry;
+};
+
+}  // namespace quillon
