@@ -105,14 +105,13 @@ nlohmann::ordered_json jsonOf(const ValidationIssue& issue) {
 }
 
 void writeJson(Output& output, const Checked& result) {
-    JsonList issues(output,
-                    {{"file", result.log.fileName()},
-                     {"records", result.log.document.records().size()},
-                     {"errors", result.errors},
-                     {"warnings", result.warnings()}},
-                    "issues");
+    const nlohmann::ordered_json head = {{"file", result.log.fileName()},
+                                         {"records", result.log.document.records().size()},
+                                         {"errors", result.errors},
+                                         {"warnings", result.warnings()}};
+    JsonList issues(output, head.dump(), "issues");
     for (const ValidationIssue& issue : result.issues) {
-        issues.add(jsonOf(issue));
+        issues.add(jsonOf(issue).dump());
     }
     issues.finish();
 }

@@ -1,11 +1,11 @@
 #include "Tallyrig/Text/Characters.h"
 #include "TallyrigTool/Commands.h"
 #include "TallyrigTool/JsonList.h"
+#include "TallyrigTool/JsonText.h"
 #include "TallyrigTool/LogFile.h"
 #include "TallyrigTool/Usage.h"
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -22,31 +22,44 @@ struct Options {
     bool asJson = false;
 };
 
-/// `fields` is any range of things with a name, a value and an optional type.
+/// Appends the JSON list of `fields`, any range of things with a name, a value and an optional type.
 template <typename Fields>
-nlohmann::ordered_json jsonOf(const Fields& fields) {
-    auto json = nlohmann::ordered_json::array();
+void appendJsonList(std::string& json, const Fields& fields) {
+    std::string_view separator = "[";
     for (const auto& field : fields) {
-        auto& member = json.emplace_back();
-        member["name"] = field.name;
-        member["value"] = field.value;
-        member["type"] = nullptr;
+        json += separator;
+        json += "{\"name\":";
+        appendJson(json, field.name);
+        json += ",\"value\":";
+        appendJson(json, field.value);
+        json += ",\"type\":";
         if (field.type) {
-            member["type"] = *field.type;
+            appendJson(json, *field.type);
+        } else {
+            json += "null";
         }
+        json += '}';
+        separator = ",";
     }
-    return json;
+    json += fields.empty() ? "[]" : "]";
 }
 
 void writeJson(Output& output, const LogFile& log) {
-    JsonList records(output,
-                     {{"file", log.fileName()},
-                      {"format", formatName(log.format)},
-                      {"headerComment", log.document.headerComment()},
-                      {"headerFields", jsonOf(log.document.headerFields())}},
-                     "records");
+    std::string json = "{\"file\":";
+    appendJson(json, log.fileName());
+    json += ",\"format\":";
+    appendJson(json, formatName(log.format));
+    json += ",\"headerComment\":";
+    appendJson(json, log.document.headerComment());
+    json += ",\"headerFields\":";
+    appendJsonList(json, log.document.headerFields());
+    json += '}';
+    JsonList records(output, json, "records");
     for (const ADIFRecord& record : log.document.records()) {
-        records.add({{"fields", jsonOf(record.fields())}});
+        json = "{\"fields\":";
+        appendJsonList(json, record.fields());
+        json += '}';
+        records.add(json);
     }
     records.finish();
     output.write("\n");

@@ -1,19 +1,19 @@
 #include "TallyrigTool/JsonList.h"
 
-#include <nlohmann/json.hpp>
-
 namespace tallyrig::tool {
 
-JsonList::JsonList(Output& outputForIt, const nlohmann::ordered_json& members, const std::string& name)
+JsonList::JsonList(Output& outputForIt, std::string_view object, std::string_view name)
     : output(outputForIt) {
-    std::string head = members.dump();
-    head.pop_back();
-    output.write(head + ",\"" + name + "\":[");
+    object.remove_suffix(1);
+    output.write(object);
+    output.write(",\"");
+    output.write(name);
+    output.write("\":[");
 }
 
-void JsonList::add(const nlohmann::ordered_json& item) {
+void JsonList::add(std::string_view item) {
     output.write(isEmpty ? "\n" : ",\n");
-    output.write(item.dump());
+    output.write(item);
     isEmpty = false;
 }
 

@@ -2,9 +2,7 @@
 
 #include "TallyrigTool/Console.h"
 
-#include <nlohmann/json_fwd.hpp>
-
-#include <string>
+#include <string_view>
 
 namespace tallyrig::tool {
 
@@ -12,9 +10,11 @@ namespace tallyrig::tool {
 /// of its own, so that the document suits line-wise tools too.
 class JsonList {
   public:
-    /// Begins the object with the `members` in front of the list; `name` is the list's own.
-    JsonList(Output& output, const nlohmann::ordered_json& members, const std::string& name);
-    void add(const nlohmann::ordered_json& item);
+    /// Writes `object`, the JSON text of one that is not empty, with the list `name` as its last
+    /// member.
+    JsonList(Output& output, std::string_view object, std::string_view name);
+    /// Adds a value as JSON text without line breaks.
+    void add(std::string_view item);
     /// Ends list and object.
     void finish();
 
