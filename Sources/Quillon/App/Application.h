@@ -21,6 +21,7 @@ class Application : public QApplication {
 
   private:
     std::function<void()> outOfMemory;
+    bool hasToldOfPainting = false;
 };
 
 }  // namespace quillon

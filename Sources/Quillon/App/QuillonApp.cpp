@@ -45,7 +45,7 @@ QuillonApp::~QuillonApp() = default;
 
 void QuillonApp::tellOutOfMemory() {
     logStore.setErrorMessage(
-        QStringLiteral("Der Arbeitsspeicher reicht dafür nicht.\nDas Log ist, wie es vorher war."));
+        QStringLiteral("Der Arbeitsspeicher reicht dafür nicht.\nDas offene Log ist unversehrt."));
 }
 
 }  // namespace quillon

@@ -11,12 +11,17 @@ QString nameOf(const QString& path) {
     return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
+/// Where relative paths begin; what the system itself takes for it if the folder was deleted.
+QString workingFolder() {
+    const QString folder = QDir::currentPath();
+    return folder.isEmpty() ? QStringLiteral(".") : folder;
+}
+
 }  // namespace
 
 QString absolutePath(const QString& path) {
-    return path.isEmpty() || path.startsWith(QLatin1Char('/'))
-               ? path
-               : QDir::currentPath() + QLatin1Char('/') + path;
+    return path.isEmpty() || path.startsWith(QLatin1Char('/')) ? path
+                                                               : workingFolder() + QLatin1Char('/') + path;
 }
 
 QString folderOf(const QString& path) {

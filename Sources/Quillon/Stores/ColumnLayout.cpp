@@ -138,12 +138,12 @@ std::optional<std::string> ColumnLayout::duplicate(std::string_view name) {
 }
 
 bool ColumnLayout::remove(std::string_view name) {
+    widthsSet.erase(widthKey(name));
     const auto column = find(text::upper(name));
     if (column == columns.end()) {
         return false;
     }
     columns.erase(column);
-    widthsSet.erase(widthKey(name));
     return true;
 }
 

@@ -46,7 +46,7 @@ class ColumnLayout {
     /// Inserts a column directly behind `name`, with its width, and gives its name: the first free one of
     /// `name`, "_" and a number from 2 on. None if there is no column `name`.
     std::optional<std::string> duplicate(std::string_view name);
-    /// Removes the column and its width; false if there was no such column.
+    /// Removes the column and the width kept for this name; false if there was no such column.
     bool remove(std::string_view name);
     /// Swaps the column with the one `offset` places further on; false if there are not both.
     bool moveBy(std::string_view name, int offset);

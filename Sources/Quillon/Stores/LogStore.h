@@ -316,6 +316,9 @@ class LogStore : public QObject {
     static std::span<const Changes::Property> observedProperties();
 
     void showLog(tallyrig::ADIFDocument document, std::optional<QString> path);
+    /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs
+    /// out.
+    void forgetEdits();
     void write(const QString& path);
     /// `fileURL` without its extension, or "Logbuch", with this one.
     QString proposedName(const QString& extension) const;
@@ -325,7 +328,7 @@ class LogStore : public QObject {
     /// Enters the state before an edit in the history. To be called after the edit: one that fails for want
     /// of memory then leaves no step behind.
     void commitUndo(EditHistory::Snapshot before, std::optional<std::string> coalescingKey = std::nullopt);
-    void showStep(std::optional<EditHistory::Snapshot> snapshot);
+    void takeStep(std::optional<EditHistory::Snapshot> (EditHistory::*step)(EditHistory::Snapshot));
     void noteHistory();
     void editRecord(std::size_t index, const std::function<void(tallyrig::ADIFRecord&)>& change,
                     std::optional<std::string> coalescingKey = std::nullopt);

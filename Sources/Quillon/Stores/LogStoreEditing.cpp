@@ -16,6 +16,19 @@ using tallyrig::ADIFField;
 using tallyrig::ADIFRecord;
 using tallyrig::UUID;
 
+namespace {
+
+bool hasValue(const ADIFRecord& record) {
+    for (const tallyrig::ADIFFieldView field : record.fields()) {
+        if (!field.value.empty()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
 EditHistory::Snapshot LogStore::currentSnapshot() const {
     return {state.document, state.columns.names(), state.isDirty};
 }
@@ -31,24 +44,28 @@ void LogStore::noteHistory() {
 }
 
 void LogStore::undo() {
-    showStep(history.undo(currentSnapshot()));
+    takeStep(&EditHistory::undo);
 }
 
 void LogStore::redo() {
-    showStep(history.redo(currentSnapshot()));
+    takeStep(&EditHistory::redo);
 }
 
-void LogStore::showStep(std::optional<EditHistory::Snapshot> snapshot) {
+void LogStore::takeStep(std::optional<EditHistory::Snapshot> (EditHistory::*step)(EditHistory::Snapshot)) {
+    const Operation operation(*this);
+    // A copy, which shares the logs, so that the step is not lost if memory runs out on the way.
+    EditHistory stepped = history;
+    auto snapshot = (stepped.*step)(currentSnapshot());
     if (!snapshot) {
         return;
     }
-    const Operation operation(*this);
     state.document = std::move(snapshot->document);
     state.columns.setNames(std::move(snapshot->columns));
     state.isDirty = snapshot->isDirty;
+    clearCheckResults();
     rowSelection.reduceTo(state.document.records());
     noteSelection();
-    clearCheckResults();
+    history = std::move(stepped);
     noteHistory();
 }
 
@@ -133,10 +150,14 @@ void LogStore::addField(UUID recordID, std::string_view name) {
         return;
     }
     const Operation operation(*this);
-    editRecord(*index, [&](ADIFRecord& record) { record.appendField(ADIFField(name, "")); });
+    EditHistory::Snapshot before = currentSnapshot();
+    state.document.records().modify(*index,
+                                    [&](ADIFRecord& record) { record.appendField(ADIFField(name, "")); });
     if (!columnExists(name)) {
         state.columns.append(cleanedFieldName(name));
     }
+    state.isDirty = true;
+    commitUndo(std::move(before));
 }
 
 void LogStore::removeField(UUID recordID, std::size_t fieldIndex) {
@@ -151,16 +172,16 @@ void LogStore::addRecord() {
     EditHistory::Snapshot before = currentSnapshot();
     const std::array fields = {ADIFField("CALL", "")};
     ADIFRecord record(fields);
-    const UUID id = record.id();
+    Selection added = {record.id()};
     state.document.records().append(std::move(record));
     finishBulkEdit(std::move(before), 1);
-    changeSelection({id});
+    changeSelection(std::move(added));
 }
 
 std::size_t LogStore::pasteRecords(std::string_view adif) {
     tallyrig::ADIFDocument pasted = tallyrig::ADIFParser::parse(adif);
     // Any text may stand in the clipboard, and what looks like a tag makes a field.
-    pasted.records().removeIf([](const ADIFRecord& record) { return record.stored().allValues().empty(); });
+    pasted.records().removeIf([](const ADIFRecord& record) { return !hasValue(record); });
     if (pasted.records().empty()) {
         return 0;
     }

@@ -66,9 +66,12 @@ void LogStore::showLog(ADIFDocument document, std::optional<QString> path) {
     state.document = std::move(document);
     state.fileURL = std::move(path);
     state.isDirty = false;
-    changeSelection({});
     state.columns.setNames(ColumnLayout::namesFor(state.document));
     clearCheckResults();
+}
+
+void LogStore::forgetEdits() {
+    changeSelection({});
     history.clear();
     noteHistory();
 }
@@ -76,6 +79,7 @@ void LogStore::showLog(ADIFDocument document, std::optional<QString> path) {
 void LogStore::newLog() {
     const Operation operation(*this);
     showLog(ADIFDocument(), std::nullopt);
+    forgetEdits();
 }
 
 void LogStore::open(const QString& path) {
@@ -92,6 +96,7 @@ void LogStore::open(const QString& path) {
     }
     showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, fullPath);
     autoFitColumns();
+    forgetEdits();
 }
 
 void LogStore::openWithPanel() {

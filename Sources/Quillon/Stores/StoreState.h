@@ -49,7 +49,7 @@ class StoreState {
         }
         Operation(const Operation&) = delete;
         Operation& operator=(const Operation&) = delete;
-        // What a slot throws goes on to whoever began the operation.
+        // What a slot throws goes on to whoever began the operation, when all slots have been told.
         ~Operation() noexcept(false) {
             if (--state.runningOperations > 0) {
                 return;
@@ -75,8 +75,16 @@ class StoreState {
                 due.push_back(property.changed);
             }
         }
+        std::exception_ptr thrown;
         for (const auto signal : due) {
-            (store.*signal)();
+            try {
+                (store.*signal)();
+            } catch (...) {
+                thrown = std::current_exception();
+            }
+        }
+        if (thrown) {
+            std::rethrow_exception(thrown);
         }
     }
 

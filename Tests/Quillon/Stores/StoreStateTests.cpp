@@ -76,8 +76,9 @@ TEST(StoreState, GoesBackWhereAnExceptionEndsTheOperation) {
     EXPECT_EQ(numbers.values.left, 0);
     EXPECT_EQ(numbers.told, "");
     numbers.onLeft = [] { throw std::bad_alloc(); };
-    EXPECT_THROW(numbers.setLeft(1), std::bad_alloc);
+    EXPECT_THROW(numbers.set(1, 2), std::bad_alloc);
     EXPECT_EQ(numbers.values.left, 1);
+    EXPECT_EQ(numbers.told, "left right ");
 }
 
 }  // namespace
