@@ -11,31 +11,26 @@ namespace quillon {
 namespace {
 
 namespace finding = tallyrig::finding;
-using tallyrig::ValidationIssue;
 using tallyrig::ValidationSeverity;
 
 TEST(CheckResults, TellTheWorstSeverityAndAllMessagesOfARecord) {
     const auto records = testing::recordsOf({"A=1", "A=2", "A=3"});
-    const CheckResults results(records, {ValidationIssue(2, finding::UnknownBand{"20 m"}),
-                                         ValidationIssue(1, finding::UnknownMode{"X"}),
-                                         ValidationIssue(1, finding::MissingRequiredField{"CALL"}),
-                                         ValidationIssue(3, finding::MissingRequiredField{"CALL"})});
+    // The last is about no record that there is.
+    const CheckResults results(records, {{2, finding::UnknownBand{"20 m"}},
+                                         {1, finding::UnknownMode{"X"}},
+                                         {1, finding::MissingRequiredField{"CALL"}},
+                                         {3, finding::MissingRequiredField{"CALL"}}});
     EXPECT_EQ(results.severity(records[0].id()), std::nullopt);
     EXPECT_EQ(results.severity(records[1].id()), ValidationSeverity::error);
     EXPECT_EQ(results.severity(records[2].id()), ValidationSeverity::warning);
-    EXPECT_EQ(results.severity(tallyrig::UUID::fresh()), std::nullopt);
     EXPECT_EQ(results.messages(records[1].id()),
               (std::vector<std::string>{"Pflichtfeld fehlt: Rufzeichen", "Unbekannter Modus: X"}));
-    EXPECT_EQ(results.messages(records[0].id()), std::vector<std::string>());
+    EXPECT_EQ(results.messages(tallyrig::UUID::fresh()), std::vector<std::string>());
     EXPECT_EQ(results.errorCount(), 2U);
     EXPECT_EQ(results.warningCount(), 2U);
     EXPECT_EQ(results.issues().back().recordIndex, 3U);
-}
-
-TEST(CheckResults, MarkNoRecordByFindingsAboutNone) {
-    const CheckResults results({}, {ValidationIssue(0, finding::UnknownBand{"x"})});
-    EXPECT_FALSE(results.marksRecords());
-    EXPECT_EQ(results.warningCount(), 1U);
+    EXPECT_TRUE(results.marksRecords());
+    EXPECT_FALSE(CheckResults({}, results.issues()).marksRecords());
 }
 
 }  // namespace

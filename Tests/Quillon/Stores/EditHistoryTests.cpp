@@ -33,24 +33,29 @@ TEST(EditHistory, LeadsBackAndForthUntilTheNextEdit) {
     EXPECT_EQ(nameOf(history.undo(named("d"))), "b");
 }
 
+/// What its steps bring back, from the latest to the oldest.
+std::vector<std::string> undone(EditHistory history) {
+    std::vector<std::string> names;
+    while (history.canUndo()) {
+        names.push_back(nameOf(history.undo(named("x"))));
+    }
+    return names;
+}
+
 TEST(EditHistory, ForgetsAllBeforeTheLatestHundred) {
     EditHistory history;
     for (int step = 1; step <= 101; ++step) {
         history.commit(named(std::to_string(step)));
     }
-    std::string reached;
-    for (int step = 0; step < 100; ++step) {
-        reached = nameOf(history.undo(named("x")));
-    }
-    EXPECT_EQ(reached, "2");
-    EXPECT_FALSE(history.canUndo());
+    EXPECT_EQ(undone(history).size(), 100U);
+    EXPECT_EQ(undone(history).back(), "2");
 }
 
 TEST(EditHistory, MakesOneStepOfWhatIsTypedInOnePlace) {
     using Edits = std::vector<std::string>;  // By key; "" for none, "<" for a step back.
-    const std::pair<Edits, int> cases[] = {{{"A", "A", "A"}, 1},      {{"A", "B", "A"}, 3},
-                                           {{"A", "", "A"}, 3},       {{"", ""}, 2},
-                                           {{"A", "<", "A", "A"}, 1}, {{"\xC3\x84", "A\xCC\x88"}, 1}};
+    const std::pair<Edits, std::size_t> cases[] = {{{"A", "A", "A"}, 1},      {{"A", "B", "A"}, 3},
+                                                   {{"A", "", "A"}, 3},       {{"", ""}, 2},
+                                                   {{"A", "<", "A", "A"}, 1}, {{"\xC3\x84", "A\xCC\x88"}, 1}};
     for (const auto& [edits, steps] : cases) {
         EditHistory history;
         for (const std::string& edit : edits) {
@@ -60,11 +65,7 @@ TEST(EditHistory, MakesOneStepOfWhatIsTypedInOnePlace) {
                 history.commit(named("x"), edit.empty() ? std::nullopt : std::optional(edit));
             }
         }
-        int undone = 0;
-        for (; history.canUndo(); ++undone) {
-            history.undo(named("x"));
-        }
-        EXPECT_EQ(undone, steps) << edits[0] << edits[1];
+        EXPECT_EQ(undone(history).size(), steps) << edits[0] << edits[1];
     }
 }
 

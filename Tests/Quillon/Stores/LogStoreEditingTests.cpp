@@ -14,15 +14,27 @@ using Records = LogStoreTest;
 using BulkEdits = LogStoreTest;
 using Undo = LogStoreTest;
 
-TEST_F(Cells, AreWrittenAndTold) {
+constexpr const char* oneEdit = "displayedRecords document history isDirty windowTitle";
+
+TEST_F(Cells, AreWrittenOnlyWithAnotherText) {
+    openLog({"CALL=A NAME=J\xC3\xB6rg"});
+    type(0, "BAND", "");
+    type(0, "NAME", "Jo\xCC\x88rg");  // Another spelling of the same text.
+    EXPECT_EQ(told.sent(), "");
+    type(0, "band", "20m");
+    EXPECT_EQ(told.sent(), oneEdit);
+    EXPECT_EQ(cell(0, "BAND") + " " + columns(), "20m CALL NAME");
+    type(0, "CALL", "");
+    EXPECT_EQ(cell(0, "CALL"), "(absent)");
+}
+
+TEST_F(Cells, MakeOneStepEachOfWhatIsTypedBeforeAndAfterASave) {
     openLog({"CALL=A", "CALL=B"});
+    type(1, "BAND", "2");
+    store.save();
     type(1, "band", "20m");
-    EXPECT_EQ(told.sent(), "displayedRecords document history isDirty windowTitle");
-    EXPECT_EQ(cell(1, "BAND") + " " + columns(), "20m CALL");
-    type(1, "BAND", "40m");
-    EXPECT_EQ(told.sent(), "displayedRecords document") << "one step with the letters before";
     type(0, "BAND", "40m");
-    store.setField(id(0), 1, "40");
+    store.setField(id(0), 1, "80m");
     for (int steps = 0; steps < 3; ++steps) {
         ASSERT_TRUE(store.canUndo());
         store.undo();
@@ -30,40 +42,24 @@ TEST_F(Cells, AreWrittenAndTold) {
     EXPECT_FALSE(store.canUndo() || store.isDirty());
 }
 
-TEST_F(Cells, StayUntouchedByTheValueTheyHave) {
-    openLog({"CALL=A NAME=J\xC3\xB6rg"});
-    type(0, "BAND", "");
-    type(0, "NAME", "Jo\xCC\x88rg");  // Another spelling of the same text.
-    EXPECT_EQ(told.sent(), "");
-}
-
-TEST_F(Cells, DropTheFieldWhenEmptied) {
-    openLog({"CALL=A X=1 CALL=B"});
-    type(0, "CALL", "");
-    EXPECT_EQ(store.document().records()[0].fields().size(), 1U);
-}
-
 TEST_F(Cells, OutliveRecordAndStore) {
     auto other = std::make_unique<LogStore>(settings, panels, measurer);
     other->addRecord();
     const auto record = other->document().records()[0].id();
-    const TextBinding byColumn = other->cellBinding(record, "CALL");
-    const TextBinding byPosition = other->fieldBinding(record, 0);
-    byColumn.write("DL1ABC");
-    EXPECT_EQ(byPosition.read(), "DL1ABC");
-    const auto expectDead = [&] {
-        for (const TextBinding& binding : {byColumn, byPosition}) {
-            binding.write("OH2XX");
-            EXPECT_EQ(binding.read(), "");
-        }
+    const TextBinding bindings[] = {other->cellBinding(record, "CALL"), other->fieldBinding(record, 0)};
+    const auto readAfterWriting = [&] {
+        bindings[0].write("A");
+        bindings[1].write("B");
+        return bindings[0].read() + bindings[1].read();
     };
+    EXPECT_EQ(readAfterWriting(), "BB");
     other->deleteSelected();
-    expectDead();
+    EXPECT_EQ(readAfterWriting(), "");
     other.reset();
-    expectDead();
+    EXPECT_EQ(readAfterWriting(), "");
 }
 
-TEST_F(Fields, StayInPlaceWhenEmptied) {
+TEST_F(Fields, AreReachedByTheirPlaceAndStayThereWhenEmptied) {
     openLog({"CALL=A CALL=B"});
     store.setField(id(0), 1, "C");
     EXPECT_EQ(cell(0, "CALL"), "A");
@@ -74,6 +70,9 @@ TEST_F(Fields, StayInPlaceWhenEmptied) {
     store.setField(id(0), 1, "");
     store.setField(id(0), 2, "x");
     EXPECT_EQ(store.field(id(0), 2), "");
+    store.removeField(id(0), 2);
+    store.removeField(tallyrig::UUID::fresh(), 0);
+    store.addField(tallyrig::UUID::fresh(), "X");
     EXPECT_EQ(told.sent(), "");
 }
 
@@ -81,26 +80,16 @@ TEST_F(Fields, AreAddedWithAColumnAndRemovedWithout) {
     openLog({"CALL=A"});
     store.addField(id(0), "sota_ref");
     EXPECT_EQ(cell(0, "SOTA_REF"), "");
-    EXPECT_EQ(told.sent(), "columns displayedRecords document history isDirty windowTitle");
+    EXPECT_EQ(told.sent(), std::string("columns ") + oneEdit);
     store.addField(id(0), "call");
     store.removeField(id(0), 1);
-    EXPECT_EQ(columns(), "CALL SOTA_REF");
-    EXPECT_EQ(cell(0, "SOTA_REF"), "(absent)");
-    told.sent();
-    store.removeField(id(0), 2);
-    store.removeField(tallyrig::UUID::fresh(), 0);
-    store.addField(tallyrig::UUID::fresh(), "X");
-    EXPECT_EQ(told.sent(), "");
+    EXPECT_EQ(columns() + cell(0, "SOTA_REF"), "CALL SOTA_REF(absent)");
 }
 
 TEST_F(Records, AreAddedAtTheEndAndSelected) {
     openLog({"CALL=A"});
-    store.runCheck();
-    told.sent();
     store.addRecord();
-    EXPECT_EQ(
-        told.sent(),
-        "checkResults displayedRecords document history isDirty selection showCheckResults windowTitle");
+    EXPECT_EQ(told.sent(), "displayedRecords document history isDirty selection windowTitle");
     EXPECT_EQ(store.selection(), LogStore::Selection{id(1)});
     EXPECT_EQ(cell(1, "CALL"), "");
 }
@@ -113,7 +102,7 @@ TEST_F(Records, ArePastedBehindTheOthersInOneStep) {
     EXPECT_EQ(told.sent(), "columns displayedRecords document history isDirty selection windowTitle");
     EXPECT_EQ(shown() + ", " + selected() + ", " + columns(), "A B A, B A, CALL BAND");
     select({2});
-    EXPECT_EQ(store.pasteRecords(store.selectionAsADIF()), 1U);
+    store.pasteRecords(store.selectionAsADIF());
     EXPECT_EQ(store.selection(), LogStore::Selection{id(3)});
     store.undo();
     store.undo();
@@ -131,38 +120,22 @@ TEST_F(Records, AreDeletedEvenWhereTheSearchHidesThem) {
     store.deleteSelected();
     EXPECT_EQ(told.sent(), "");
     store.undo();
-    EXPECT_EQ(shown(), "A B C");
-    EXPECT_TRUE(store.selection().empty());
+    EXPECT_EQ(shown() + selected(), "A B C");
     EXPECT_EQ(store.changesOfLastStep().records, (std::vector{id(0), id(1)}));
-    store.addColumn("X");
-    EXPECT_TRUE(store.changesOfLastStep().records.empty());
 }
 
 TEST_F(BulkEdits, CountAsChangesOnlyWhereTheyChangeSomething) {
-    openLog({"CALL=A BAND=20m", "CALL=B", "CALL=C BAND=20m"});
+    openLog({"CALL=A BAND=20m", "CALL=B"});
     store.setColumnValue("BAND", "20m", ColumnTarget::emptyOnly);
-    EXPECT_EQ(told.sent(), "displayedRecords document history isDirty windowTitle");
-    EXPECT_EQ(shown("BAND"), "20m 20m 20m");
+    EXPECT_EQ(told.sent(), oneEdit);
     store.replaceInColumn("band", "0", "");
-    EXPECT_EQ(shown("BAND"), "2m 2m 2m");
-    store.setColumnValue("BAND", "", ColumnTarget::allRecords);
-    EXPECT_EQ(shown("BAND") + columns(), "- - -CALL BAND");
-    store.undo();
+    EXPECT_EQ(told.sent(), "displayedRecords document");
+    EXPECT_EQ(shown("BAND"), "2m 2m");
     store.undo();
     told.sent();
     store.replaceInColumn("BAND", "70", "x");
     store.setColumnValue("BAND", "40m", ColumnTarget::emptyOnly);
-    EXPECT_EQ(told.sent(), "");
-    EXPECT_TRUE(store.canRedo());
-}
-
-TEST_F(Undo, JoinsTypingBeforeAndAfterASave) {
-    openLog({"CALL=A"});
-    type(0, "CALL", "B");
-    store.save();
-    type(0, "CALL", "BC");
-    store.undo();
-    EXPECT_FALSE(store.isDirty() || store.canUndo());
+    EXPECT_EQ(told.sent(), "") << "and nothing of redo";
 }
 
 TEST_F(Undo, BringsBackTheFlagOfThatMoment) {
@@ -188,7 +161,6 @@ TEST_F(Undo, RestoresColumnsAndClearsWhatNoLongerFits) {
         told.sent(),
         "checkResults displayedRecords document history isDirty selection showCheckResults windowTitle");
     EXPECT_EQ(selected(), "A");
-    EXPECT_EQ(store.selectionAnchor(), std::nullopt);
     store.undo();
     EXPECT_EQ(told.sent(), "columns history");
     EXPECT_EQ(columns(), "CALL");
