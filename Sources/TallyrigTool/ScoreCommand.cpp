@@ -46,21 +46,16 @@ void writeJson(Output& output, const ContestScore& score) {
     for (const ContestScore::Breakdown& multiplier : score.multiplierBreakdown) {
         breakdown.push_back({{"name", multiplier.name}, {"count", multiplier.count}});
     }
-    JsonList results(output,
-                     {{"contestName", score.contestName},
-                      {"totalQSOs", score.totalQSOs},
-                      {"countedQSOs", score.countedQSOs},
-                      {"dupeQSOs", score.dupeQSOs},
-                      {"invalidQSOs", score.invalidQSOs},
-                      {"qsoPoints", score.qsoPoints},
-                      {"multiplierCount", score.multiplierCount},
-                      {"total", score.total},
-                      {"multiplierBreakdown", breakdown},
-                      {"removedQSOs", score.removedQSOs},
-                      {"penaltyPoints", score.penaltyPoints}},
-                     "results");
+    const nlohmann::ordered_json head = {
+        {"contestName", score.contestName},         {"totalQSOs", score.totalQSOs},
+        {"countedQSOs", score.countedQSOs},         {"dupeQSOs", score.dupeQSOs},
+        {"invalidQSOs", score.invalidQSOs},         {"qsoPoints", score.qsoPoints},
+        {"multiplierCount", score.multiplierCount}, {"total", score.total},
+        {"multiplierBreakdown", breakdown},         {"removedQSOs", score.removedQSOs},
+        {"penaltyPoints", score.penaltyPoints}};
+    JsonList results(output, head.dump(), "results");
     for (const ContestQSOResult& qso : score.results) {
-        results.add(jsonOf(qso));
+        results.add(jsonOf(qso).dump());
     }
     results.finish();
     output.write("\n");

@@ -82,15 +82,15 @@ TEST_F(Rules, AreGivenWithAllTheirMembers) {
         "scorePerBand": false
 })json"));
     const auto pointsOf = [&](const std::string& contest) {
-    return json::parse(run("tallyrig rules " + contest + " --json").output)["points"];
+        return json::parse(run("tallyrig rules " + contest + " --json").output)["points"];
     };
-EXPECT_EQ(pointsOf("fieldDay")["byRelation"][0]["condition"],
-          json::parse(R"({"and": [{"isPortable": null}, {"sameContinent": null}]})"));
-EXPECT_EQ(pointsOf("jidx"),
-          json::parse(R"({"perBand": {"table": {"160M": 4, "80M": 2, "10M": 2}, "fallback": 1}})"));
-EXPECT_EQ(pointsOf("vhf"),
-          json::parse(R"({"distanceKm": {"myField": "MY_GRIDSQUARE", "theirField": "GRIDSQUARE"}})"));
-EXPECT_EQ(pointsOf("generic"), json::parse(R"({"fixed": 1})"));
+    EXPECT_EQ(pointsOf("fieldDay")["byRelation"][0]["condition"],
+              json::parse(R"({"and": [{"isPortable": null}, {"sameContinent": null}]})"));
+    EXPECT_EQ(pointsOf("jidx"),
+              json::parse(R"({"perBand": {"table": {"160M": 4, "80M": 2, "10M": 2}, "fallback": 1}})"));
+    EXPECT_EQ(pointsOf("vhf"),
+              json::parse(R"({"distanceKm": {"myField": "MY_GRIDSQUARE", "theirField": "GRIDSQUARE"}})"));
+    EXPECT_EQ(pointsOf("generic"), json::parse(R"({"fixed": 1})"));
 }
 
 TEST_F(Rules, AreThoseOfAContestThatIsOffered) {
