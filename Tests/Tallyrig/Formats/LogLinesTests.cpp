@@ -13,7 +13,7 @@
 namespace tallyrig {
 namespace {
 
-using testing::document;
+using testing::logOf;
 
 using Texts = std::vector<std::string_view>;
 
@@ -91,15 +91,10 @@ TEST(Columns, CountCharacters) {
 }
 
 TEST(TimeOrder, IsThatOfTheTextsAndStable) {
-    const ADIFDocument log = document({{{"N", "1"}, {"QSO_DATE", "20240116"}},
-                                       {{"N", "2"}, {"QSO_DATE", "20240115"}, {"TIME_ON", "1200"}},
-                                       {{"N", "3"}, {"TIME_ON", "2024011512"}},
-                                       {{"N", "4"}, {"TIME_ON", "1200"}, {"QSO_DATE", "20240115"}},
-                                       {{"N", "5"}},
-                                       {{"N", "6"}, {"QSO_DATE", "2024011512"}},
-                                       {{"N", "7"}, {"QSO_DATE", "ö"}},
-                                       {{"N", "8"}, {"QSO_DATE", "o\u0308"}},
-                                       {{"N", "9"}, {"QSO_DATE", "z"}}});
+    const ADIFDocument log = logOf({"N=1 | QSO_DATE=20240116", "N=2 | QSO_DATE=20240115 | TIME_ON=1200",
+                                    "N=3 | TIME_ON=2024011512", "N=4 | TIME_ON=1200 | QSO_DATE=20240115",
+                                    "N=5", "N=6 | QSO_DATE=2024011512", "N=7 | QSO_DATE=ö",
+                                    "N=8 | QSO_DATE=o\u0308", "N=9 | QSO_DATE=z"});
     std::string order;
     for (const ADIFRecord& record : inTimeOrder(log.records())) {
         order += record.valueOrEmpty("N");
@@ -108,7 +103,7 @@ TEST(TimeOrder, IsThatOfTheTextsAndStable) {
 }
 
 TEST(FirstValue, IsSoughtRecordByRecord) {
-    const ADIFDocument log = document({{{"A", ""}, {"A", "hidden"}}, {{"B", "b"}}, {{"A", "a"}}});
+    const ADIFDocument log = logOf({"A= | A=hidden", "B=b", "A=a"});
     EXPECT_EQ(firstValue(log, {"A", "B"}), "b");
     EXPECT_EQ(firstValue(log, {"A"}), "a");
     EXPECT_EQ(firstValue(log, {"C"}), "");

@@ -45,6 +45,19 @@ inline ADIFDocument document(const std::vector<Pairs>& records) {
     return {"", {}, ADIFRecordList(std::move(list))};
 }
 
+/// The same from one text each, as of `fields`.
+inline ADIFRecord recordOf(std::string_view text) {
+    return record(fields(text));
+}
+
+inline ADIFDocument logOf(std::initializer_list<std::string_view> texts) {
+    std::vector<Pairs> records;
+    for (const std::string_view text : texts) {
+        records.push_back(fields(text));
+    }
+    return document(records);
+}
+
 /// The names and values of a record in their order.
 inline Pairs pairs(const ADIFRecord& record) {
     Pairs result;
