@@ -10,26 +10,23 @@
 namespace tallyrig {
 namespace {
 
-using testing::document;
+using testing::fields;
+using testing::logOf;
 using testing::pairs;
-using testing::Pairs;
-using testing::record;
+using testing::recordOf;
 
 TEST(DocumentEquality, IgnoresIdsAndNothingElse) {
-    const auto make = [](const std::string& comment, const std::string& header, const Pairs& first) {
-        return ADIFDocument(comment, {ADIFField("PROGRAMID", header)}, ADIFRecordList({record(first)}));
+    const auto make = [](const std::string& comment, const std::string& header, const std::string& qso) {
+        return ADIFDocument(comment, {ADIFField("PROGRAMID", header)}, ADIFRecordList({recordOf(qso)}));
     };
-    const ADIFDocument one = make("c", "h", {{"A", "1"}, {"B", "2"}});
-    EXPECT_EQ(one, make("c", "h", {{"A", "1"}, {"B", "2"}}));
-    EXPECT_NE(one, make("d", "h", {{"A", "1"}, {"B", "2"}}));
-    EXPECT_NE(one, make("c", "i", {{"A", "1"}, {"B", "2"}}));
-    EXPECT_NE(one, make("c", "h", {{"B", "2"}, {"A", "1"}}));
-    EXPECT_EQ(ADIFDocument(), ADIFDocument());
+    EXPECT_EQ(make("c", "h", "A=1 | B=2"), make("c", "h", "A=1 | B=2"));
+    EXPECT_NE(make("c", "h", "A=1 | B=2"), make("d", "h", "A=1 | B=2"));
+    EXPECT_NE(make("c", "h", "A=1 | B=2"), make("c", "i", "A=1 | B=2"));
+    EXPECT_NE(make("c", "h", "A=1 | B=2"), make("c", "h", "B=2 | A=1"));
 }
 
 TEST(DocumentCopies, AreIndependent) {
-    const ADIFDocument original("c", {ADIFField("PROGRAMID", "x")},
-                                ADIFRecordList({record({{"CALL", "DL1AB"}})}));
+    const ADIFDocument original("c", {ADIFField("PROGRAMID", "x")}, ADIFRecordList({recordOf("CALL=DL1AB")}));
     ADIFDocument copy = original;
     EXPECT_TRUE(copy.isSameAs(original));
     copy.setHeaderComment("d");
@@ -42,43 +39,40 @@ TEST(DocumentCopies, AreIndependent) {
 }
 
 TEST(FieldNames, StandInOrderOfFirstAppearance) {
-    EXPECT_EQ(document({{{"A", ""}, {"B", ""}}, {{"B", ""}, {"C", ""}}, {}}).fieldNames(),
-              (std::vector<std::string>{"A", "B", "C"}));
-    const ADIFDocument headerOnly("", {ADIFField("ADIF_VER", "3.1.7")}, {});
-    EXPECT_TRUE(headerOnly.fieldNames().empty());
+    EXPECT_EQ(logOf({"A= | B=", "B= | C=", ""}).fieldNames(), (std::vector<std::string>{"A", "B", "C"}));
+    EXPECT_TRUE(ADIFDocument("", {ADIFField("ADIF_VER", "3.1.7")}, {}).fieldNames().empty());
     // One name with two types is one column.
     ADIFRecord typed({{ADIFField("A", "1", "N"), ADIFField("A", "1")}});
     EXPECT_EQ(ADIFDocument("", {}, ADIFRecordList({typed})).fieldNames(), (std::vector<std::string>{"A"}));
 }
 
 TEST(Columns, AreRenamedDuplicatedAndRemovedInEveryRecord) {
-    ADIFDocument log = document({{{"A", "1"}, {"B", "2"}}, {{"B", "3"}}, {{"A", "4"}, {"A", "5"}}});
+    ADIFDocument log = logOf({"A=1 | B=2", "B=3", "A=4 | A=5"});
     const ADIFDocument before = log;
     log.renameColumn("a", "A");
     EXPECT_TRUE(log.isSameAs(before)) << "the same name in another case changes nothing";
 
     log.renameColumn("a", "x");
-    EXPECT_EQ(pairs(log.records()[0]), (Pairs{{"X", "1"}, {"B", "2"}}));
+    EXPECT_EQ(pairs(log.records()[0]), fields("X=1 | B=2"));
     EXPECT_TRUE(log.records()[1].isSameAs(before.records()[1]));
-    EXPECT_EQ(pairs(log.records()[2]), (Pairs{{"X", "4"}, {"A", "5"}}));
+    EXPECT_EQ(pairs(log.records()[2]), fields("X=4 | A=5"));
     EXPECT_EQ(log.records()[0].id(), before.records()[0].id());
 
     log.duplicateColumn("b", "B_2");
-    EXPECT_EQ(pairs(log.records()[0]), (Pairs{{"X", "1"}, {"B", "2"}, {"B_2", "2"}}));
+    EXPECT_EQ(pairs(log.records()[0]), fields("X=1 | B=2 | B_2=2"));
     log.removeColumn("B");
-    EXPECT_EQ(pairs(log.records()[0]), (Pairs{{"X", "1"}, {"B_2", "2"}}));
-    EXPECT_EQ(pairs(before.records()[0]), (Pairs{{"A", "1"}, {"B", "2"}}));
+    EXPECT_EQ(pairs(log.records()[0]), fields("X=1 | B_2=2"));
+    EXPECT_EQ(pairs(before.records()[0]), fields("A=1 | B=2"));
 }
 
 TEST(SettingAColumn, CountsTheRecordsThatItChanges) {
-    const ADIFDocument log =
-        document({{{"MODE", "CW"}}, {{"MODE", ""}}, {{"CALL", "DL1AB"}}, {{"MODE", "SSB"}}});
+    const ADIFDocument log = logOf({"MODE=CW", "MODE=", "CALL=DL1AB", "MODE=SSB"});
 
     EXPECT_EQ(log.countWithoutValue("mode"), 2U) << "what a value for the empty ones will touch";
 
     ADIFDocument all = log;
     EXPECT_EQ(all.setColumn("mode", "SSB", ColumnTarget::allRecords), 3U);
-    EXPECT_EQ(pairs(all.records()[2]), (Pairs{{"CALL", "DL1AB"}, {"MODE", "SSB"}}));
+    EXPECT_EQ(pairs(all.records()[2]), fields("CALL=DL1AB | MODE=SSB"));
 
     ADIFDocument empty = log;
     EXPECT_EQ(empty.setColumn("MODE", "FT8", ColumnTarget::emptyOnly), 2U);
@@ -94,14 +88,13 @@ TEST(SettingAColumn, CountsTheRecordsThatItChanges) {
     EXPECT_EQ(nothing.setColumn("MODE", "", ColumnTarget::emptyOnly), 0U);
     EXPECT_TRUE(nothing.isSameAs(log));
 
-    ADIFDocument umlaut = document({{{"NAME", "Jo\u0308rg"}}});
+    ADIFDocument umlaut = logOf({"NAME=Jo\u0308rg"});
     EXPECT_EQ(umlaut.setColumn("NAME", "J\u00F6rg", ColumnTarget::allRecords), 0U)
         << "an equal value is no change";
 }
 
 TEST(ReplacingInAColumn, IsLiteralAndKeepsEmptiedFields) {
-    ADIFDocument log =
-        document({{{"QTH", "Ulm Ulm"}}, {{"QTH", "ulm"}}, {{"CALL", "Ulm"}}, {{"QTH", "Ulm"}}});
+    ADIFDocument log = logOf({"QTH=Ulm Ulm", "QTH=ulm", "CALL=Ulm", "QTH=Ulm"});
     EXPECT_EQ(log.replaceInColumn("qth", "", "x"), 0U);
     EXPECT_EQ(log.countContaining("qth", ""), 0U);
     EXPECT_EQ(log.countContaining("qth", "Ulm"), 2U);
