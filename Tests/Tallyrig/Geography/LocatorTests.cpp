@@ -12,8 +12,7 @@ namespace {
 TEST(Locator, NamesTheCentreOfItsSquareOrSubsquare) {
     const std::tuple<std::string, double, double> cases[] = {
         {"JO62", 52.5, 13},
-        {"JO62QM", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
-        {"jo62qm", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
+        {"Jo62qM55ÄX", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
         {" \tJO62 \u00A0", 52.5, 13},
         {"AA00AA", -90 + 1 / 48.0, -180 + 1 / 24.0},
         {"RR99XX", 90 - 1 / 48.0, 180 - 1 / 24.0},
@@ -26,8 +25,6 @@ TEST(Locator, NamesTheCentreOfItsSquareOrSubsquare) {
         {"JO62 QM", 52.5, 13},
         {"JO62ÄM", 52.5, 13},
         {"JO62QM\u0301", 52.5, 13},
-        {"JO62QM55XX", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
-        {"JO62QMÄ", 52.0 + 12 / 24.0 + 1 / 48.0, 12.0 + 16 / 12.0 + 1 / 24.0},
         {"\uFB0022", -90 + 50 + 2.5, -180 + 100 + 5},  // the ligature of two f in upper case
     };
     for (const auto& [locator, lat, lon] : cases) {

@@ -45,27 +45,20 @@ TEST(ValidationKinds, AreEqualByValue) {
         {finding::OutdoorInconsistentStationCallsign{{"A", "B"}}},
         {finding::OutdoorInconsistentStationCallsign{{"AB"}}}};
     std::unordered_set<ValidationKind> distinct;
-    for (std::size_t i = 0; i < classes.size(); ++i) {
-        for (std::size_t j = 0; j < classes.size(); ++j) {
-            for (const ValidationKind& left : classes[i]) {
-                for (const ValidationKind& right : classes[j]) {
-                    EXPECT_EQ(left == right, i == j) << i << " " << j;
-                }
-            }
+    for (const std::vector<ValidationKind>& equals : classes) {
+        for (const std::vector<ValidationKind>& others : classes) {
+            EXPECT_EQ(equals.front() == others.back(), &equals == &others) << nameOf(equals.front());
         }
-        distinct.insert(classes[i].begin(), classes[i].end());
+        distinct.insert(equals.begin(), equals.end());
     }
     EXPECT_EQ(distinct.size(), classes.size());
 }
 
 TEST(ValidationIssues, AreSortedByRecordAndSeverityAndElseStayPut) {
-    std::vector<ValidationIssue> issues;
-    issues.emplace_back(1, finding::UnknownMode{"a"});
-    issues.emplace_back(1, finding::InvalidTime{"b", ""});
-    issues.emplace_back(0, finding::UnknownMode{"c"});
-    issues.emplace_back(1, finding::UnknownBand{"d"});
-    issues.emplace_back(1, finding::InvalidDate{"e", ""});
-    issues.emplace_back(0, finding::OutdoorMissingField{"POTA", "f"});
+    std::vector<ValidationIssue> issues = {
+        {1, finding::UnknownMode{"a"}},     {1, finding::InvalidTime{"b", ""}},
+        {0, finding::UnknownMode{"c"}},     {1, finding::UnknownBand{"d"}},
+        {1, finding::InvalidDate{"e", ""}}, {0, finding::OutdoorMissingField{"POTA", "f"}}};
     sortIssues(issues);
     EXPECT_NE(issues[0].id(), issues[1].id());
     std::vector<std::string> order;
