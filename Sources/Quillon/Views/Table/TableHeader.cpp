@@ -7,6 +7,7 @@
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Table/ColumnCommands.h"
 #include "Quillon/Views/Table/InlineEditor.h"
+#include "Quillon/Views/Table/TableAccessibility.h"
 #include "Quillon/Views/Table/TableScroll.h"
 
 #include <QEvent>
@@ -47,6 +48,7 @@ TableHeader::TableHeader(LogStore& logStore, TableQuestions& tableQuestions, Tab
       questions(tableQuestions),
       scroll(tableScroll),
       nameEditor(new InlineEditor(InlineEditor::Escape::drops, this)) {
+    registerTableAccessibility();
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
