@@ -136,4 +136,32 @@ std::string generatedContestLog(std::size_t count) {
     return text;
 }
 
+std::string generatedScoredLog(std::size_t count, std::string_view band) {
+    constexpr std::array<std::string_view, 5> shortWave = {"80M", "40M", "20M", "15M", "10M"};
+    constexpr std::size_t secondsOfDay = 86400;
+    Numbers random;
+    std::string text = "<ADIF_VER:5>3.1.7 <EOH>\n";
+    for (std::size_t qso = 0; qso < count; ++qso) {
+        const std::size_t second = qso * 2 * secondsOfDay / count;
+        append(text, "CALL", randomCall(random, random.below(10)));
+        append(text, "QSO_DATE", second < secondsOfDay ? "20240323" : "20240324");
+        append(text, "TIME_ON",
+               fmt::format("{:02}{:02}{:02}", second / 3600 % 24, second / 60 % 60, second % 60));
+        append(text, "BAND", band.empty() ? shortWave[random.below(5)] : band);
+        append(text, "MODE", random.below(4) == 0 ? "SSB" : "CW");
+        append(text, "RST_SENT", "599");
+        append(text, "RST_RCVD", "599");
+        append(text, "STX", std::to_string(qso + 1));
+        append(text, "SRX", std::to_string(1 + random.below(3000)));
+        append(text, "CQZ", std::to_string(1 + random.below(40)));
+        append(text, "GRIDSQUARE",
+               fmt::format("J{}{}{}{}{}", static_cast<char>('M' + random.below(4)), random.below(10),
+                           random.below(10), static_cast<char>('A' + random.below(24)),
+                           static_cast<char>('A' + random.below(24))));
+        append(text, "MY_GRIDSQUARE", "JO62QM");
+        text += "<EOR>\n";
+    }
+    return text;
+}
+
 }  // namespace tallyrig::benchmarks

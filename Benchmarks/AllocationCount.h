@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+namespace tallyrig::benchmarks {
+
+/// How often the program has asked for memory so far. Whoever links this counts from then on.
+std::size_t allocationCount();
+
+}  // namespace tallyrig::benchmarks
