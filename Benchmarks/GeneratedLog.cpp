@@ -141,14 +141,20 @@ std::string generatedScoredLog(std::size_t count, std::string_view band) {
     constexpr std::size_t secondsOfDay = 86400;
     Numbers random;
     std::string text = "<ADIF_VER:5>3.1.7 <EOH>\n";
+    std::string_view place = band;
+    std::string_view mode;
     for (std::size_t qso = 0; qso < count; ++qso) {
+        if (mode.empty() || random.below(8) == 0) {
+            place = band.empty() ? shortWave[random.below(5)] : band;
+            mode = random.below(4) == 0 ? "SSB" : "CW";
+        }
         const std::size_t second = qso * 2 * secondsOfDay / count;
         append(text, "CALL", randomCall(random, random.below(10)));
         append(text, "QSO_DATE", second < secondsOfDay ? "20240323" : "20240324");
         append(text, "TIME_ON",
                fmt::format("{:02}{:02}{:02}", second / 3600 % 24, second / 60 % 60, second % 60));
-        append(text, "BAND", band.empty() ? shortWave[random.below(5)] : band);
-        append(text, "MODE", random.below(4) == 0 ? "SSB" : "CW");
+        append(text, "BAND", place);
+        append(text, "MODE", mode);
         append(text, "RST_SENT", "599");
         append(text, "RST_RCVD", "599");
         append(text, "STX", std::to_string(qso + 1));
