@@ -68,11 +68,12 @@ ContestRun::ContestRun(const ContestRules& contestRules, const CrossCheck& findi
         continentField = fields.add("CONT");
     }
     for (const ContestMultiplier& multiplier : rules.multipliers) {
+        readsMode = readsMode || multiplier.perMode;
         const auto known = std::ranges::find_if(
             tallies, [&](const Tally& tally) { return text::equal(tally.name, multiplier.name); });
         const auto tally = static_cast<std::size_t>(known - tallies.begin());
         if (known == tallies.end()) {
-            tallies.push_back({multiplier.name, {}, 0});
+            tallies.push_back({multiplier.name, KeyNumbers(), 0});
         }
         multipliers.push_back({multiplier, MultiplierKey(multiplier, fields), tally});
     }
@@ -85,6 +86,7 @@ ContestScore ContestRun::score(const ADIFDocument& log) {
     result.contestName = rules.name;
     result.totalQSOs = log.records().size();
     result.results.reserve(result.totalQSOs);
+    dupeKeys = KeyNumbers(dupeFields.empty() ? 0 : result.totalQSOs);
     for (const ADIFRecord& record : log.records()) {
         fields.read(record);
         ContestQSOResult& qso = result.results.emplace_back();
@@ -125,6 +127,11 @@ void ContestRun::scoreQSO(ContestQSOResult& qso) {
 
 void ContestRun::turnToBand() {
     bandName = fields.upper(bandField);
+    // Most QSOs are on the band of the one before.
+    if (!bands.empty() && bandName == lastBandName) {
+        return;
+    }
+    lastBandName = bandName;
     const KeyNumbers::Entry entry =
         text::isASCII(bandName) ? bandNumbers.add(bandName) : bandNumbers.add(text::canonicalKey(bandName));
     bandNumber = entry.number;
@@ -215,9 +222,10 @@ void ContestRun::count(ContestQSOResult& qso) {
     qso.points = valuation.points(fields, bandName, worked);
     result.qsoPoints = saturatedSum(result.qsoPoints, qso.points);
     band.points = saturatedSum(band.points, qso.points);
+    const std::string_view mode = readsMode ? fields.upper(modeField) : std::string_view();
     for (Multiplier& multiplier : multipliers) {
         Tally& tally = tallies[multiplier.tally];
-        const std::string_view key = multiplier.key.read(fields, bandName, fields.upper(modeField));
+        const std::string_view key = multiplier.key.read(fields, bandName, mode);
         if (key.empty() || !tally.seen.add(key).isNew) {
             continue;
         }

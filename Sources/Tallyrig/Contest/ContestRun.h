@@ -81,7 +81,8 @@ class ContestRun {
     std::size_t cqZoneField = 0;
     std::size_t ituZoneField = 0;
     std::size_t continentField = 0;
-    bool readsStation;  ///< Whether any rule asks for the relation to the station worked.
+    bool readsStation;       ///< Whether any rule asks for the relation to the station worked.
+    bool readsMode = false;  ///< Whether any multiplier counts anew in each mode.
     QSOValuation valuation;
     std::vector<Multiplier> multipliers;
     std::vector<Tally> tallies;
@@ -95,6 +96,7 @@ class ContestRun {
     // Of the record at hand.
     std::string_view bandName;
     std::size_t bandNumber = 0;
+    std::string lastBandName;  ///< That of the record before, in memory of its own.
     WorkedStation worked;
 
     ContestScore result;

@@ -17,7 +17,8 @@ class KeyNumbers {
         bool isNew;
     };
 
-    KeyNumbers() : slots(smallest) {}
+    /// Has room for `expected` keys and finds more when they come.
+    explicit KeyNumbers(std::size_t expected = 0);
 
     /// Compared byte by byte: the caller makes `key` canonical.
     Entry add(std::string_view key);

@@ -8,7 +8,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <utility>
 
 namespace tallyrig {
 
@@ -124,29 +123,48 @@ constexpr std::size_t prefixCount = [] {
     return count;
 }();
 
-using PrefixRow = std::pair<std::uint32_t, std::string_view>;
+/// The place of a prefix in the table below, if nothing else lies there.
+constexpr std::size_t placeOf(std::uint32_t number) {
+    return (number * 0x9E3779B1U) >> 23U;
+}
 
-/// The codes by prefix, ascending.
-constexpr auto prefixRows = [] {
-    std::array<PrefixRow, prefixCount> rows;
-    std::size_t count = 0;
+struct PrefixSlot {
+    std::uint32_t number = 0;
+    std::uint32_t entity = 0;  ///< The row.
+};
+
+/// The entities by prefix, each at its place or one of the next that are empty.
+constexpr auto prefixSlots = [] {
+    std::array<PrefixSlot, 512> slots{};
+    static_assert(prefixCount * 2 < slots.size());
     forEachPrefix([&](std::string_view prefix, const Entity& entity) {
-        rows[count++] = {packed(prefix), entity.code};
+        std::size_t place = placeOf(packed(prefix));
+        while (slots[place].number != 0) {
+            place = (place + 1) % slots.size();
+        }
+        slots[place] = {packed(prefix), static_cast<std::uint32_t>(&entity - entities)};
     });
-    std::ranges::sort(rows, {}, &PrefixRow::first);
-    return rows;
+    return slots;
 }();
 
 std::optional<std::string_view> codeOfPrefix(std::string_view prefix) {
     const std::uint32_t number = packed(prefix);
-    const auto row = std::ranges::lower_bound(prefixRows, number, {}, &PrefixRow::first);
-    return row != prefixRows.end() && row->first == number ? std::optional(row->second) : std::nullopt;
+    for (std::size_t place = placeOf(number); prefixSlots[place].number != 0;
+         place = (place + 1) % prefixSlots.size()) {
+        if (prefixSlots[place].number == number) {
+            return entities[prefixSlots[place].entity].code;
+        }
+    }
+    return std::nullopt;
 }
 
 /// The code by the longest prefix at the front of `part`.
 std::optional<std::string_view> codeOfPart(std::string_view part) {
+    // A mark that belongs to the front would stand right behind it.
+    const bool isPlain = text::isASCII(part.substr(0, longestPrefix + 1));
     for (std::size_t length = longestPrefix; length > 0; --length) {
-        const std::string_view prefix = text::firstCharacters(part, length);
+        const std::string_view prefix =
+            isPlain ? part.substr(0, length) : text::firstCharacters(part, length);
         const bool isASCII = prefix.size() <= length;
         if (isASCII) {
             if (const auto code = codeOfPrefix(prefix)) {
@@ -200,20 +218,19 @@ std::optional<std::string_view> DXCCInfo::dxccCode(std::string_view call) {
         whole = canonical;
     }
     bool hasPart = false;
-    std::size_t shortest = 0;
+    std::string_view shortest;
     std::optional<std::string_view> code;
     text::forEachPiece(whole, '/', [&](std::string_view part) {
         if (isSuffix(part)) {
             return;
         }
         hasPart = true;
-        const std::size_t length = text::characterCount(part);
-        if (code && length >= shortest) {
+        if (code && text::characterCount(part) >= text::characterCount(shortest)) {
             return;
         }
         if (const auto found = codeOfPart(part)) {
             code = found;
-            shortest = length;
+            shortest = part;
         }
     });
     return hasPart ? code : codeOfPart(whole);

@@ -18,7 +18,8 @@ constexpr double earthRadiusKm = 6371.0;
 /// The first six characters of a locator, in upper case. A character that is not ASCII, or that carries a
 /// combining mark, is NUL, and so are those that are not there: none of them has a place in a locator.
 std::array<char, 6> significantCharacters(std::string_view locator) {
-    const std::string upper = text::upper(text::trimmedOfBlanks(locator));
+    std::string buffer;
+    const std::string_view upper = text::upper(text::trimmedOfBlanks(locator), buffer);
     std::array<char, 6> significant{};
     if (text::isASCII(upper)) {
         std::copy_n(upper.begin(), std::min(upper.size(), significant.size()), significant.begin());

@@ -36,13 +36,14 @@ std::string withLastDigit(std::string prefix, std::string_view digit) {
 
 /// The parts of a call, and of those that are no plain suffix the shortest two; of parts of one length the
 /// first is the shorter.
-struct Parts {
+class Parts {
+  public:
     std::size_t count = 0;
     std::string_view first;
 
     std::size_t significantCount = 0;
     std::string_view shortest;
-    std::size_t shortestLength = 0;
+    std::size_t shortestLength = 0;  ///< Known where there are two, as that of the next is.
     std::string_view next;
     std::size_t nextLength = 0;
 
@@ -53,8 +54,20 @@ struct Parts {
         if (isPlainSuffix(part)) {
             return;
         }
+        if (significantCount == 0) {
+            shortest = part;
+        } else {
+            addFurther(part);
+        }
+        ++significantCount;
+    }
+
+  private:
+    /// Most calls have but one part, whose length is not asked for.
+    void addFurther(std::string_view part) {
         const std::size_t length = text::characterCount(part);
-        if (significantCount == 0 || length < shortestLength) {
+        shortestLength = significantCount == 1 ? text::characterCount(shortest) : shortestLength;
+        if (length < shortestLength) {
             next = shortest;
             nextLength = shortestLength;
             shortest = part;
@@ -63,7 +76,6 @@ struct Parts {
             next = part;
             nextLength = length;
         }
-        ++significantCount;
     }
 };
 

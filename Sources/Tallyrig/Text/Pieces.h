@@ -20,9 +20,10 @@ void forEachPiece(std::string_view text, char separator, Visit visit) {
         begin = end + 1;
     };
     if (isASCII(text)) {
-        for (std::size_t at = text.find(separator); at != std::string_view::npos;
-             at = text.find(separator, at + 1)) {
-            endPiece(at);
+        for (std::size_t at = 0; at < text.size(); ++at) {
+            if (text[at] == separator) {
+                endPiece(at);
+            }
         }
     } else {
         for (const std::string_view character : characters(text)) {

@@ -78,28 +78,7 @@ std::string_view trimmedOf(std::string_view text, Predicate isTrimmed) {
     return text.substr(begin, end - begin);
 }
 
-/// Printable ASCII at both ends means that there is nothing to trim, whatever stands between.
-bool needsNoTrimming(std::string_view text) {
-    const auto isPlain = [](char c) { return c > 0x20 && c < 0x7F; };
-    return text.empty() || (isPlain(text.front()) && isPlain(text.back()));
-}
-
 }  // namespace
-
-bool isASCII(std::string_view text) {
-    const char* at = text.data();
-    std::size_t left = text.size();
-    std::uint64_t seen = 0;
-    for (; left >= sizeof seen; at += sizeof seen, left -= sizeof seen) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, at, sizeof word);
-        seen |= word;
-    }
-    for (; left > 0; ++at, --left) {
-        seen |= static_cast<std::uint8_t>(*at);
-    }
-    return (seen & 0x8080808080808080U) == 0;
-}
 
 std::string upper(std::string_view text) {
     std::string result;
@@ -118,11 +97,19 @@ std::string upper(std::string_view text) {
 }
 
 std::string_view upper(std::string_view text, std::string& buffer) {
-    if (!isASCII(text)) {
+    // Without a branch for each character, which would cost more than it saves in the short texts of a log.
+    unsigned other = 0;
+    unsigned small = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        other |= byte & 0x80U;
+        small |= byte - unsigned{'a'} < 26U ? 1U : 0U;
+    }
+    if (other != 0) {
         buffer = upper(text);
         return buffer;
     }
-    if (std::ranges::none_of(text, [](char c) { return c != upperASCII(c); })) {
+    if (small == 0) {
         return text;
     }
     buffer.resize(text.size());
@@ -177,12 +164,12 @@ std::strong_ordering compare(std::string_view left, std::string_view right) {
     return canonicalKey(left) <=> canonicalKey(right);
 }
 
-std::string_view trimmed(std::string_view text) {
-    return needsNoTrimming(text) ? text : trimmedOf(text, isWhiteSpaceOrLineEnd);
+std::string_view detail::trimmedSlowly(std::string_view text) {
+    return trimmedOf(text, isWhiteSpaceOrLineEnd);
 }
 
-std::string_view trimmedOfBlanks(std::string_view text) {
-    return needsNoTrimming(text) ? text : trimmedOf(text, isBlank);
+std::string_view detail::trimmedOfBlanksSlowly(std::string_view text) {
+    return trimmedOf(text, isBlank);
 }
 
 std::vector<std::string_view> split(std::string_view text, char separator) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,8 +17,35 @@
 /// bytes is not promised.
 namespace tallyrig::text {
 
+/// What the inline functions below are made of.
+namespace detail {
+
+/// Printable ASCII at both ends means that there is nothing to trim, whatever stands between.
+inline bool needsNoTrimming(std::string_view text) {
+    const auto isPlain = [](char c) { return c > 0x20 && c < 0x7F; };
+    return text.empty() || (isPlain(text.front()) && isPlain(text.back()));
+}
+
+std::string_view trimmedSlowly(std::string_view text);
+std::string_view trimmedOfBlanksSlowly(std::string_view text);
+
+}  // namespace detail
+
 /// Whether every byte of `text` is below 128.
-bool isASCII(std::string_view text);
+inline bool isASCII(std::string_view text) {
+    const char* at = text.data();
+    std::size_t left = text.size();
+    std::uint64_t seen = 0;
+    for (; left >= sizeof seen; at += sizeof seen, left -= sizeof seen) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, at, sizeof word);
+        seen |= word;
+    }
+    for (; left > 0; ++at, --left) {
+        seen |= static_cast<std::uint8_t>(*at);
+    }
+    return (seen & 0x8080808080808080U) == 0;
+}
 
 /// The full Unicode upper-case mapping, independent of locale: "ß" gives "SS".
 std::string upper(std::string_view text);
@@ -42,10 +72,14 @@ inline bool contains(std::string_view text, std::string_view part) {
 
 /// `text` without white space and line ends at both ends: Unicode category Z, U+0009 to U+000D and U+0085.
 /// The result refers to `text`.
-std::string_view trimmed(std::string_view text);
+inline std::string_view trimmed(std::string_view text) {
+    return detail::needsNoTrimming(text) ? text : detail::trimmedSlowly(text);
+}
 
 /// `text` without blanks and tabs at both ends: Unicode category Zs and U+0009. The result refers to `text`.
-std::string_view trimmedOfBlanks(std::string_view text);
+inline std::string_view trimmedOfBlanks(std::string_view text) {
+    return detail::needsNoTrimming(text) ? text : detail::trimmedOfBlanksSlowly(text);
+}
 
 /// The pieces between the separators, empty ones included: at least one, and one more than there are
 /// separators. The pieces refer to `text`.
