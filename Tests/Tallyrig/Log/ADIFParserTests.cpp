@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <optional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace tallyrig {
@@ -60,39 +58,23 @@ TEST(Reading, PassesOverAByteOrderMark) {
 }
 
 TEST(Tags, GiveNameLengthAndType) {
-    constexpr std::nullopt_t none = std::nullopt;
     // Each tag stands in front of "12345"; then the name, the value and the type of its field.
-    const std::tuple<std::string, std::string, std::string, std::optional<std::string>> cases[] = {
-        {"CALL:5", "CALL", "12345", none},
-        {" call : 5 ", "CALL", "12345", none},
-        {"Call:3:s", "CALL", "123", "s"},
-        {"CALL:3: S \n", "CALL", "123", "S"},
-        {"CALL:3:", "CALL", "123", ""},
-        {"CALL:", "CALL", "", none},
-        {"CALL:abc", "CALL", "", none},
-        {"CALL:-3:S", "CALL", "", "S"},
-        {"CALL::S", "CALL", "", "S"},
-        {"CALL:+2", "CALL", "12", none},
-        {"CALL:002", "CALL", "12", none},
-        {"CALL:1e0", "CALL", "", none},
-        {"CALL:9223372036854775808", "CALL", "", none},
-        {"", "", "", none},
-        {":2", "", "12", none},
-        {"A<B:2", "A<B", "12", none},
-        {"stra\xC3\x9F:2", "STRASS", "12", none},
-        {"stra\xDF:2", "STRASS", "12", none},
-        {"n:2:\xF6", "N", "12", "\u00F6"},
-        {"CALL\xC2\xA0:2", "CALL", "12", none}};
-    for (const auto& [tag, name, value, type] : cases) {
+    const Pairs cases = fields(
+        "CALL:5=CALL/12345/- |  call : 5 =CALL/12345/- | Call:3:s=CALL/123/s | CALL:3: S \n=CALL/123/S | "
+        "CALL:3:=CALL/123/ | CALL:=CALL//- | CALL:abc=CALL//- | CALL:-3:S=CALL//S | CALL::S=CALL//S | "
+        "CALL:+2=CALL/12/- | CALL:002=CALL/12/- | CALL:1e0=CALL//- | CALL:9223372036854775808=CALL//- | "
+        "=//- | :2=/12/- | A<B:2=A<B/12/- | stra\xC3\x9F:2=STRASS/12/- | stra\xDF:2=STRASS/12/- | "
+        "n:2:\xF6=N/12/\u00F6 | CALL\u00A0:2=CALL/12/-");
+    for (const auto& [tag, field] : cases) {
         // Once by itself and once where a record before it has taught the reader what to expect.
         for (const std::string& before : {""s, "<" + tag + ">12345<EOR>", "<CALL:5>DL1AB<EOR>"s}) {
             const ADIFDocument log = ADIFParser::parse(before + "<" + tag + ">12345 <EOR><X:1>1<EOR>");
             ASSERT_GE(log.records().size(), 2U) << tag;
             const ADIFRecord& record = log.records()[log.records().size() - 2];
             ASSERT_EQ(record.fields().size(), 1U) << tag;
-            EXPECT_EQ(record.fields()[0].name, name) << tag;
-            EXPECT_EQ(record.fields()[0].value, value) << tag;
-            EXPECT_EQ(record.fields()[0].type, type) << tag;
+            const auto& [id, name, value, type] = record.fields()[0];
+            const std::string found = std::string(name) + "/" + std::string(value) + "/";
+            EXPECT_EQ(found + std::string(type.value_or("-")), field) << tag;
         }
     }
 }

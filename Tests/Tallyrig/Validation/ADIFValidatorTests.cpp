@@ -1,6 +1,7 @@
 #include "Tallyrig/Validation/ADIFValidator.h"
 
 #include "Tallyrig/Log/LogSupport.h"
+#include "Tallyrig/Text/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -172,46 +173,36 @@ TEST(Frequency, LiesInTheBandWithBothEdges) {
     EXPECT_EQ(findings({{"FREQ_RX", "7.1"}, {"BAND_RX", "20M"}}), Findings());
 }
 
+/// That a question about a text is answered with yes for the first texts, parted by bars, and with no
+/// for the others.
+void expectJudged(bool (*isGood)(std::string_view), std::string_view good, std::string_view others) {
+    for (const std::string_view text : text::split(good, '|')) {
+        EXPECT_TRUE(isGood(text)) << text;
+    }
+    for (const std::string_view text : text::split(others, '|')) {
+        EXPECT_FALSE(isGood(text)) << text;
+    }
+}
+
 TEST(Dates, AreDaysOfTheCalendar) {
-    for (const char* const date : {"19300101", "21001231", "20240229", "20000229", "20240731"}) {
-        EXPECT_TRUE(ADIFValidator::isValidDate(date)) << date;
-    }
-    for (const char* const date :
-         {"19291231", "21010101", "20240230", "20230229", "21000229", "20240001", "20241301", "20240100",
-          "20240431", "2024-01-15", "2024011", "202401150", "2024011x", "", "２０２４０１１５", "2024011٥"}) {
-        EXPECT_FALSE(ADIFValidator::isValidDate(date)) << date;
-    }
+    expectJudged(ADIFValidator::isValidDate, "19300101|21001231|20240229|20000229|20240731",
+                 "19291231|21010101|20240230|20230229|21000229|20240001|20241301|20240100|20240431|"
+                 "2024-01-15|2024011|202401150|2024011x||２０２４０１１５|2024011٥");
 }
 
 TEST(Times, AreHoursAndMinutesAndPerhapsSeconds) {
-    for (const char* const time : {"0000", "2359", "235959", "000000"}) {
-        EXPECT_TRUE(ADIFValidator::isValidTime(time)) << time;
-    }
-    for (const char* const time :
-         {"2400", "235960", "1260", "123", "12345", "1234567", "12:34", "-100", "", "１２３４", "12٣٤"}) {
-        EXPECT_FALSE(ADIFValidator::isValidTime(time)) << time;
-    }
+    expectJudged(ADIFValidator::isValidTime, "0000|2359|235959|000000",
+                 "2400|235960|1260|123|12345|1234567|12:34|-100||１２３４|12٣٤");
 }
 
 TEST(Locators, HaveOneToFourPairs) {
-    for (const char* const locator : {"JO", "jo62", "JO62qm", "JO62QM38", "AA00AA00", "RR99XX99", "JO٦٢"}) {
-        EXPECT_TRUE(ADIFValidator::isValidGridsquare(locator)) << locator;
-    }
-    for (const char* const locator : {"", "J", "JO6", "JS62", "SA00", "JO62Y", "JO62YY", "JO62AY", "JOAA",
-                                      "JO62QMAB", "JO62QM38AA", "JO 2", "JS٦٢", "J\xC3\x96", "JO6\r\n"}) {
-        EXPECT_FALSE(ADIFValidator::isValidGridsquare(locator)) << locator;
-    }
+    expectJudged(ADIFValidator::isValidGridsquare, "JO|jo62|JO62qm|JO62QM38|AA00AA00|RR99XX99|JO٦٢",
+                 "|J|JO6|JS62|SA00|JO62Y|JO62YY|JO62AY|JOAA|JO62QMAB|JO62QM38AA|JO 2|JS٦٢|J\u00D6|JO6\r\n");
 }
 
 TEST(CallSigns, ArePlausibleWithLetterAndDigit) {
-    for (const char* const call :
-         {"DL1ABC/P", "dl1abc", "A1A", "3DA0RS", "EA8/DL1ABC/P", "Ä1Ö", "R1ЖЖ", "ß1"}) {
-        EXPECT_TRUE(ADIFValidator::isPlausibleCallsign(call)) << call;
-    }
-    for (const char* const call : {"", "DL", "A1", "ABCDEF", "123", "1/1", "DL1-ABC", "DL1 ABC",
-                                   "EA8/DL1ABC/PM", "DL1ÄÄÄÄÄÄÄÄÄÄ", "Ä1€", "DL1\r\nA"}) {
-        EXPECT_FALSE(ADIFValidator::isPlausibleCallsign(call)) << call;
-    }
+    expectJudged(ADIFValidator::isPlausibleCallsign, "DL1ABC/P|dl1abc|A1A|3DA0RS|EA8/DL1ABC/P|Ä1Ö|R1ЖЖ|ß1",
+                 "|DL|A1|ABCDEF|123|1/1|DL1-ABC|DL1 ABC|EA8/DL1ABC/PM|DL1ÄÄÄÄÄÄÄÄÄÄ|Ä1€|DL1\r\nA");
     EXPECT_EQ(findings({{"CALL", " dl "}}), (Findings{"0 implausibleCallsign dl"}));
     EXPECT_EQ(findings({{"CALL", " "}}), Findings());
 }
@@ -232,26 +223,18 @@ TEST(Duplicates, NameTheOtherRecords) {
 }
 
 TEST(Duplicates, NeedEveryPartOfTheKey) {
+    using Groups = std::vector<std::vector<std::size_t>>;
+    const auto groups = [](const ADIFDocument& log, std::vector<std::string> key) {
+        return ADIFValidator({}, std::move(key), false, false, true, false).duplicateGroups(log);
+    };
     const ADIFDocument log =
         document({qso("DL1ABC", ""), qso("DL1ABC", " "), {{"CALL", "DL1ABC"}}, qso("DL1ABC")});
-    const auto groups = [&](std::vector<std::string> fields) {
-        return ADIFValidator({}, std::move(fields), false, false, true, false).duplicateGroups(log);
-    };
-    using Groups = std::vector<std::vector<std::size_t>>;
-    EXPECT_EQ(groups({"CALL", "BAND", "MODE"}), Groups());
-    EXPECT_EQ(groups({"CALL", "MODE"}), (Groups{{0, 1, 3}}));
-    EXPECT_EQ(groups({"CALL", "CALL"}), (Groups{{0, 1, 2, 3}}));
-    EXPECT_EQ(groups({}), (Groups{{0, 1, 2, 3}})) << "without key fields all records agree";
-
-    const ADIFDocument shifted = logOf({"CALL=A | BAND=BC", "CALL=AB | BAND=C"});
-    EXPECT_EQ(ADIFValidator({}, {"CALL", "BAND"}, false, false, true, false).duplicateGroups(shifted),
-              Groups());
-}
-
-TEST(Duplicates, SeeThroughTheSpellingOfALetter) {
-    const ADIFDocument log = logOf({"CALL=DL1ä", "CALL=dl1A\u0308", "CALL=DL1A"});
-    EXPECT_EQ(ADIFValidator({}, {"CALL"}, false, false, true, false).duplicateGroups(log),
-              (std::vector<std::vector<std::size_t>>{{0, 1}}));
+    EXPECT_EQ(groups(log, {"CALL", "BAND", "MODE"}), Groups());
+    EXPECT_EQ(groups(log, {"CALL", "MODE"}), (Groups{{0, 1, 3}}));
+    EXPECT_EQ(groups(log, {"CALL", "CALL"}), (Groups{{0, 1, 2, 3}}));
+    EXPECT_EQ(groups(log, {}), (Groups{{0, 1, 2, 3}})) << "without key fields all records agree";
+    EXPECT_EQ(groups(logOf({"CALL=A | BAND=BC", "CALL=AB | BAND=C"}), {"CALL", "BAND"}), Groups());
+    EXPECT_EQ(groups(logOf({"CALL=DL1ä", "CALL=dl1A\u0308", "CALL=DL1A"}), {"CALL"}), (Groups{{0, 1}}));
 }
 
 TEST(Duplicates, OfAWholeLogShareTheirList) {
