@@ -1,34 +1,107 @@
 #include "Quillon/Support/LogStoreFixture.h"
 
+#include <functional>
 #include <memory>
 
 namespace quillon {
 namespace {
 
 using tallyrig::ColumnTarget;
-using testing::LogStoreTest;
+using tallyrig::UUID;
 
-using Cells = LogStoreTest;
-using Fields = LogStoreTest;
-using Records = LogStoreTest;
-using BulkEdits = LogStoreTest;
-using Undo = LogStoreTest;
+class EditingALog : public testing::LogStoreTest {
+  protected:
+    /// The columns, and the fields of each record as for `adi`.
+    std::string log() const {
+        std::string text = columns();
+        for (const tallyrig::ADIFRecord& record : store.document().records()) {
+            text += ",";
+            for (const tallyrig::ADIFFieldView field : record.fields()) {
+                text += " " + std::string(field.name) + "=" + std::string(field.value);
+            }
+        }
+        return text;
+    }
+};
 
-constexpr const char* oneEdit = "displayedRecords document history isDirty windowTitle";
+TEST_F(EditingALog, IsToldAndUndone) {
+    const std::string edited = "displayedRecords document history isDirty windowTitle";
+    const std::string recordsEdited =
+        "checkResults displayedRecords document history isDirty selection showCheckResults windowTitle";
+    const std::string columnEdited =
+        "checkResults displayedRecords document history isDirty showCheckResults windowTitle";
+    struct Edit {
+        std::function<void()> act;
+        std::string log;
+        std::string told;
+    };
+    const Edit edits[] = {
+        {[&] { type(0, "band", "2"); }, "CALL X, CALL=A X=1 BAND=2, CALL=B", edited},
+        {[&] { type(0, "x", ""); }, "CALL X, CALL=A, CALL=B", edited},
+        {[&] { store.setField(id(0), 1, "2"); }, "CALL X, CALL=A X=2, CALL=B", edited},
+        {[&] { store.setField(id(0), 1, ""); }, "CALL X, CALL=A X=, CALL=B", edited},
+        {[&] { store.removeField(id(0), 1); }, "CALL X, CALL=A, CALL=B", edited},
+        {[&] { store.addField(id(1), "x"); }, "CALL X, CALL=A X=1, CALL=B X=", edited},
+        {[&] { store.addField(id(1), "y"); }, "CALL X Y, CALL=A X=1, CALL=B Y=", "columns " + edited},
+        {[&] { store.addRecord(); }, "CALL X, CALL=A X=1, CALL=B, CALL=", recordsEdited},
+        {[&] { store.pasteRecords("<y:1>2<eor> <eor> <x:1>3<eor>"); },
+         "CALL X Y, CALL=A X=1, CALL=B, Y=2, X=3",
+         "checkResults columns displayedRecords document history isDirty selection showCheckResults "
+         "windowTitle"},
+        {[&] { store.deleteSelected(); }, "CALL X, CALL=B", recordsEdited},
+        {[&] { store.setColumnValue("X", "2", ColumnTarget::emptyOnly); }, "CALL X, CALL=A X=1, CALL=B X=2",
+         columnEdited},
+        {[&] { store.replaceInColumn("x", "1", ""); }, "CALL X, CALL=A X=, CALL=B", columnEdited},
+        {[&] { store.addColumn("y"); }, "CALL X Y, CALL=A X=1, CALL=B", "columns history"},
+        {[&] { store.moveColumnBy("x", -1); }, "X CALL, CALL=A X=1, CALL=B", "columns history"},
+        {[&] { store.moveColumnBefore("CALL", "Y"); }, "X CALL, CALL=A X=1, CALL=B", "columns history"},
+        {[&] { store.renameColumn("x", " y "); }, "CALL Y, CALL=A Y=1, CALL=B",
+         "columnWidths columns " + edited},
+        {[&] { store.duplicateColumn("x"); }, "CALL X X_2, CALL=A X=1 X_2=1, CALL=B",
+         "columnWidths columns " + edited},
+        {[&] { store.removeColumn("x"); }, "CALL, CALL=A, CALL=B", "columnWidths columns " + edited},
+    };
+    for (const Edit& edit : edits) {
+        openLog({"CALL=A X=1", "CALL=B"});
+        const std::string before = log();
+        store.runCheck();
+        select({0});
+        edit.act();
+        EXPECT_EQ(told.sent(), edit.told) << edit.log;
+        EXPECT_EQ(log(), edit.log);
+        store.undo();
+        EXPECT_EQ(log(), before) << edit.log;
+        EXPECT_FALSE(store.isDirty() || store.canUndo() || store.showCheckResults()) << edit.log;
+        store.redo();
+        EXPECT_EQ(log(), edit.log);
+    }
+}
 
-TEST_F(Cells, AreWrittenOnlyWithAnotherText) {
+TEST_F(EditingALog, IsNoneWhereNothingChanges) {
     openLog({"CALL=A NAME=J\xC3\xB6rg"});
     type(0, "BAND", "");
     type(0, "NAME", "Jo\xCC\x88rg");  // Another spelling of the same text.
+    store.setField(id(0), 0, "A");
+    store.setField(id(0), 2, "x");
+    store.removeField(id(0), 2);
+    store.removeField(UUID::fresh(), 0);
+    store.addField(UUID::fresh(), "X");
+    EXPECT_EQ(store.pasteRecords("no <b>log</b> <eor>"), 0U);
+    store.deleteSelected();
+    store.setColumnValue("CALL", "B", ColumnTarget::emptyOnly);
+    store.replaceInColumn("CALL", "B", "C");
+    store.moveColumnBy("CALL", -1);
+    store.moveColumnBefore("CALL", "CALL");
+    store.duplicateColumn("X");
+    store.removeColumn("X");
+    EXPECT_FALSE(store.addColumn("call"));
+    EXPECT_FALSE(store.renameColumn("CALL", "name"));
+    EXPECT_TRUE(store.renameColumn("CALL", "call"));
     EXPECT_EQ(told.sent(), "");
-    type(0, "band", "20m");
-    EXPECT_EQ(told.sent(), oneEdit);
-    EXPECT_EQ(cell(0, "BAND") + " " + columns(), "20m CALL NAME");
-    type(0, "CALL", "");
-    EXPECT_EQ(cell(0, "CALL"), "(absent)");
+    EXPECT_EQ(store.field(id(0), 2), "");
 }
 
-TEST_F(Cells, MakeOneStepEachOfWhatIsTypedBeforeAndAfterASave) {
+TEST_F(EditingALog, JoinsWhatIsTypedIntoOneCellBeforeAndAfterASave) {
     openLog({"CALL=A", "CALL=B"});
     type(1, "BAND", "2");
     store.save();
@@ -42,128 +115,66 @@ TEST_F(Cells, MakeOneStepEachOfWhatIsTypedBeforeAndAfterASave) {
     EXPECT_FALSE(store.canUndo() || store.isDirty());
 }
 
-TEST_F(Cells, OutliveRecordAndStore) {
-    auto other = std::make_unique<LogStore>(settings, panels, measurer);
-    other->addRecord();
-    const auto record = other->document().records()[0].id();
-    const TextBinding bindings[] = {other->cellBinding(record, "CALL"), other->fieldBinding(record, 0)};
-    const auto readAfterWriting = [&] {
-        bindings[0].write("A");
-        bindings[1].write("B");
-        return bindings[0].read() + bindings[1].read();
-    };
-    EXPECT_EQ(readAfterWriting(), "BB");
-    other->deleteSelected();
-    EXPECT_EQ(readAfterWriting(), "");
-    other.reset();
-    EXPECT_EQ(readAfterWriting(), "");
-}
-
-TEST_F(Fields, AreReachedByTheirPlaceAndStayThereWhenEmptied) {
-    openLog({"CALL=A CALL=B"});
-    store.setField(id(0), 1, "C");
-    EXPECT_EQ(cell(0, "CALL"), "A");
-    EXPECT_EQ(store.field(id(0), 1), "C");
-    store.setField(id(0), 1, "");
-    EXPECT_EQ(store.document().records()[0].fields().size(), 2U);
-    told.sent();
-    store.setField(id(0), 1, "");
-    store.setField(id(0), 2, "x");
-    EXPECT_EQ(store.field(id(0), 2), "");
-    store.removeField(id(0), 2);
-    store.removeField(tallyrig::UUID::fresh(), 0);
-    store.addField(tallyrig::UUID::fresh(), "X");
-    EXPECT_EQ(told.sent(), "");
-}
-
-TEST_F(Fields, AreAddedWithAColumnAndRemovedWithout) {
-    openLog({"CALL=A"});
-    store.addField(id(0), "sota_ref");
-    EXPECT_EQ(cell(0, "SOTA_REF"), "");
-    EXPECT_EQ(told.sent(), std::string("columns ") + oneEdit);
-    store.addField(id(0), "call");
-    store.removeField(id(0), 1);
-    EXPECT_EQ(columns() + cell(0, "SOTA_REF"), "CALL SOTA_REF(absent)");
-}
-
-TEST_F(Records, AreAddedAtTheEndAndSelected) {
+TEST_F(EditingALog, BringsBackTheFlagOfThatMomentAndTheSelectionThatFits) {
     openLog({"CALL=A"});
     store.addRecord();
-    EXPECT_EQ(told.sent(), "displayedRecords document history isDirty selection windowTitle");
-    EXPECT_EQ(store.selection(), LogStore::Selection{id(1)});
-    EXPECT_EQ(cell(1, "CALL"), "");
-}
-
-TEST_F(Records, ArePastedBehindTheOthersInOneStep) {
-    openLog({"CALL=A"});
-    EXPECT_EQ(store.pasteRecords("no <b>log</b> <eor>"), 0U);
-    EXPECT_EQ(told.sent(), "");
-    EXPECT_EQ(store.pasteRecords("<call:1>B<eor> <eor> <call:1>A<band:3>20m<eor>"), 2U);
-    EXPECT_EQ(told.sent(), "columns displayedRecords document history isDirty selection windowTitle");
-    EXPECT_EQ(shown() + ", " + selected() + ", " + columns(), "A B A, B A, CALL BAND");
-    select({2});
-    store.pasteRecords(store.selectionAsADIF());
-    EXPECT_EQ(store.selection(), LogStore::Selection{id(3)});
-    store.undo();
-    store.undo();
-    EXPECT_EQ(shown() + ", " + columns(), "A, CALL");
-}
-
-TEST_F(Records, AreDeletedEvenWhereTheSearchHidesThem) {
-    openLog({"CALL=A", "CALL=B", "CALL=C"});
-    select({0, 1});
-    store.setSearchText("b");
-    store.deleteSelected();
-    store.setSearchText("");
-    EXPECT_EQ(shown(), "C");
-    told.sent();
-    store.deleteSelected();
-    EXPECT_EQ(told.sent(), "");
-    store.undo();
-    EXPECT_EQ(shown() + selected(), "A B C");
-    EXPECT_EQ(store.changesOfLastStep().records, (std::vector{id(0), id(1)}));
-}
-
-TEST_F(BulkEdits, CountAsChangesOnlyWhereTheyChangeSomething) {
-    openLog({"CALL=A BAND=20m", "CALL=B"});
-    store.setColumnValue("BAND", "20m", ColumnTarget::emptyOnly);
-    EXPECT_EQ(told.sent(), oneEdit);
-    store.replaceInColumn("band", "0", "");
-    EXPECT_EQ(told.sent(), "displayedRecords document");
-    EXPECT_EQ(shown("BAND"), "2m 2m");
-    store.undo();
-    told.sent();
-    store.replaceInColumn("BAND", "70", "x");
-    store.setColumnValue("BAND", "40m", ColumnTarget::emptyOnly);
-    EXPECT_EQ(told.sent(), "") << "and nothing of redo";
-}
-
-TEST_F(Undo, BringsBackTheFlagOfThatMoment) {
-    openLog({"CALL=A"});
-    type(0, "CALL", "B");
+    store.setSelection({id(0), id(1)}, id(1));
     store.addColumn("X");
     store.save();
     store.undo();
     EXPECT_EQ(title(), "log.adi — bearbeitet");
+    EXPECT_TRUE(store.changesOfLastStep().records.empty());
+    store.undo();
+    EXPECT_EQ(store.selection(), LogStore::Selection{id(0)});
+    store.redo();
+    EXPECT_EQ(store.changesOfLastStep().records, std::vector{id(1)});
     store.redo();
     EXPECT_EQ(title(), "log.adi");
 }
 
-TEST_F(Undo, RestoresColumnsAndClearsWhatNoLongerFits) {
+TEST_F(EditingALog, SelectsTheNewRecordsAndDeletesWhatTheSearchHides) {
     openLog({"CALL=A", "CALL=B"});
-    store.addColumn("X");
     store.addRecord();
-    store.runCheck();
-    store.setSelection({id(0), id(2)}, id(2));
-    told.sent();
-    store.undo();
-    EXPECT_EQ(
-        told.sent(),
-        "checkResults displayedRecords document history isDirty selection showCheckResults windowTitle");
-    EXPECT_EQ(selected(), "A");
-    store.undo();
-    EXPECT_EQ(told.sent(), "columns history");
-    EXPECT_EQ(columns(), "CALL");
+    EXPECT_EQ(store.selection(), LogStore::Selection{id(2)});
+    select({1});
+    EXPECT_EQ(store.pasteRecords(store.selectionAsADIF() + "<call:1>C<eor>"), 2U);
+    EXPECT_EQ(store.selection(), (LogStore::Selection{id(3), id(4)}));
+    store.setSearchText("b");
+    store.deleteSelected();
+    EXPECT_EQ(log(), "CALL, CALL=A, CALL=B, CALL=");
+}
+
+TEST_F(EditingALog, KeepsASortByTheColumnThatIsRenamedAndNotByOneRemoved) {
+    openLog({"CALL=A FREQ=1"});
+    store.setWidth(99, "FREQ");
+    store.toggleSort("freq");
+    store.renameColumn("freq", "my_freq");
+    EXPECT_EQ(store.sortColumn(), "MY_FREQ");
+    EXPECT_EQ(store.width("MY_FREQ"), 99);
+    store.removeColumn("my_freq");
+    EXPECT_EQ(store.sortColumn(), std::nullopt);
+    store.save();
+    store.addColumn("X");
+    store.removeColumn("X");
+    EXPECT_FALSE(store.isDirty()) << "columns are none of the file";
+}
+
+TEST_F(EditingALog, IsBoundForLongerThanRecordAndStoreMayLast) {
+    auto other = std::make_unique<LogStore>(settings, panels, measurer);
+    other->addRecord();
+    const UUID record = other->document().records()[0].id();
+    const TextBinding bindings[] = {other->cellBinding(record, "CALL"), other->fieldBinding(record, 0)};
+    const auto readAfterWriting = [&] {
+        bindings[0].write("A");
+        const std::string first = bindings[1].read();
+        bindings[1].write("B");
+        return first + bindings[0].read();
+    };
+    EXPECT_EQ(readAfterWriting(), "AB");
+    other->deleteSelected();
+    EXPECT_EQ(readAfterWriting(), "");
+    other.reset();
+    EXPECT_EQ(readAfterWriting(), "");
 }
 
 }  // namespace

@@ -5,6 +5,8 @@ namespace {
 
 using Displaying = testing::LogStoreTest;
 using Selecting = testing::LogStoreTest;
+using FittingColumns = testing::LogStoreTest;
+using Checking = testing::LogStoreTest;
 
 TEST_F(Displaying, FollowsTheSearchAndTheLog) {
     openLog({"CALL=A1", "CALL=B1", "CALL=A2"});
@@ -46,20 +48,41 @@ TEST_F(Selecting, TellsOnceAndOnlyWhatDiffers) {
     EXPECT_EQ(selected(), "D");
 }
 
-TEST_F(Selecting, TakesARecordByItsPlaceInTheLog) {
-    openLog({"CALL=B", "CALL=A"});
-    store.toggleSort("CALL");
-    store.selectRecord(0);
-    store.selectRecord(2);
-    EXPECT_EQ(store.selectionAnchor(), id(0));
-    EXPECT_EQ(store.selectedRecord()->valueOrEmpty("CALL"), "B");
-}
-
-TEST_F(Selecting, GivesTheClipboardRecordsInTheOrderOfTheLog) {
+TEST_F(Selecting, GoesByThePlaceInTheLogWhateverTheSort) {
     openLog({"CALL=B", "CALL=X", "CALL=A"});
     store.toggleSort("CALL");
+    store.selectRecord(0);
+    store.selectRecord(3);
+    EXPECT_EQ(store.selectionAnchor(), id(0));
+    EXPECT_EQ(store.selectedRecord()->valueOrEmpty("CALL"), "B");
     select({0, 2});
     EXPECT_EQ(store.selectionAsADIF(), "<CALL:1>B <EOR>\n<CALL:1>A <EOR>\n");
+}
+
+TEST_F(FittingColumns, HappensOnOpeningAndOnRequest) {
+    openLog({"CALL=DL1ABC BAND=20m"});
+    const double fitting = store.fittingWidth("call");
+    EXPECT_EQ(store.width("CALL"), fitting);
+    store.setWidth(200, "BAND");
+    store.setWidth(200, "CALL");
+    store.autoFitColumns({"call"});
+    EXPECT_EQ(store.width("BAND"), 200);
+    EXPECT_EQ(store.width("CALL"), fitting);
+    store.autoFitColumns();
+    EXPECT_EQ(told.sent(), "columnWidths4");
+}
+
+TEST_F(Checking, OpensThePanelEvenWithoutFindings) {
+    store.runCheck();
+    EXPECT_EQ(told.sent(), "showCheckResults");
+    openLog({"FOO=1"});
+    settings.setValue("checkRequired", false);
+    store.runCheck();
+    EXPECT_EQ(told.sent(), "checkResults showCheckResults");
+    settings.setValue("checkUnknownFields", false);
+    store.runCheck();
+    EXPECT_EQ(told.sent(), "checkResults");
+    EXPECT_TRUE(store.validationIssues().empty());
 }
 
 }  // namespace
