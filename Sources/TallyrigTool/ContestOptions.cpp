@@ -1,5 +1,7 @@
 #include "TallyrigTool/ContestOptions.h"
 
+#include "Tallyrig/Text/Decoding.h"
+
 #include <CLI/CLI.hpp>
 
 namespace tallyrig::tool {
@@ -40,7 +42,12 @@ quillon::Contest ContestOptions::chosen() const {
 }
 
 ContestRules ContestOptions::rules() const {
-    return quillon::rulesOf(chosen(), quillon::GenericContest(), station.station());
+    // An argument may be any bytes; what is written has to be text.
+    ContestStation own = station.station();
+    for (std::string* const text : {&own.dxcc, &own.continent, &own.cqZone, &own.ituZone, &own.gridSquare}) {
+        *text = text::repaired(*text);
+    }
+    return quillon::rulesOf(chosen(), quillon::GenericContest(), own);
 }
 
 }  // namespace tallyrig::tool

@@ -91,6 +91,10 @@ TEST_F(Rules, AreGivenWithAllTheirMembers) {
     EXPECT_EQ(pointsOf("vhf"),
               json::parse(R"({"distanceKm": {"myField": "MY_GRIDSQUARE", "theirField": "GRIDSQUARE"}})"));
     EXPECT_EQ(pointsOf("generic"), json::parse(R"({"fixed": 1})"));
+    EXPECT_EQ(
+        json::parse(
+            run("tallyrig rules vhf --json --grid \"$(printf '\\377')\"").output)["station"]["gridSquare"],
+        "\uFFFD");
 }
 
 TEST_F(Rules, AreThoseOfAContestThatIsOffered) {
