@@ -171,11 +171,11 @@ TEST(EDIQSOLine, HasFifteenColumns) {
 }
 
 TEST(EDIDuplicates, AreTheSameCallOnTheSameBandAgain) {
-    const ADIFDocument log =
-        logOf({"CALL=ok1abc | BAND=2M", "CALL=OK1ABC | BAND=70CM", "CALL=OK1ABC | BAND=2m",
-               "CALL=OK1ABC | BAND=2M", "CALL=OK2ABC | BAND=2M", "", "CALL=OK1ABC | BAND=70CM", "MODE=CW"});
+    const ADIFDocument log = logOf({"CALL=ok1abc | BAND=2M", "CALL=OK1ABC | BAND=70CM",
+                                    "CALL=OK1ABC | BAND=2m", "CALL=OK1ABC | BAND=2M", "CALL=OK2ABC | BAND=2M",
+                                    "", "CALL=OK1ABC | BAND=70CM", "MODE=CW", "CALL=OK1ABC2 | BAND=M"});
     EXPECT_EQ(EDIWriter::computeDupes(std::vector(log.records().begin(), log.records().end())),
-              (std::vector<bool>{false, false, false, true, false, false, true, true}));
+              (std::vector<bool>{false, false, false, true, false, false, true, true, false}));
 }
 
 TEST(EDIQSOLine, TakesTheLastNumberOfAnExchange) {

@@ -196,8 +196,9 @@ TEST(Times, AreHoursAndMinutesAndPerhapsSeconds) {
 }
 
 TEST(Locators, HaveOneToFourPairs) {
-    expectJudged(ADIFValidator::isValidGridsquare, "JO|jo62|JO62qm|JO62QM38|AA00AA00|RR99XX99|JO٦٢",
-                 "|J|JO6|JS62|SA00|JO62Y|JO62YY|JO62AY|JOAA|JO62QMAB|JO62QM38AA|JO 2|JS٦٢|J\u00D6|JO6\r\n");
+    expectJudged(
+        ADIFValidator::isValidGridsquare, "JO|jo62|JO62qm|JO62QM38|AA00AA00|RR99XX99|JO٦٢",
+        "|J|JO6|JS62|SA00|JO62Y|JO62YY|JO62AY|JOAA|JO62QMAB|JO62QM38AA|JO 2|JS٦٢|JO٦٢AY|J\u00D6|JO6\r\n");
 }
 
 TEST(CallSigns, ArePlausibleWithLetterAndDigit) {
