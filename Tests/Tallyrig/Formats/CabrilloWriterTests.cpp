@@ -85,7 +85,6 @@ TEST(QSOLine, HasFixedColumns) {
         lineOf("FREQ=144.3 | MODE=cw | QSO_DATE=ä2345678 | TIME_ON=1\u0308234567 | CALL=dl1abc/portabel | "
                "RST_SENT=59999 | STX_STRING=öäüßéxyz | RST_RCVD=5 | SRX_STRING=0012345"),
         "QSO: 144300 CW ä234-56-78 1\u0308234 DL1ABC        599 öäüßéx DL1ABC/PORTAB 5   001234 0");
-    EXPECT_EQ(lineOf(""), "QSO:     0 DG   DL1ABC            —                        —      0");
 }
 
 TEST(QSOLine, FindsItsExchangeInSeveralPlaces) {

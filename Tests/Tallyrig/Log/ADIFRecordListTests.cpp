@@ -68,8 +68,8 @@ TEST(RecordList, BehavesAsAPlainVectorUnderRandomChanges) {
                 plain.push_back(other);
                 break;
             case 1:
-                list.modify(index, [&](ADIFRecord& record) { record.set("STX", "changed"); });
-                plain[index] = list[index];
+                plain[index].set("STX", "x" + std::to_string(step));
+                list.modify(index, [&](ADIFRecord& record) { record = plain[index]; });
                 break;
             case 2:
                 EXPECT_EQ(list.removeIf(isGone), 1U);
