@@ -15,7 +15,7 @@ namespace quillon {
 namespace {
 
 void setUp(QApplication& application, QTranslator& translator) {
-    QApplication::setApplicationName(QStringLiteral("Quillon"));
+    QApplication::setApplicationName(appName());
     QApplication::setApplicationVersion(appVersion());
     QApplication::setDesktopFileName(QStringLiteral("quillon"));
     QApplication::setWindowIcon(applicationIcon());

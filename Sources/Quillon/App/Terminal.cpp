@@ -1,6 +1,7 @@
 #include "Quillon/App/Terminal.h"
 
 #include "Quillon/Platform/AppInfo.h"
+#include "Tallyrig/Log/ProgramName.h"
 
 #include <QByteArray>
 #include <QString>
@@ -15,8 +16,9 @@ namespace quillon {
 
 namespace {
 
+/// Behind the name of the program.
 constexpr auto help =
-    "Aufruf: Quillon [LOG]\n"
+    " [LOG]\n"
     "\n"
     "Zeigt, bearbeitet und prüft ein Log des Amateurfunks: ADIF, ADX, Cabrillo oder EDI.\n"
     "Ohne LOG beginnt ein neues. Ein Name, der mit einem Strich beginnt, wird ./-name geschrieben.\n"
@@ -48,15 +50,16 @@ std::string namedDisplay() {
 }  // namespace
 
 std::optional<int> answerOnTerminal(std::span<char* const> arguments) {
+    const std::string name(tallyrig::programName);
     for (const std::string_view argument : arguments) {
         if (argument == "--") {
             break;
         }
         if (argument == "-h" || argument == "--help") {
-            return print(help);
+            return print("Aufruf: " + name + help);
         }
         if (argument == "--version") {
-            return print("Quillon " + appVersion().toStdString() + "\n");
+            return print(name + " " + appVersion().toStdString() + "\n");
         }
     }
     return std::nullopt;
@@ -64,10 +67,11 @@ std::optional<int> answerOnTerminal(std::span<char* const> arguments) {
 
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg) {
+        const std::string name(tallyrig::programName);
         const std::string named = namedDisplay();
         const std::string reason =
             named.empty() ? ": DISPLAY und WAYLAND_DISPLAY sind leer." : " mit" + named;
-        std::fprintf(stderr, "Quillon: Es ist keine Anzeige zu erreichen%s\n", reason.c_str());
+        std::fprintf(stderr, "%s: Es ist keine Anzeige zu erreichen%s\n", name.c_str(), reason.c_str());
         // Nothing has been made yet that would have to be put away.
         std::_Exit(failed);
     }

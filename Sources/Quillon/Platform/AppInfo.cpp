@@ -1,12 +1,26 @@
 #include "Quillon/Platform/AppInfo.h"
 
 #include "Quillon/Platform/Files/LogWriters.h"
+#include "Tallyrig/Log/ProgramName.h"
+
+#include <string_view>
 
 namespace quillon {
 
+namespace {
+
+QString toQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+QString appName() {
+    return toQString(tallyrig::programName);
+}
+
 QString appVersion() {
-    const std::string_view version = programVersion();
-    return QString::fromUtf8(version.data(), static_cast<qsizetype>(version.size()));
+    return toQString(programVersion());
 }
 
 }  // namespace quillon

@@ -4,6 +4,9 @@
 
 namespace quillon {
 
+/// The name of the application, for windows, menus and the folder of its settings.
+QString appName();
+
 /// The version of the application as text, "dev" if it has none.
 QString appVersion();
 

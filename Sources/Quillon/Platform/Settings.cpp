@@ -1,5 +1,7 @@
 #include "Quillon/Platform/Settings.h"
 
+#include "Quillon/Platform/AppInfo.h"
+
 #include <QMetaType>
 #include <QSettings>
 
@@ -24,8 +26,7 @@ class UserSettings final : public Settings {
     void setValue(const QString& key, const QVariant& value) override { settings.setValue(key, value); }
 
   private:
-    QSettings settings{QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quillon"),
-                       QStringLiteral("Quillon")};
+    QSettings settings{QSettings::IniFormat, QSettings::UserScope, appName(), appName()};
 };
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Controls/WrappingCheckBox.h"
 #include "Quillon/Views/Sidebar/FieldAdder.h"
+#include "Tallyrig/Validation/ADIFSpec317.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -22,11 +23,6 @@ namespace quillon {
 namespace {
 
 constexpr int longestVersion = 100;
-
-const QString& currentADIFVersion() {
-    static const QString version = QStringLiteral("3.1.7");
-    return version;
-}
 
 }  // namespace
 
@@ -81,9 +77,10 @@ SidebarSection* CheckSections::saving() {
     auto* version = new BoundedLine(longestVersion, section);
     version->editor().setAcceptDrops(false);
     const QString stored = settings.string(setting::adifVersion);
-    version->setText((stored.isNull() ? currentADIFVersion() : stored).toStdString());
+    const std::string_view current = tallyrig::ADIFSpec::version;
+    version->setText(stored.isNull() ? std::string(current) : stored.toStdString());
     // What is written while the field is empty.
-    version->editor().setPlaceholderText(currentADIFVersion());
+    version->editor().setPlaceholderText(toQString(current));
     connect(&version->editor(), &QLineEdit::textEdited, this,
             [this](const QString& text) { settings.setValue(setting::adifVersion, text); });
     section->addLabelled(QStringLiteral("ADIF-Version"), version);

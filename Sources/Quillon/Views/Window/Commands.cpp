@@ -1,5 +1,6 @@
 #include "Quillon/Views/Window/Commands.h"
 
+#include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Table/QSOTableView.h"
@@ -229,7 +230,7 @@ std::vector<Command> makeCommands() {
          .run = [](ContentView& window) { window.toggleFullScreen(); }},
         {.id = CommandID::about,
          .menu = CommandMenu::help,
-         .title = QStringLiteral("&Über Quillon"),
+         .title = QStringLiteral("&Über ") + appName(),
          .iconName = QStringLiteral("help-about"),
          .run = [](ContentView& window) { window.showAbout(); }},
     };

@@ -119,9 +119,9 @@ void ContentView::toggleFullScreen() {
 void ContentView::showAbout() {
     auto* box = new QMessageBox(this);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(QStringLiteral("Über Quillon"));
+    box->setWindowTitle(QStringLiteral("Über ") + appName());
     box->setIconPixmap(applicationIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
-    box->setText(QStringLiteral("<b>Quillon ") + appVersion() +
+    box->setText(QStringLiteral("<b>") + appName() + QLatin1Char(' ') + appVersion() +
                  QStringLiteral(
                      "</b><p>Logbücher des Amateurfunks ansehen, bearbeiten,<br>prüfen und auswerten.</p>"));
     box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
