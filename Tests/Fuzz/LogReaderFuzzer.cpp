@@ -17,13 +17,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const std::string_view data(reinterpret_cast<const char*>(bytes), size);
     const LogReader::Log log = LogReader::read(data);
 
-    const LogFormat format = LogFormatDetector::detect(data);
+    const std::string_view unmarked = text::withoutByteOrderMark(data);
+    const LogFormat format = LogFormatDetector::detect(unmarked);
     if (!text::fromUTF16(data)) {
         require(
             log.format == format || (log.format == LogFormat::cabrillo && !log.document.records().empty()),
             "the format is the one detected, if it is not a Cabrillo log further down");
     }
-    require(LogFormatDetector::detect(data.substr(0, 2048)) == format, "only the head counts");
+    require(LogFormatDetector::detect(unmarked.substr(0, 2048)) == format, "only the head counts");
     if (text::isASCII(data)) {
         require(LogFormatDetector::detect(text::upper(data)) == format, "case does not count");
     }

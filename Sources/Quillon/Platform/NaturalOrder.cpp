@@ -1,5 +1,7 @@
 #include "Quillon/Platform/NaturalOrder.h"
 
+#include "Tallyrig/Text/ASCII.h"
+
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 #include <unicode/stringpiece.h>
@@ -59,10 +61,6 @@ constexpr std::size_t firstDigit = punctuation.size() + 1;
 constexpr std::size_t firstNumber = firstDigit + 10;  ///< The weight of a number of two digits.
 constexpr std::size_t firstLetter = 256 - 26;
 constexpr std::size_t longestNumber = firstLetter - firstNumber + 1;
-
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 /// The weight of each character but digits in their runs; 0 where the collator has to be asked.
 constexpr std::array<std::uint8_t, 256> weights = [] {
@@ -132,7 +130,7 @@ class PlainKeys {
 
     bool appendKey(std::string_view value) {
         for (std::size_t at = 0; at < value.size();) {
-            if (!isDigit(value[at])) {
+            if (!tallyrig::text::isASCIIDigit(value[at])) {
                 const std::uint8_t weight = weights[static_cast<std::uint8_t>(value[at])];
                 if (weight == 0) {
                     return false;
@@ -142,7 +140,7 @@ class PlainKeys {
                 continue;
             }
             std::size_t end = at;
-            while (end < value.size() && isDigit(value[end])) {
+            while (end < value.size() && tallyrig::text::isASCIIDigit(value[end])) {
                 ++end;
             }
             while (at + 1 < end && value[at] == '0') {

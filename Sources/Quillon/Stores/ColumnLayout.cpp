@@ -1,5 +1,6 @@
 #include "Quillon/Stores/ColumnLayout.h"
 
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -16,10 +17,6 @@ namespace text = tallyrig::text;
 /// The key of a column's width.
 std::string widthKey(std::string_view name) {
     return text::canonicalKey(text::upper(name));
-}
-
-bool isLetter(char c) {
-    return c >= 'A' && c <= 'Z';
 }
 
 /// Whether `upperName` is one of the names.
@@ -46,9 +43,10 @@ std::string ColumnLayout::cleanedName(std::string_view typed) {
 }
 
 bool ColumnLayout::isValidName(std::string_view cleanedName) {
-    return !cleanedName.empty() && isLetter(cleanedName.front()) &&
-           std::ranges::all_of(cleanedName,
-                               [](char c) { return isLetter(c) || (c >= '0' && c <= '9') || c == '_'; });
+    return !cleanedName.empty() && text::isASCIIUpper(cleanedName.front()) &&
+           std::ranges::all_of(cleanedName, [](char c) {
+               return text::isASCIIUpper(c) || text::isASCIIDigit(c) || c == '_';
+           });
 }
 
 double ColumnLayout::defaultWidth(std::string_view name) {

@@ -1,6 +1,7 @@
 #include "Quillon/Stores/RecordFilter.h"
 
 #include "Tallyrig/Log/PerTag.h"
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ std::string folded(std::string_view text) {
 }
 
 constexpr std::uint8_t lowered(char c) {
-    return static_cast<std::uint8_t>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+    return static_cast<std::uint8_t>(text::lowerASCII(c));
 }
 
 /// What a byte means to a scan for ASCII text.

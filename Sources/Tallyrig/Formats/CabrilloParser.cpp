@@ -2,7 +2,10 @@
 
 #include "Tallyrig/Formats/ColumnRecordBuilder.h"
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Decoding.h"
+#include "Tallyrig/Text/Lines.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -65,6 +68,13 @@ std::string_view valueFor(const Pairs& pairs, const Key& key) {
     return found == pairs.end() ? std::string_view() : found->second;
 }
 
+void dropTrailingZeros(std::string& decimals) {
+    decimals.resize(decimals.find_last_not_of('0') + 1);
+    if (decimals.ends_with('.')) {
+        decimals.pop_back();
+    }
+}
+
 /// `kHz`, at least 1000, in MHz.
 std::string megahertz(std::int64_t kHz) {
     constexpr std::int64_t highestExact = 1'000'000'000;
@@ -74,10 +84,7 @@ std::string megahertz(std::int64_t kHz) {
     }
     std::string text = std::to_string(kHz);
     text.insert(text.size() - 3, 1, '.');
-    text.resize(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) {
-        text.pop_back();
-    }
+    dropTrailingZeros(text);
     return text;
 }
 
@@ -88,7 +95,7 @@ bool beginsWith(std::string_view line, std::string_view tag) {
         if (static_cast<unsigned char>(c) >= 0x80) {
             return text::upper(line).starts_with(tag);
         }
-        if (c != tag[at] && (c < 'a' || c > 'z' || c - 'a' + 'A' != tag[at])) {
+        if (text::upperASCII(c) != tag[at]) {
             return false;
         }
     }
@@ -117,8 +124,8 @@ class RecordMaker {
 
     /// The record of the line, absent if it has too few columns.
     std::optional<ADIFRecord> record(std::string_view line) {
-        line.remove_prefix(firstCharacters(line, 4).size());
-        if (!splitAtBlanks(line, columns)) {
+        line.remove_prefix(text::firstCharacters(line, 4).size());
+        if (!text::splitAtBlanks(line, columns)) {
             return std::nullopt;
         }
         places.addTo(builder, columns[0], [this](std::string_view column) {
@@ -187,12 +194,12 @@ void readHeaderLine(std::string_view line, Station& station) {
 }  // namespace
 
 ADIFDocument CabrilloParser::parse(std::string_view data) {
-    const FileText file(data);
-    std::string_view rest = file.text();
+    std::string buffer;
+    std::string_view rest = text::decoded(data, buffer);
     Station station;
     // The header may go on behind the QSOs, so that they wait until all of it is known.
     std::vector<std::string_view> qsoLines;
-    for (std::string_view line = takeLine(rest); !line.empty(); line = takeLine(rest)) {
+    for (std::string_view line = text::takeLine(rest); !line.empty(); line = text::takeLine(rest)) {
         line = text::trimmedOfBlanks(line);
         if (beginsWith(line, "QSO:")) {
             qsoLines.push_back(line);
@@ -239,10 +246,7 @@ CabrilloParser::FrequencyAndBand CabrilloParser::frequencyAndBand(std::string_vi
 
 std::string CabrilloParser::trimFreq(double mhz) {
     std::string text = fmt::format("{:.6f}", mhz);
-    text.resize(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) {
-        text.pop_back();
-    }
+    dropTrailingZeros(text);
     return text;
 }
 
@@ -253,8 +257,8 @@ std::string CabrilloParser::adifMode(std::string_view column) {
 }
 
 std::string CabrilloParser::adifDate(std::string_view column) {
-    std::string digits = numericCharacters(column);
-    return hasLength(digits, 8) ? digits : std::string(column);
+    std::string digits = text::numericCharacters(column);
+    return text::hasLength(digits, 8) ? digits : std::string(column);
 }
 
 std::string CabrilloParser::adifTime(std::string_view column) {

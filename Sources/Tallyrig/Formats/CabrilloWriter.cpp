@@ -2,6 +2,8 @@
 
 #include "Tallyrig/Formats/LogLines.h"
 #include "Tallyrig/Log/RecordValues.h"
+#include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Lines.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -42,7 +44,7 @@ constexpr std::size_t exchangeWidth = 6;
 
 std::string column(std::string_view text, std::size_t width) {
     std::string result;
-    appendColumn(result, text, width);
+    text::appendColumn(result, text, width);
     return result;
 }
 
@@ -66,17 +68,17 @@ class QSOLines {
         text += ' ';
         text += CabrilloWriter::cabrilloDate(values[qsoDate]);
         text += ' ';
-        text += firstCharacters(values.valueOrEmpty(timeOn), 4);
+        text += text::firstCharacters(values.valueOrEmpty(timeOn), 4);
         text += ' ';
         text += sentCall;
         text += ' ';
-        appendColumn(text, values.valueOrEmpty(rstSent), reportWidth);
+        text::appendColumn(text, values.valueOrEmpty(rstSent), reportWidth);
         text += ' ';
         appendExchange(text, values.valueOrEmpty(stxString), sentExchange);
         text += ' ';
-        appendColumn(text, text::upper(values.valueOrEmpty(call)), callWidth);
+        text::appendColumn(text, text::upper(values.valueOrEmpty(call)), callWidth);
         text += ' ';
-        appendColumn(text, values.valueOrEmpty(rstRcvd), reportWidth);
+        text::appendColumn(text, values.valueOrEmpty(rstRcvd), reportWidth);
         text += ' ';
         appendExchange(text, receivedExchange(), noExchange);
         text += " 0";
@@ -102,7 +104,7 @@ class QSOLines {
         if (exchange.empty()) {
             text += otherColumn;
         } else {
-            appendColumn(text, exchange, exchangeWidth);
+            text::appendColumn(text, exchange, exchangeWidth);
         }
     }
 
@@ -234,11 +236,11 @@ std::string CabrilloWriter::cabrilloMode(std::optional<std::string_view> mode) {
 
 std::string CabrilloWriter::cabrilloDate(std::optional<std::string_view> date) {
     const std::string_view text = date.value_or(std::string_view());
-    if (!hasLength(text, 8)) {
+    if (!text::hasLength(text, 8)) {
         return std::string(text);
     }
-    const std::string_view year = firstCharacters(text, 4);
-    const std::string_view yearAndMonth = firstCharacters(text, 6);
+    const std::string_view year = text::firstCharacters(text, 4);
+    const std::string_view yearAndMonth = text::firstCharacters(text, 6);
     std::string result(year);
     result += '-';
     result += yearAndMonth.substr(year.size());

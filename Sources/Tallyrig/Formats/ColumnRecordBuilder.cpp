@@ -1,6 +1,7 @@
 #include "Tallyrig/Formats/ColumnRecordBuilder.h"
 
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -11,29 +12,13 @@
 
 namespace tallyrig {
 
-namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-/// ASCII that stays as it is in upper case.
-bool isUpperASCII(char c) {
-    return static_cast<unsigned char>(c) < 0x80 && !(c >= 'a' && c <= 'z');
-}
-
-}  // namespace
-
 void ColumnRecordBuilder::addUpper(FieldTags::Number tag, std::string_view column) {
-    if (std::ranges::all_of(column, isUpperASCII)) {
-        addColumn(tag, column);
-    } else {
-        addColumn(tag, text::upper(column));
-    }
+    std::string buffer;
+    addColumn(tag, text::upper(column, buffer));
 }
 
 void ColumnRecordBuilder::addTime(FieldTags::Number tag, std::string_view column) {
-    if (column.size() == 4 && std::ranges::all_of(column, isDigit)) {
+    if (column.size() == 4 && std::ranges::all_of(column, text::isASCIIDigit)) {
         const std::array<char, 6> time = {column[0], column[1], column[2], column[3], '0', '0'};
         addField(tag, {time.data(), time.size()});
     } else {
@@ -43,7 +28,7 @@ void ColumnRecordBuilder::addTime(FieldTags::Number tag, std::string_view column
 
 void ColumnRecordBuilder::addSerial(FieldTags::Number tag, std::string_view column) {
     constexpr std::size_t mostDigits = 18;
-    if (column.size() <= mostDigits && std::ranges::all_of(column, isDigit)) {
+    if (column.size() <= mostDigits && std::ranges::all_of(column, text::isASCIIDigit)) {
         const std::size_t zeros = std::min(column.find_first_not_of('0'), column.size());
         addColumn(tag, zeros == column.size() && zeros > 0 ? "0" : column.substr(zeros));
     } else {

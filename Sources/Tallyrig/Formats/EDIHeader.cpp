@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -63,7 +64,7 @@ Days daysOf(const ADIFDocument& document) {
     Days days;
     for (const ADIFRecord& record : document.records()) {
         const std::string_view date = record.valueOrEmpty("QSO_DATE");
-        if (!hasLength(date, 8)) {
+        if (!text::hasLength(date, 8)) {
             continue;
         }
         if (days.first.empty() || std::is_lt(text::compare(date, days.first))) {

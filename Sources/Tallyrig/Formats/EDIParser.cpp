@@ -3,7 +3,10 @@
 #include "Tallyrig/Formats/ColumnRecordBuilder.h"
 #include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Decoding.h"
+#include "Tallyrig/Text/Lines.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -139,12 +142,12 @@ class QSOReading {
 }  // namespace
 
 ADIFDocument EDIParser::parse(std::string_view data) {
-    const FileText file(data);
+    std::string buffer;
     Header header;
     std::vector<std::string_view> qsoLines;
     bool isInQSOs = false;
-    std::string_view rest = file.text();
-    for (std::string_view line = takeLine(rest); !line.empty(); line = takeLine(rest)) {
+    std::string_view rest = text::decoded(data, buffer);
+    for (std::string_view line = text::takeLine(rest); !line.empty(); line = text::takeLine(rest)) {
         if (line.front() == '[') {
             isInQSOs = text::upper(line).starts_with("[QSORECORDS");
         } else if (!isInQSOs) {
@@ -191,19 +194,19 @@ std::string EDIParser::operators(std::span<const std::string_view> calls) {
 
 std::string EDIParser::century(std::optional<std::string_view> tDate) {
     const std::string_view dates = text::trimmedOfBlanks(tDate.value_or(std::string_view()));
-    const std::string digits = numericCharacters(dates.substr(0, dates.find(';')));
+    const std::string digits = text::numericCharacters(dates.substr(0, dates.find(';')));
     if (text::characterCount(digits) <= 3) {
         return "20";
     }
     // A digit may carry any number of marks, and the century goes into every date.
     constexpr std::size_t longest = 64;
-    const std::string_view firstTwo = firstCharacters(digits, 2);
+    const std::string_view firstTwo = text::firstCharacters(digits, 2);
     return firstTwo.size() <= longest ? std::string(firstTwo) : "20";
 }
 
 std::string EDIParser::adifDate(std::string_view ediDate, std::string_view century) {
-    std::string digits = numericCharacters(ediDate);
-    if (hasLength(digits, 6)) {
+    std::string digits = text::numericCharacters(ediDate);
+    if (text::hasLength(digits, 6)) {
         digits.insert(0, century);
     }
     return digits;
@@ -218,7 +221,7 @@ std::string_view EDIParser::adifMode(std::string_view code) {
     constexpr std::array<std::string_view, 10> modes = {"SSB", "SSB", "CW",  "SSB",  "SSB",
                                                         "AM",  "FM",  "FT8", "RTTY", "SSTV"};
     const std::string_view digit = text::trimmedOfBlanks(code);
-    return digit.size() == 1 && digit.front() >= '0' && digit.front() <= '9'
+    return digit.size() == 1 && text::isASCIIDigit(digit.front())
                ? modes[static_cast<std::size_t>(digit.front() - '0')]
                : "SSB";
 }

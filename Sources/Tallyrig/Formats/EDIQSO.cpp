@@ -36,7 +36,7 @@ enum Field : std::size_t {
 
 /// The day without its century.
 std::string_view shortDate(std::string_view date) {
-    return hasLength(date, 8) ? date.substr(firstCharacters(date, 2).size()) : date;
+    return text::hasLength(date, 8) ? date.substr(text::firstCharacters(date, 2).size()) : date;
 }
 
 /// The report, in every mode 59 where the log has none.
@@ -130,7 +130,7 @@ void EDIQSO::appendLine(std::string& text, std::string_view rcvdWWL, std::string
     };
     const std::string_view exchange = values.valueOrEmpty(srxString);
     append(shortDate(values.valueOrEmpty(qsoDate)));
-    append(firstCharacters(values.valueOrEmpty(timeOn), 4));
+    append(text::firstCharacters(values.valueOrEmpty(timeOn), 4));
     append(text::upper(call()));
     append(modeCode(values[mode]));
     append(report(values.valueOrEmpty(rstSent)));

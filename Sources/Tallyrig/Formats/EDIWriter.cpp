@@ -3,6 +3,7 @@
 #include "Tallyrig/Formats/EDIBands.h"
 #include "Tallyrig/Formats/EDIQSO.h"
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -72,7 +73,7 @@ class Claim {
         qso.read(record);
         const bool isDuplicate = seen.add(qso);
         const std::string rcvdWWL = text::upper(qso.gridsquare());
-        squares.add(firstCharacters(rcvdWWL, 4));
+        squares.add(text::firstCharacters(rcvdWWL, 4));
         countries.add(text::upper(qso.country()));
         bands.add(text::upper(qso.band()));
         const std::int64_t km = qso.km(myPlace);

@@ -4,6 +4,7 @@
 #include "Tallyrig/Formats/CabrilloParser.h"
 #include "Tallyrig/Formats/EDIParser.h"
 #include "Tallyrig/Log/ADIFParser.h"
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Decoding.h"
 
 #include <algorithm>
@@ -38,7 +39,7 @@ std::string_view withoutXMLDeclaration(std::string_view text) {
 /// Whether `text` has the first line of a Cabrillo log anywhere, in either case.
 bool hasStartOfLog(std::string_view text) {
     constexpr std::string_view marker = "START-OF-LOG";
-    const auto isSame = [](char c, char m) { return c == m || (m != '-' && c == m - 'A' + 'a'); };
+    const auto isSame = [](char c, char m) { return text::upperASCII(c) == m; };
     return std::search(text.begin(), text.end(), marker.begin(), marker.end(), isSame) != text.end();
 }
 
@@ -66,7 +67,8 @@ LogReader::Log LogReader::read(std::string_view bytes) {
     if (const auto converted = text::fromUTF16(bytes)) {
         return logIn(*converted, withoutXMLDeclaration(*converted));
     }
-    return logIn(bytes, bytes);
+    const std::string_view text = text::withoutByteOrderMark(bytes);
+    return logIn(text, text);
 }
 
 }  // namespace tallyrig

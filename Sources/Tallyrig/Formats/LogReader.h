@@ -15,9 +15,9 @@ struct LogReader {
     };
 
     /// The log in the bytes of a file, in the format that its content shows. UTF-16 with a byte order mark,
-    /// as editors save it, is read like the same text in UTF-8. What is taken for ADI text for want of any
-    /// mark, but has no call and a Cabrillo log further down, as a web page or a mail has it, is that log.
-    /// Never fails.
+    /// as editors save it, is read like the same text in UTF-8; a mark in front of UTF-8 is passed over. What
+    /// is taken for ADI text for want of any mark, but has no call and a Cabrillo log further down, as a web
+    /// page or a mail has it, is that log. Never fails.
     static Log read(std::string_view bytes);
 };
 

@@ -1,6 +1,7 @@
 #include "Tallyrig/Log/ADIFParser.h"
 
 #include "Tallyrig/Log/ADIFRecordBuilder.h"
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
@@ -134,7 +135,7 @@ class Reading {
         const char* digit = at + nameSize + 1;
         const char* const digitsLimit = digit + mostDigits;
         std::uint64_t length = 0;
-        while (digit < digitsLimit && *digit >= '0' && *digit <= '9') {
+        while (digit < digitsLimit && text::isASCIIDigit(*digit)) {
             length = length * 10 + static_cast<std::uint64_t>(*digit - '0');
             ++digit;
         }
@@ -215,7 +216,7 @@ class Reading {
 }  // namespace
 
 ADIFDocument ADIFParser::parse(std::string_view data) {
-    return Reading(text::withoutByteOrderMark(data)).document();
+    return Reading(data).document();
 }
 
 }  // namespace tallyrig

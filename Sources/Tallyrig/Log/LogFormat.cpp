@@ -6,7 +6,7 @@
 namespace tallyrig {
 
 LogFormat LogFormatDetector::detect(std::string_view data) {
-    const std::string_view head = text::withoutByteOrderMark(data).substr(0, 2048);
+    const std::string_view head = data.substr(0, 2048);
     const std::string decodedHead = text::repaired(head);
     const std::string marker = text::upper(text::trimmed(decodedHead));
     if (text::contains(marker, "[REG1TEST")) {

@@ -9,8 +9,8 @@ enum class LogFormat { adif, adx, cabrillo, edi };
 
 /// Finds the format of a file from its content alone; its name plays no part.
 struct LogFormatDetector {
-    /// Looks at the first 2048 bytes at most (a byte order mark at the head is no text). Anything unknown is
-    /// `adif`.
+    /// Looks at the first 2048 bytes at most of a file, which has no byte order mark at its head. Anything
+    /// unknown is `adif`.
     static LogFormat detect(std::string_view data);
 };
 

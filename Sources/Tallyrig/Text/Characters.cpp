@@ -1,5 +1,6 @@
 #include "Tallyrig/Text/Characters.h"
 
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <unicode/brkiter.h>
@@ -63,20 +64,24 @@ UChar32 firstCodePoint(std::string_view text) {
     return c;
 }
 
-bool isASCIIDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool isASCIILetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 }  // namespace
 
 std::size_t characterCount(std::string_view text) {
     std::size_t count = 0;
-    forEachCharacter(text, [&](std::string_view) { ++count; });
+    if (isASCII(text)) {
+        count = text.size();
+        for (std::size_t at = text.find("\r\n"); at != std::string_view::npos;
+             at = text.find("\r\n", at + 2)) {
+            --count;
+        }
+    } else {
+        forEachCluster(text, [&](std::string_view) { ++count; });
+    }
     return count;
+}
+
+bool hasLength(std::string_view text, std::size_t count) {
+    return characterCount(text) == count;
 }
 
 std::vector<std::string_view> characters(std::string_view text) {
@@ -130,6 +135,22 @@ std::string_view lastNumeric(std::string_view text) {
         }
     });
     return last;
+}
+
+std::string numericCharacters(std::string_view text) {
+    std::string result;
+    if (isASCII(text)) {
+        result.resize(text.size());
+        const auto kept = std::ranges::copy_if(text, result.begin(), isASCIIDigit);
+        result.erase(kept.out, result.end());
+        return result;
+    }
+    for (const std::string_view character : characters(text)) {
+        if (isNumeric(character)) {
+            result += character;
+        }
+    }
+    return result;
 }
 
 bool isAllNumeric(std::string_view text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,9 @@ namespace tallyrig::text {
 
 /// The number of characters in `text`.
 std::size_t characterCount(std::string_view text);
+
+/// Whether `text` is `count` characters long.
+bool hasLength(std::string_view text, std::size_t count);
 
 /// The characters of `text` in order. They refer to `text` and, joined, are `text` again.
 std::vector<std::string_view> characters(std::string_view text);
@@ -29,6 +33,9 @@ bool isNumeric(std::string_view character);
 
 /// The last character of `text` that is numeric, empty if there is none. It refers to `text`.
 std::string_view lastNumeric(std::string_view text);
+
+/// The numeric characters of `text` in order, without all others.
+std::string numericCharacters(std::string_view text);
 
 /// Whether every character of `text` is numeric, which is true of empty text.
 bool isAllNumeric(std::string_view text);

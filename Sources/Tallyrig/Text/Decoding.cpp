@@ -50,6 +50,15 @@ std::string decoded(std::string_view bytes) {
     return text;
 }
 
+std::string_view decoded(std::string_view bytes, std::string& buffer) {
+    if (isUTF8(bytes)) {
+        return bytes;
+    }
+    buffer.clear();
+    appendLatin1(buffer, bytes);
+    return buffer;
+}
+
 std::string repaired(std::string_view bytes) {
     if (isUTF8(bytes)) {
         return std::string(bytes);

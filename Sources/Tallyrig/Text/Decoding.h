@@ -13,6 +13,9 @@ bool isUTF8(std::string_view bytes);
 /// 8859-1, one byte to one character. The result is always well-formed UTF-8.
 std::string decoded(std::string_view bytes);
 
+/// The same without a copy where the bytes are UTF-8: the result refers to `bytes` or to `buffer`.
+std::string_view decoded(std::string_view bytes, std::string& buffer);
+
 /// Text of bytes as UTF-8, in which each ill-formed sequence becomes U+FFFD.
 std::string repaired(std::string_view bytes);
 

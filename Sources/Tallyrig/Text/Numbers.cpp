@@ -1,5 +1,7 @@
 #include "Tallyrig/Text/Numbers.h"
 
+#include "Tallyrig/Text/ASCII.h"
+
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -14,10 +16,6 @@ bool isSpaceOfC(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-char lowerASCII(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 /// What follows "nan": nothing, or letters, digits and underscores in brackets.
 bool isNaNTail(std::string_view tail) {
     if (tail.empty()) {
@@ -27,8 +25,7 @@ bool isNaNTail(std::string_view tail) {
         return false;
     }
     for (const char c : tail.substr(1, tail.size() - 2)) {
-        const char lower = lowerASCII(c);
-        if (!((lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') || c == '_')) {
+        if (!isASCIILetter(c) && !isASCIIDigit(c) && c != '_') {
             return false;
         }
     }
@@ -102,7 +99,7 @@ std::optional<double> number(std::string_view text) {
         text.remove_prefix(2);
         // `from_chars` takes "inf" and "nan" and a sign behind the prefix too, `strtod` does not.
         const char c = lowerASCII(text.front());
-        if (!((c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || c == '.') || text.starts_with("nan")) {
+        if (!(isASCIIDigit(c) || (c >= 'a' && c <= 'f') || c == '.') || text.starts_with("nan")) {
             return std::nullopt;
         }
     }

@@ -1,6 +1,6 @@
 #include "Tallyrig/Text/Text.h"
 
-#include "Tallyrig/Text/Decoding.h"
+#include "Tallyrig/Text/ASCII.h"
 
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
@@ -24,13 +24,6 @@ bool isWithinReach(std::string_view text) {
 
 icu::StringPiece piece(std::string_view text) {
     return {text.data(), static_cast<std::int32_t>(text.size())};
-}
-
-char upperASCII(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-char lowerASCII(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 /// The instance is created by ICU once for the process and is safe to share.

@@ -1,5 +1,6 @@
 #include "Tallyrig/Validation/ADIFValidator.h"
 
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 #include "Tallyrig/Validation/DuplicateGroups.h"
@@ -15,16 +16,9 @@ namespace tallyrig {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-bool isUpperLetter(char c) {
-    return c >= 'A' && c <= 'Z';
-}
-
 /// Digits of other scripts are numeric, but they cannot be read as a number: a date or time of them is none.
 bool isAllDigits(std::string_view text) {
-    return std::ranges::all_of(text, isDigit);
+    return std::ranges::all_of(text, text::isASCIIDigit);
 }
 
 int twoDigits(std::string_view text, std::size_t at) {
@@ -63,7 +57,7 @@ bool isASCIIGridsquare(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         const char c = text[at];
         const std::size_t pair = at / 2;
-        if (pair == 0 ? c < 'A' || c > 'R' : pair == 2 ? c < 'A' || c > 'X' : !isDigit(c)) {
+        if (pair == 0 ? c < 'A' || c > 'R' : pair == 2 ? c < 'A' || c > 'X' : !text::isASCIIDigit(c)) {
             return false;
         }
     }
@@ -130,9 +124,9 @@ bool ADIFValidator::isPlausibleCallsign(std::string_view text) {
     bool hasDigit = false;
     if (text::isASCII(upperText)) {
         for (const char c : upperText) {
-            hasLetter = hasLetter || isUpperLetter(c);
-            hasDigit = hasDigit || isDigit(c);
-            if (!isUpperLetter(c) && !isDigit(c) && c != '/') {
+            hasLetter = hasLetter || text::isASCIIUpper(c);
+            hasDigit = hasDigit || text::isASCIIDigit(c);
+            if (!text::isASCIIUpper(c) && !text::isASCIIDigit(c) && c != '/') {
                 return false;
             }
         }

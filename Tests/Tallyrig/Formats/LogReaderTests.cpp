@@ -29,6 +29,7 @@ TEST(LogReader, ReadsEachFormatInEachEncoding) {
              {text, "\xEF\xBB\xBF" + text, inUTF16(text, true), inUTF16(text, false)}) {
             const LogReader::Log log = LogReader::read(bytes);
             EXPECT_EQ(log.format, format) << text;
+            EXPECT_EQ(log.document.headerComment(), format == LogFormat::adif ? "A log" : "") << text;
             ASSERT_EQ(log.document.records().size(), 1U) << text;
             EXPECT_EQ(log.document.records()[0]["CALL"], "DL1AB") << text;
         }
@@ -62,7 +63,7 @@ TEST(LogReader, FindsACabrilloLogFurtherDown) {
 }
 
 TEST(LogReader, TakesWhatIsNoLogForAnEmptyOne) {
-    for (const char* bytes : {"", "\xFF\xFE", "\xFE\xFF<", "no log"}) {
+    for (const char* bytes : {"", "\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF<", "no log"}) {
         EXPECT_EQ(LogReader::read(bytes).format, LogFormat::adif);
         EXPECT_EQ(LogReader::read(bytes).document, ADIFDocument());
     }

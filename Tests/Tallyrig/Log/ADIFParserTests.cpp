@@ -48,13 +48,9 @@ TEST(Reading, KeepsHeaderAndRecordsApartByTheEndOfHeader) {
 }
 
 TEST(Reading, GivesTheEmptyDocumentWhereThereIsNoTag) {
-    for (const std::string& text : {""s, "no tag"s, "\xEF\xBB\xBF"s, "text <"s, "text <CALL:5"s}) {
+    for (const std::string& text : {""s, "no tag"s, "text <"s, "text <CALL:5"s}) {
         EXPECT_EQ(ADIFParser::parse(text), ADIFDocument()) << text;
     }
-}
-
-TEST(Reading, PassesOverAByteOrderMark) {
-    EXPECT_EQ(ADIFParser::parse("\xEF\xBB\xBFLog<EOH><CALL:1>X<EOR>").headerComment(), "Log");
 }
 
 TEST(Tags, GiveNameLengthAndType) {

@@ -79,7 +79,7 @@ TEST(Characters, AreWhatAReaderSees) {
     EXPECT_EQ(characterCount("\U0001F1E9\U0001F1EA\U0001F468\u200D\U0001F469\u200D\U0001F467"), 2U)
         << "a flag and a family";
     EXPECT_EQ(characterCount(""), 0U);
-    EXPECT_EQ(characterCount("\n\r\n\r"), 3U);
+    EXPECT_EQ(characterCount("\n\r\n\r\r\n"), 4U);
 }
 
 TEST(CharacterClasses, AreThoseOfTheFirstCodePoint) {
@@ -99,6 +99,12 @@ TEST(CharacterClasses, AreThoseOfTheFirstCodePoint) {
     EXPECT_TRUE(isAllNumeric("20٢٤"));
     EXPECT_FALSE(isAllNumeric("2024-"));
     EXPECT_FALSE(isAllNumeric("٢x"));
+}
+
+TEST(NumericCharacters, AreThoseOfAnyScript) {
+    EXPECT_EQ(numericCharacters("2024-01-15 x"), "20240115");
+    EXPECT_EQ(numericCharacters("٣-½Ⅳäx1"), "٣½Ⅳ1");
+    EXPECT_EQ(numericCharacters("1\u0308-2"), "1\u03082");
 }
 
 TEST(Integers, AreASignAndDigitsWithin64Bits) {
@@ -138,6 +144,8 @@ TEST(Decoding, TakesUTF8IfItIsThatAndLatin1Otherwise) {
     EXPECT_EQ(decoded("\xC0\x80"), "\u00C0\u0080") << "an overlong zero is no UTF-8";
     EXPECT_EQ(decoded("\xED\xA0\x80"), "\u00ED\u00A0\u0080") << "nor is a surrogate";
     EXPECT_EQ(decoded("\xF4\x90\x80\x80"), "\u00F4\u0090\u0080\u0080") << "nor anything above U+10FFFF";
+    std::string buffer = "old";
+    EXPECT_EQ(decoded("\xF6 \xC3\xB6", buffer), "ö Ã¶");
     EXPECT_EQ(repaired("a\xFFz"), "a\uFFFDz");
     EXPECT_EQ(repaired("a\xE2\x82"), "a\uFFFD");
     EXPECT_EQ(withoutByteOrderMark("\xEF\xBB\xBFx"), "x");

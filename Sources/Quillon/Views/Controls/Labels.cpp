@@ -4,6 +4,7 @@
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Text.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -140,8 +141,7 @@ QString whyNotEditable(std::string_view value) {
     if (value.size() > longestEditableValue) {
         return tooLongMessage(value.size());
     }
-    const auto isASCII = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
-    if (std::ranges::all_of(value, isASCII)) {
+    if (tallyrig::text::isASCII(value)) {
         return {};
     }
     const auto characters = tallyrig::text::characters(value);
