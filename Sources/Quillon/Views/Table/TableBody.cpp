@@ -262,8 +262,8 @@ void TableBody::startEditing(CellPosition cell) {
     }
     const CellContent& content = current.content();
     const std::string_view value = store.cell(content.record, content.column);
-    if (value.size() > longestEditableValue) {
-        store.setErrorMessage(tooLongMessage(value.size()));
+    if (const QString obstacle = whyNotEditable(value); !obstacle.isEmpty()) {
+        store.setErrorMessage(obstacle);
         return;
     }
     if (!store.selection().contains(content.record)) {
