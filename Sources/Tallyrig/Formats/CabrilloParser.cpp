@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Formats/ColumnRecordBuilder.h"
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Log/BandNames.h"
 #include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Decoding.h"
@@ -27,35 +28,40 @@ struct BandRange {
 };
 
 /// The bands as contest logs use them; those of ADIF reach further in some places.
-constexpr std::array<BandRange, 17> bandRanges = {{{1800, 2000, "160M"},
-                                                   {3500, 4000, "80M"},
-                                                   {5250, 5450, "60M"},
-                                                   {7000, 7300, "40M"},
-                                                   {10100, 10150, "30M"},
-                                                   {14000, 14350, "20M"},
-                                                   {18068, 18168, "17M"},
-                                                   {21000, 21450, "15M"},
-                                                   {24890, 24990, "12M"},
-                                                   {28000, 29700, "10M"},
-                                                   {50000, 54000, "6M"},
-                                                   {70000, 71000, "4M"},
-                                                   {144000, 148000, "2M"},
-                                                   {222000, 225000, "1.25M"},
-                                                   {420000, 450000, "70CM"},
-                                                   {902000, 928000, "33CM"},
-                                                   {1240000, 1300000, "23CM"}}};
+constexpr std::array<BandRange, 17> bandRanges = {{{1800, 2000, band::m160},
+                                                   {3500, 4000, band::m80},
+                                                   {5250, 5450, band::m60},
+                                                   {7000, 7300, band::m40},
+                                                   {10100, 10150, band::m30},
+                                                   {14000, 14350, band::m20},
+                                                   {18068, 18168, band::m17},
+                                                   {21000, 21450, band::m15},
+                                                   {24890, 24990, band::m12},
+                                                   {28000, 29700, band::m10},
+                                                   {50000, 54000, band::m6},
+                                                   {70000, 71000, band::m4},
+                                                   {144000, 148000, band::m2},
+                                                   {222000, 225000, band::m1And25},
+                                                   {420000, 450000, band::cm70},
+                                                   {902000, 928000, band::cm33},
+                                                   {1240000, 1300000, band::cm23}}};
 
-constexpr std::array<std::pair<std::int64_t, std::string_view>, 6> mhzDesignators = {
-    {{50, "6M"}, {70, "4M"}, {144, "2M"}, {222, "1.25M"}, {432, "70CM"}, {902, "33CM"}}};
+constexpr std::array<std::pair<std::int64_t, std::string_view>, 6> mhzDesignators = {{{50, band::m6},
+                                                                                      {70, band::m4},
+                                                                                      {144, band::m2},
+                                                                                      {222, band::m1And25},
+                                                                                      {432, band::cm70},
+                                                                                      {902, band::cm33}}};
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 8> ghzDesignators = {{{"1.2G", "23CM"},
-                                                                                          {"2.3G", "13CM"},
-                                                                                          {"3.4G", "9CM"},
-                                                                                          {"5.7G", "6CM"},
-                                                                                          {"10G", "3CM"},
-                                                                                          {"24G", "1.25CM"},
-                                                                                          {"47G", "6MM"},
-                                                                                          {"76G", "4MM"}}};
+constexpr std::array<std::pair<std::string_view, std::string_view>, 8> ghzDesignators = {
+    {{"1.2G", band::cm23},
+     {"2.3G", band::cm13},
+     {"3.4G", band::cm9},
+     {"5.7G", band::cm6},
+     {"10G", band::cm3},
+     {"24G", band::cm1And25},
+     {"47G", band::mm6},
+     {"76G", band::mm4}}};
 
 /// "DG" and "FM" alike are taken for FT8.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 5> adifModes = {

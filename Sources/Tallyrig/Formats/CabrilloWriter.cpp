@@ -1,6 +1,7 @@
 #include "Tallyrig/Formats/CabrilloWriter.h"
 
 #include "Tallyrig/Formats/LogLines.h"
+#include "Tallyrig/Log/BandNames.h"
 #include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Lines.h"
@@ -22,20 +23,20 @@ namespace {
 
 /// What stands for a band where a QSO has no frequency, in kHz.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 14> bandFrequencies = {
-    {{"160M", "1800"},
-     {"80M", "3500"},
-     {"60M", "5351"},
-     {"40M", "7000"},
-     {"30M", "10100"},
-     {"20M", "14000"},
-     {"17M", "18068"},
-     {"15M", "21000"},
-     {"12M", "24890"},
-     {"10M", "28000"},
-     {"6M", "50000"},
-     {"2M", "144000"},
-     {"1.25M", "222000"},
-     {"70CM", "432000"}}};
+    {{band::m160, "1800"},
+     {band::m80, "3500"},
+     {band::m60, "5351"},
+     {band::m40, "7000"},
+     {band::m30, "10100"},
+     {band::m20, "14000"},
+     {band::m17, "18068"},
+     {band::m15, "21000"},
+     {band::m12, "24890"},
+     {band::m10, "28000"},
+     {band::m6, "50000"},
+     {band::m2, "144000"},
+     {band::m1And25, "222000"},
+     {band::cm70, "432000"}}};
 
 constexpr std::string_view missingExchange = "—";
 constexpr std::size_t callWidth = 13;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Tallyrig/Log/BandNames.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -16,20 +17,20 @@ struct EDIBand {
 
 /// From the longest wave to the shortest. The decimal comma is part of the format.
 inline constexpr std::array<EDIBand, 14> ediBands = {{
-    {"6M", "50 MHz"},
-    {"4M", "70 MHz"},
-    {"2M", "144 MHz"},
-    {"1.25M", "220 MHz"},
-    {"70CM", "432 MHz"},
-    {"33CM", "920 MHz"},
-    {"23CM", "1,3 GHz"},
-    {"13CM", "2,3 GHz"},
-    {"9CM", "3,4 GHz"},
-    {"6CM", "5,7 GHz"},
-    {"3CM", "10 GHz"},
-    {"1.25CM", "24 GHz"},
-    {"6MM", "47 GHz"},
-    {"4MM", "76 GHz"},
+    {band::m6, "50 MHz"},
+    {band::m4, "70 MHz"},
+    {band::m2, "144 MHz"},
+    {band::m1And25, "220 MHz"},
+    {band::cm70, "432 MHz"},
+    {band::cm33, "920 MHz"},
+    {band::cm23, "1,3 GHz"},
+    {band::cm13, "2,3 GHz"},
+    {band::cm9, "3,4 GHz"},
+    {band::cm6, "5,7 GHz"},
+    {band::cm3, "10 GHz"},
+    {band::cm1And25, "24 GHz"},
+    {band::mm6, "47 GHz"},
+    {band::mm4, "76 GHz"},
 }};
 
 /// The EDI name of an ADIF band in any case; a band that EDI does not know as it is.
