@@ -84,14 +84,8 @@ bool InlineEditor::event(QEvent* event) {
         case Qt::Key_Backtab:
             event->accept();
             break;
-        case Qt::Key_Control:
-        case Qt::Key_Shift:
-        case Qt::Key_Alt:
-        case Qt::Key_AltGr:
-        case Qt::Key_Meta:
-            break;
         default:
-            emit draftWanted(text());
+            break;
     }
     return handled;
 }

@@ -43,8 +43,6 @@ class InlineEditor : public QLineEdit {
   signals:
     /// The field is closed; `draft` is what stood in it.
     void committed(const QString& draft, Leave leave);
-    /// The field stays open, but a shortcut such as the one for saving may be about to use what stands in it.
-    void draftWanted(const QString& draft);
 
   protected:
     bool event(QEvent* event) override;

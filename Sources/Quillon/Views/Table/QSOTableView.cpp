@@ -95,7 +95,7 @@ void QSOTableView::addRecord() {
 void QSOTableView::deleteSelected() {
     const std::size_t hidden = store.hiddenSelectionCount();
     if (hidden == 0 || questions.confirmDeletion(store.selection().size(), hidden)) {
-        store.deleteSelected();
+        rows->deleteSelected();
     }
 }
 

@@ -78,13 +78,14 @@ void RowRuler::paintEvent(QPaintEvent*) {
 
 void RowRuler::mousePressEvent(QMouseEvent* event) {
     const auto row = geometry.rowAt(event->position().y() - top() + scroll.scrollY());
-    if (row && event->position().y() >= top()) {
+    isDragging = row && event->position().y() >= top();
+    if (isDragging) {
         body.pressRow(*row, event->button(), event->modifiers());
     }
 }
 
 void RowRuler::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons() != Qt::LeftButton || geometry.rowCount() == 0) {
+    if (!isDragging || event->buttons() != Qt::LeftButton || geometry.rowCount() == 0) {
         return;
     }
     const double y =

@@ -40,6 +40,7 @@ class RowRuler : public QWidget {
     const TableHeader& header;
     TableBody& body;
     TableGeometry geometry;
+    bool isDragging = false;  ///< The button that is held down was pressed on a number.
 };
 
 }  // namespace quillon

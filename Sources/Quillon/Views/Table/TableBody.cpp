@@ -48,7 +48,6 @@ TableBody::TableBody(LogStore& logStore, TableScroll& tableScroll)
     setAccessibleName(QStringLiteral("QSO-Tabelle"));
     emptyOverlay->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(cellEditor, &InlineEditor::committed, this, &TableBody::finishEditing);
-    connect(cellEditor, &InlineEditor::draftWanted, this, &TableBody::writeCurrent);
     connect(&store, &LogStore::selectionChanged, this, &TableBody::followSelection);
     connect(&store, &LogStore::documentChanged, this, qOverload<>(&QWidget::update));
     connect(&store, &LogStore::checkResultsChanged, this, qOverload<>(&QWidget::update));
@@ -179,6 +178,28 @@ void TableBody::reveal(tallyrig::UUID id, std::string_view column) {
         bringIntoView(*cell);
     } else if (cell) {
         showRecord(id, column);
+    }
+}
+
+void TableBody::deleteSelected() {
+    const auto goes = [this](std::size_t row) {
+        return store.selection().contains(store.displayedRecord(row).id());
+    };
+    const bool moves = current.position() && goes(current.position()->row);
+    if (moves) {
+        CellPosition cell = *current.position();
+        while (cell.row + 1 < geometry.rowCount() && goes(cell.row)) {
+            ++cell.row;
+        }
+        while (cell.row > 0 && goes(cell.row)) {
+            --cell.row;
+        }
+        current.set(cell);
+    }
+    store.deleteSelected();
+    if (moves && current.position()) {
+        bringIntoView(*current.position());
+        noteCurrentCell();
     }
 }
 

@@ -57,6 +57,9 @@ class TableBody : public QWidget, public AccessibleTable {
     void pressRow(std::size_t row, Qt::MouseButton button, Qt::KeyboardModifiers keys);
     /// Selects from the row that was pressed to this one.
     void dragToRow(std::size_t row);
+    /// Deletes the selected QSOs. A frame on one of them goes to the next that stays, or else to the last
+    /// before.
+    void deleteSelected();
     /// Takes the focus from the keyboard. If no displayed QSO is selected, the first in view becomes so: what
     /// the next key does, it does to what the user sees.
     void enter();

@@ -1,6 +1,7 @@
 #include "Quillon/Views/Window/PaneKeys.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QShortcut>
 
 #include <utility>
@@ -35,6 +36,7 @@ PaneKeys::PaneKeys(QWidget& window, std::function<QWidgetList()> panesOfWindow)
     : panes(std::move(panesOfWindow)) {
     new QShortcut(Qt::Key_F6, &window, this, [this] { go(1); });
     new QShortcut(Qt::SHIFT | Qt::Key_F6, &window, this, [this] { go(-1); });
+    new QShortcut(Qt::SHIFT | Qt::Key_F10, &window, this, &PaneKeys::openMenu);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { remember(now); });
 }
 
@@ -64,6 +66,14 @@ void PaneKeys::go(int step) {
             stop->setFocus(Qt::ShortcutFocusReason);
             return;
         }
+    }
+}
+
+void PaneKeys::openMenu() const {
+    if (QWidget* const widget = QApplication::focusWidget()) {
+        const QPoint place = widget->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, widget->mapToGlobal(place));
+        QApplication::sendEvent(widget, &event);
     }
 }
 

@@ -10,7 +10,8 @@
 namespace quillon {
 
 /// F6 takes the keyboard from one pane of a window to the next, with shift to the one before: to the widget
-/// where it was last, or else to the first that takes it.
+/// where it was last, or else to the first that takes it. Shift+F10 opens the menu of what has the keyboard,
+/// for which Qt knows the menu key alone where windows come from X11.
 class PaneKeys : public QObject {
     Q_OBJECT
 
@@ -22,6 +23,7 @@ class PaneKeys : public QObject {
   private:
     void remember(QWidget* focus);
     void go(int step);
+    void openMenu() const;
 
     std::function<QWidgetList()> panes;
     QHash<QWidget*, QPointer<QWidget>> last;  ///< Where the keyboard was in each pane.

@@ -141,14 +141,22 @@ TEST_F(CellEditor, FollowsItsCellAndGoesWithItsRecord) {
     EXPECT_EQ(cell(2, "BAND"), "20m") << "not the user left the cell, the cell went";
 }
 
-TEST_F(CellEditor, HandsItsTextToAShortcutWithoutClosing) {
-    showLog({"CALL=DL1A"});
-    doubleClick(0, 0);
-    typeText("DK5X");
-    QKeyEvent save(QEvent::ShortcutOverride, Qt::Key_S, Qt::ControlModifier);
-    QApplication::sendEvent(QApplication::focusWidget(), &save);
-    EXPECT_EQ(cell(0, "CALL"), "DK5X");
-    EXPECT_EQ(editorText(), "DK5X");
+TEST_F(CellEditor, WritesNothingWhileItIsOpen) {
+    showLog({"CALL=DL1A BAND=40m", "CALL=DL2A BAND=40m", "CALL=DL3A BAND=40m"});
+    store.setSearchText(QStringLiteral("40m"));
+    store.selectAllDisplayed();
+    doubleClick(0, 1);
+    typeText("2");
+    for (const Qt::Key other : {Qt::Key_NumLock, Qt::Key_VolumeUp}) {
+        QKeyEvent override(QEvent::ShortcutOverride, other, {});
+        QApplication::sendEvent(QApplication::focusWidget(), &override);
+        key(other);
+    }
+    typeText("0m");
+    EXPECT_EQ(editorText(), "20m") << "half a value would have hidden the record, and hit the next one";
+    key(Qt::Key_Down);
+    EXPECT_EQ(cell(0, "BAND"), "20m");
+    EXPECT_EQ(selected(), "DL2A");
 }
 
 TEST_F(CellEditor, GoesQuietlyWithItsWindow) {
@@ -284,6 +292,8 @@ TEST_F(TableRows, AreSelectedByDraggingAlongTheirNumbers) {
     EXPECT_EQ(selected(), "DL2A DL3A DL4A");
     QTest::mouseClick(ruler, Qt::LeftButton, Qt::ControlModifier, place(2));
     EXPECT_EQ(selected(), "DL2A DL4A");
+    drag(*ruler, {5, 5}, place(4));
+    EXPECT_EQ(selected(), "DL2A DL4A") << "what began beside the numbers is about no row";
 }
 
 TEST_F(TableRows, AreHighEnoughForALargeFont) {

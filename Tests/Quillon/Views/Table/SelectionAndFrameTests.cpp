@@ -134,5 +134,21 @@ TEST_F(SelectionAndFrame, AskBeforeHiddenRecordsAreDeleted) {
     EXPECT_EQ(shown(), "DL5A");
 }
 
+TEST_F(SelectionAndFrame, GoOnBehindWhatWasDeleted) {
+    showLog(manyRecords(100));
+    click(1, 1);
+    body.setCurrentCell({80, 1});
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    view.deleteSelected();
+    EXPECT_EQ(framed(), "1/1");
+    EXPECT_EQ(cell(1, "CALL"), "DL83A");
+    EXPECT_TRUE(body.rect().contains(at(1, 1)));
+    store.selectAllDisplayed();
+    click(0, 1, Qt::ControlModifier);
+    body.setCurrentCell({18, 1});
+    view.deleteSelected();
+    EXPECT_EQ(framed(), "0/1");
+}
+
 }  // namespace
 }  // namespace quillon

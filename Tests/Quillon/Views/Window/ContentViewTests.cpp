@@ -19,6 +19,7 @@
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -250,6 +251,16 @@ TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
     window->findChild<QSOTableView*>()->setFocus();
     EXPECT_EQ(walk(Qt::Key_F6, 3), "Ergebnisleiste schließen\nFeld entfernen: Name\nSuchen\n")
         << "in each pane to where the keyboard was last";
+}
+
+TEST_F(Window, OpensTheMenuOfWhatHasTheKeyboardWithoutAMenuKey) {
+    openLog({"CALL=DL1ABC"});
+    show();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->parentWidget(), QApplication::focusWidget());
+    menu->close();
 }
 
 TEST_F(Window, HearsTheKeysOfTheLogFromTheDetailPane) {
