@@ -31,8 +31,8 @@ class Output {
 void complain(std::string_view message);
 
 /// Lets a closed output and a file that may not grow further show themselves as failed writes rather than end
-/// the program, and keeps files that are
-/// opened later from taking the place of a standard stream that was closed at the start.
+/// the program, and keeps files that are opened later from taking the place of a standard stream that was
+/// closed at the start.
 void prepareStandardStreams();
 
 /// All of standard input. Throws a `Failure` if it cannot be read, or has been read before.

@@ -32,15 +32,20 @@ class CabrilloParser {
                                             std::string_view contest, std::string_view operators,
                                             std::string_view grid);
 
-    /// The band that holds this frequency, edges included.
+    /// The band that holds this frequency, edges included; absent between the bands and above 1300 MHz, where
+    /// logs name the band.
     static std::optional<std::string_view> bandForFrequency(std::int64_t kHz);
 
-    /// A frequency in kHz, or the designator of a band: whole MHz below 1000, or GHz with a "G" behind.
+    /// A frequency in kHz, or the designator of a band: whole MHz below 1000, or GHz with a "G" behind, which
+    /// gives no frequency. Blanks around it do not count. A number in no band has a frequency alone; what is
+    /// none of these gives neither.
     static FrequencyAndBand frequencyAndBand(std::string_view column);
 
     /// `mhz` with six decimals at most and no zeros behind.
     static std::string trimFreq(double mhz);
 
+    /// The ADIF mode of a mode code in any case, FT8 for all digital ones and for FM; anything else in upper
+    /// case.
     static std::string adifMode(std::string_view column);
     /// Eight digits where the column has eight, whatever stands between them; otherwise the column.
     static std::string adifDate(std::string_view column);

@@ -26,6 +26,7 @@ struct CabrilloWriter {
     /// where neither helps and for a number beyond all frequencies.
     static std::string cabrilloFrequency(std::optional<std::string_view> freq,
                                          std::optional<std::string_view> band);
+    /// The mode in two letters, of any case: CW, PH, RY, and DG for all others and for none.
     static std::string cabrilloMode(std::optional<std::string_view> mode);
     /// Eight characters with hyphens behind the fourth and the sixth; anything else as it stands.
     static std::string cabrilloDate(std::optional<std::string_view> date);

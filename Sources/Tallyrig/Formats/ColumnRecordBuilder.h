@@ -15,6 +15,7 @@ class ColumnRecordBuilder : public ADIFRecordBuilder {
             addField(tag, column);
         }
     }
+    /// The column in upper case.
     void addUpper(FieldTags::Number tag, std::string_view column);
     /// As `timeOfColumn` has it.
     void addTime(FieldTags::Number tag, std::string_view column);

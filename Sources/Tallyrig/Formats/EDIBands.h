@@ -33,7 +33,8 @@ inline constexpr std::array<EDIBand, 14> ediBands = {{
     {band::mm4, "76 GHz"},
 }};
 
-/// The EDI name of an ADIF band in any case; a band that EDI does not know as it is.
+/// The EDI name of an ADIF band in any case; a band that EDI does not know as it is. Refers to `adifBand`
+/// then, otherwise to what lasts for ever.
 inline std::string_view ediBandName(std::string_view adifBand) {
     const auto* const known = std::ranges::find(ediBands, text::upper(adifBand), &EDIBand::adif);
     return known == ediBands.end() ? adifBand : known->edi;

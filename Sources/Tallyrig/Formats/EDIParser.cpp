@@ -102,19 +102,12 @@ class QSOReading {
         std::size_t count = 0;
         for (bool isLast = false; !isLast && count < columns.size();) {
             const std::size_t end = std::min(line.find(';'), line.size());
-            columns[count++] = trimmed(line.substr(0, end));
+            columns[count++] = text::trimmedOfBlanks(line.substr(0, end));
             isLast = end == line.size();
             line.remove_prefix(isLast ? end : end + 1);
         }
         std::fill(columns.begin() + static_cast<std::ptrdiff_t>(count), columns.end(), std::string_view());
         return count >= fewest;
-    }
-
-    static std::string_view trimmed(std::string_view column) {
-        const auto isPlain = [](char c) { return c > ' ' && c < 0x7F; };
-        return column.empty() || (isPlain(column.front()) && isPlain(column.back()))
-                   ? column
-                   : text::trimmedOfBlanks(column);
     }
 
     void addDate(std::string_view date) {

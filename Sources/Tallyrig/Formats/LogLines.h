@@ -10,7 +10,7 @@
 /// What the readers and writers of the line-by-line contest formats, Cabrillo and EDI, have in common.
 namespace tallyrig {
 
-/// The digits of a time column, with the seconds "00" behind four.
+/// The numeric characters of a time column, with the seconds "00" behind four.
 std::string timeOfColumn(std::string_view column);
 
 /// The records by the text of `QSO_DATE` and `TIME_ON` together, an absent field counting as empty. Those of

@@ -32,7 +32,8 @@ class ADIFDocument {
     const ADIFRecordList& records() const { return recordList; }
     ADIFRecordList& records() { return recordList; }
 
-    /// The distinct names in the records, in order of first appearance. Cost: one pass over all fields.
+    /// The distinct names in the records as they are stored, in order of first appearance. Empty for a log
+    /// without fields. Cost: one pass over all fields.
     std::vector<std::string> fieldNames() const;
 
     /// `ADIFRecord::renameField` on each record.

@@ -12,7 +12,8 @@
 
 namespace tallyrig {
 
-/// The fields of a record in their order, as views made when asked for.
+/// The fields of a record in their order, as views made when asked for. Refers to the record, as its views
+/// do: good as long as that record, or any copy of it, lives and is not changed.
 class ADIFFields {
   public:
     class Iterator {
@@ -72,6 +73,7 @@ class ADIFRecord {
     const RecordStorage& stored() const { return *storage.get(); }
 
     /// The value of the first field of this name; absent if there is none, empty if it is there and empty.
+    /// Good as long as `fields()` is.
     std::optional<std::string_view> operator[](std::string_view name) const;
     /// The same, an absent field counting as empty.
     std::string_view valueOrEmpty(std::string_view name) const {
@@ -93,6 +95,7 @@ class ADIFRecord {
 
     /// The field at `index`, below the number of fields, takes this value, empty or not.
     void setValue(std::size_t index, std::string_view value);
+    /// Adds a copy of `field`, with its id, behind all others.
     void appendField(const ADIFField& field);
     /// Removes the field at `index`, below the number of fields.
     void removeFieldAt(std::size_t index);

@@ -15,9 +15,10 @@ namespace tallyrig {
 /// The ordered records of a log.
 ///
 /// A value that copies in constant time; a copy may be read on one thread while another is changed on a
-/// second. The records lie in leaves of at most 128, the leaves under branches
-/// of at most 128: a copy in which one record is changed, added or removed costs a leaf, a branch and the
-/// short list of branches, not the log.
+/// second. The records lie in leaves of at most 128, the leaves under branches of at most 128: a copy in
+/// which one record is changed, added or removed costs a leaf, a branch and the short list of branches, not
+/// the log. Iterators and references to records are good until the list that gave them is changed, assigned
+/// to or gone.
 class ADIFRecordList {
     struct Leaf;
     struct Branch;
@@ -80,7 +81,7 @@ class ADIFRecordList {
     void append(ADIFRecord record);
     /// The record at `index`, below `size()`, becomes `record`.
     void replace(std::size_t index, ADIFRecord record);
-    /// Changes the record at `index`, below `size()`.
+    /// Changes the record at `index`, below `size()`; `change` leaves the list itself alone.
     void modify(std::size_t index, const std::function<void(ADIFRecord&)>& change);
     /// Removes the records for which `isRemoved` holds and returns their number. It is asked once for each,
     /// in order.

@@ -17,7 +17,8 @@ namespace tallyrig {
 /// Changes records by laying down new ones. One editor serves a whole column of them: the changed records
 /// then share the names that were added, as those did that were read together.
 ///
-/// Each operation gives the changed record, or nothing where the record stays as it is.
+/// Each operation gives the changed record, with the id of the one given, or nothing where that stays as it
+/// is. An `index` is below the number of the record's fields.
 class RecordEditor {
   public:
     ADIFRecord setValue(const ADIFRecord& record, const FieldName& name, std::string_view value);

@@ -7,6 +7,7 @@
 
 namespace tallyrig::text {
 
+/// How two members are compared: as their type has it, texts by canonical equivalence.
 template <typename Value>
 bool areEqualMembers(const Value& left, const Value& right) {
     return left == right;

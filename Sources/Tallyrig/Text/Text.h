@@ -65,7 +65,8 @@ std::string canonicalKey(std::string_view text);
 /// Text order: by the code points of the canonical composed forms. Gives `equal` exactly where `equal` does.
 std::strong_ordering compare(std::string_view left, std::string_view right);
 
-/// Whether `part` stands anywhere in `text`, code point by code point; the empty part always does.
+/// Whether `part` stands anywhere in `text`, code point by code point, so that another spelling of it is not
+/// found; the empty part always does.
 inline bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }

@@ -26,7 +26,7 @@ class TextMap {
         }
     }
 
-    /// Null if `key`, as it stands, is not in the map. Cost: a binary search.
+    /// Null if `key`, as it stands, is not in the map; good as long as the map is. Cost: a binary search.
     const Value* find(std::string_view key) const {
         if (!text::isASCII(key)) {
             return findCanonical(text::canonicalKey(key));

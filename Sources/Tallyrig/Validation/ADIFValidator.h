@@ -13,8 +13,8 @@ namespace tallyrig {
 /// Checks logs against the tables of ADIF 3.1.7 and a few rules of its own. A plain value: it holds what is
 /// to be checked and nothing of what was.
 struct ADIFValidator {
-    std::vector<std::string> requiredFields;
-    std::vector<std::string> duplicateKeyFields;
+    std::vector<std::string> requiredFields;      ///< In upper case, as `duplicateKeyFields`.
+    std::vector<std::string> duplicateKeyFields;  ///< Where empty, all records are duplicates.
     bool checksRequiredFields;
     bool checksFormats;
     bool checksDuplicates;
@@ -39,9 +39,10 @@ struct ADIFValidator {
     /// fields is in no group. `checksDuplicates` is not asked.
     std::vector<std::vector<std::size_t>> duplicateGroups(const ADIFDocument& document) const;
 
-    /// A day of the Gregorian calendar as YYYYMMDD, from 1930 to 2100.
+    /// A day of the Gregorian calendar as YYYYMMDD in ASCII digits, from the year 1930 to 2100. Here and
+    /// below nothing may stand around the text, and empty text is not valid.
     static bool isValidDate(std::string_view text);
-    /// HHMM or HHMMSS.
+    /// HHMM or HHMMSS in ASCII digits, up to 2359 or 235959.
     static bool isValidTime(std::string_view text);
     /// A Maidenhead locator of 2, 4, 6 or 8 characters, in any case.
     static bool isValidGridsquare(std::string_view text);

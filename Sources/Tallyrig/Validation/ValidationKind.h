@@ -16,6 +16,7 @@
 
 namespace tallyrig {
 
+/// Whether a finding makes a record unfit for use or is worth a look.
 enum class ValidationSeverity { error, warning };
 
 /// The kinds of finding, each with what a message about it needs. Fields are named as the record names them;
