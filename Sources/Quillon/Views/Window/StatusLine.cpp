@@ -57,9 +57,10 @@ StatusLine::StatusLine(const LogStore& logStore, QWidget* parent)
     layout->addWidget(records);
     layout->addWidget(filtered);
     layout->addWidget(selected);
-    layout->addWidget(notice, 1);
+    // Notice and path have what they ask for as long as there is room: of a share they would not.
+    layout->addWidget(notice);
     layout->addStretch(1);
-    layout->addWidget(path, 1000);
+    layout->addWidget(path);
 
     connect(&store, &LogStore::documentChanged, this, &StatusLine::refresh);
     connect(&store, &LogStore::displayedRecordsChanged, this, &StatusLine::refresh);

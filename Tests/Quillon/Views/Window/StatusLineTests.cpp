@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
+#include <QLayout>
+
 namespace quillon {
 namespace {
 
@@ -35,8 +38,14 @@ TEST_F(StatusLineOfALog, CountsWhatIsThereFilteredAndSelected) {
 
 TEST_F(StatusLineOfALog, TellsWhatWasDoneUntilSomethingChanges) {
     openLog({"CALL=DL1ABC"});
-    line.showNotice(QStringLiteral("done"));
-    EXPECT_EQ(texts(), "1 QSO\ndone");
+    line.resize(3000, 30);
+    line.show();
+    line.showNotice(QStringLiteral("1.234 QSOs nach „log.edi“ exportiert"));
+    line.layout()->activate();
+    for (const QLabel* label : line.findChildren<QLabel*>()) {
+        EXPECT_TRUE(label->isHidden() || label->width() >= label->sizeHint().width()) << "of a wide line";
+    }
+    EXPECT_EQ(texts(), "1 QSO\n1.234 QSOs nach „log.edi“ exportiert");
     type(0, "CALL", "DL2ABC");
     EXPECT_EQ(texts(), "1 QSO");
 }
