@@ -103,7 +103,9 @@ QWidget* CheckResultsView::makeHead() {
         layout->addWidget(count);
     }
     connect(filterField, &QLineEdit::textChanged, this, &CheckResultsView::applyFilter);
-    connect(filterField, &QLineEdit::returnPressed, this, [this] { list->setFocus(); });
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
+        new QShortcut(key, filterField, this, &CheckResultsView::enterFindings, Qt::WidgetShortcut);
+    }
     new QShortcut(Qt::Key_Escape, filterField, filterField, &QLineEdit::clear, Qt::WidgetShortcut);
     layout->addWidget(noProblems);
     layout->addStretch(1);
@@ -167,6 +169,15 @@ void CheckResultsView::showBody() {
 void CheckResultsView::applyFilter() {
     model->setFilter({errors->isChecked(), warnings->isChecked(), filterField->text()});
     showBody();
+}
+
+void CheckResultsView::enterFindings() {
+    // The list would make the first finding its current one without choosing it, and the next key pass over
+    // it.
+    if (model->rowCount() > 0 && !list->selectionModel()->hasSelection()) {
+        list->setCurrentIndex(model->index(0, 0));
+    }
+    list->setFocus();
 }
 
 void CheckResultsView::choose(const QModelIndex& finding) {

@@ -42,6 +42,7 @@ class CheckResultsView : public QWidget {
     void refresh();
     void showBody();
     void applyFilter();
+    void enterFindings();
     void choose(const QModelIndex& finding);
 
     LogStore& store;

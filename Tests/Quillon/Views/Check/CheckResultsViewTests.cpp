@@ -97,6 +97,10 @@ TEST_F(CheckResults, AreFilteredBySeverityAndText) {
     button("2 Fehler").click();
     view.findChild<QLineEdit*>()->setText(QStringLiteral("UNGÜLTIGE Z"));
     EXPECT_EQ(findings(), "Zeile 1: Ungültige Zeit (Zeit (Anfang)): 9999\n");
+    QApplication::setActiveWindow(&view);
+    view.findChild<QLineEdit*>()->setFocus();
+    QTest::keyClick(view.findChild<QLineEdit*>(), Qt::Key_Down);
+    EXPECT_EQ(selected(), "DL1ABC") << "of the first finding that passes";
     view.findChild<QLineEdit*>()->setText(QStringLiteral("x"));
     EXPECT_EQ(testing::shownTexts(view), "Keine passenden Befunde\nKein Befund passt zum Filter.");
 }
