@@ -2,6 +2,7 @@
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Platform/FileNames.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,6 +13,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStringList>
+
+#include <string>
 
 namespace quillon {
 
@@ -92,9 +95,10 @@ void setUp(QFileDialog& dialog, const QList<FileType>& types) {
 }
 
 bool mayReplace(const QString& path) {
+    const std::string name = tallyrig::text::visibleText(QFileInfo(path).fileName().toStdString());
     QMessageBox question(QMessageBox::Warning, QStringLiteral("Speichern unter"),
                          QStringLiteral("„%1“ ist schon vorhanden.\nSoll die Datei ersetzt werden?")
-                             .arg(QFileInfo(path).fileName()),
+                             .arg(QString::fromStdString(name)),
                          QMessageBox::NoButton, QApplication::activeWindow());
     question.setTextFormat(Qt::PlainText);
     const QPushButton* const replace =

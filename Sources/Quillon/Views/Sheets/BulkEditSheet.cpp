@@ -6,6 +6,7 @@
 #include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -16,6 +17,8 @@
 #include <utility>
 
 namespace quillon {
+
+using tallyrig::text::visibleText;
 
 namespace {
 
@@ -70,9 +73,9 @@ BulkEditSheet::BulkEditSheet(LogStore& logStore, std::string column, QWidget* pa
       store(logStore),
       columnName(std::move(column)) {
     auto* columnLine = new ElidedLabel(Qt::ElideRight, this);
-    columnLine->setText(QStringLiteral("Spalte: ") +
-                        toQString(cutToShow(ADIFFieldCatalog::label(columnName))) + QStringLiteral("  (") +
-                        toQString(cutToShow(columnName)) + QLatin1Char(')'));
+    columnLine->setText(
+        QStringLiteral("Spalte: ") + toQString(visibleText(cutToShow(ADIFFieldCatalog::label(columnName)))) +
+        QStringLiteral("  (") + toQString(visibleText(cutToShow(columnName))) + QLatin1Char(')'));
     columnLine->setForegroundRole(QPalette::PlaceholderText);
     // The name may be as long as the log likes.
     columnLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

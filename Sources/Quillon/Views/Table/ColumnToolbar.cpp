@@ -55,7 +55,7 @@ QMenu& ColumnToolbar::addMenu() {
 }
 
 void ColumnToolbar::refresh() {
-    count->setText(QString::number(store.columns().size()) + QStringLiteral(" Spalten"));
+    count->setText(numberText(store.columns().size()) + QStringLiteral(" Spalten"));
     clearSort->setVisible(store.sortColumn().has_value());
 }
 

@@ -25,6 +25,7 @@
 #include "Quillon/Views/Window/NoHits.h"
 #include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/StatusLine.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QAction>
 #include <QApplication>
@@ -42,6 +43,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <string>
 #include <utility>
 
 namespace quillon {
@@ -343,8 +345,9 @@ void ContentView::closeSheet(QPointer<QDialog>& place) {
 }
 
 void ContentView::showTitle() {
+    const std::string title = tallyrig::text::visibleText(logStore.windowTitle().toStdString());
     // Qt takes "[*]" for the place of a mark; a file may be called so.
-    setWindowTitle(logStore.windowTitle().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    setWindowTitle(toQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 void ContentView::changeEvent(QEvent* event) {

@@ -76,9 +76,9 @@ TEST_F(Window, OpensTheLogOfTheArgumentsOnce) {
 
 TEST_F(Window, HasTheTitleOfTheStore) {
     show();
-    store.open(folder.write(QStringLiteral("mai[*].adi"), testing::adi({"CALL=DL1ABC"})));
+    store.open(folder.write(QStringLiteral("mai\u202E[*].adi"), testing::adi({"CALL=DL1ABC"})));
     store.addRecord();
-    EXPECT_EQ(window->windowTitle(), QStringLiteral("mai[*][*].adi — bearbeitet"));
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("mai⟨RLO⟩[*][*].adi — bearbeitet"));
 }
 
 TEST_F(Window, KeepsItsPanesInTheirWidths) {
