@@ -62,6 +62,11 @@ void TableBody::mousePressEvent(QMouseEvent* event) {
     cellEditor->commit();
     setFocus(Qt::MouseFocusReason);
     if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+        if (!current.isFramed()) {
+            // Without a selection it would be framed, on a QSO that nobody chose.
+            current.clear();
+            noteCurrentCell();
+        }
         store.setSelection({}, std::nullopt);
     }
 }
