@@ -1,8 +1,12 @@
 #include "Tallyrig/Text/VisibleText.h"
 
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 namespace tallyrig::text {
@@ -65,6 +69,48 @@ std::size_t appendSign(std::string& shown, std::string_view text) {
     return sign->first.size();
 }
 
+/// Whether the character is written from right to left, as the letters of Hebrew and Arabic are.
+bool isRightToLeft(UChar32 character) {
+    const UCharDirection direction = u_charDirection(character);
+    return direction == U_RIGHT_TO_LEFT || direction == U_RIGHT_TO_LEFT_ARABIC;
+}
+
+/// Words that are written from right to left stand by themselves and leave the order of what is around them.
+std::string withIsolatedWords(const std::string& text) {
+    constexpr char leastLeadByte = '\xD6';  // Of the first letter that is written so, U+05BE.
+    if (std::ranges::none_of(text, [](char byte) {
+            return static_cast<unsigned char>(byte) >= static_cast<unsigned char>(leastLeadByte);
+        })) {
+        return text;
+    }
+    std::string isolated;
+    std::size_t copied = 0;
+    std::size_t wordsEnd = 0;  ///< Behind the last such letter of the words begun; 0 outside of any.
+    const auto endWords = [&] {
+        if (wordsEnd > 0) {
+            isolated.append(text, copied, wordsEnd - copied) += "\u2069";
+            copied = std::exchange(wordsEnd, 0);
+        }
+    };
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t start = position;
+        UChar32 character = 0;
+        U8_NEXT(bytes, position, text.size(), character);
+        if (character >= 0 && isRightToLeft(character)) {
+            if (wordsEnd == 0) {
+                isolated.append(text, copied, start - copied) += "\u2068";
+                copied = start;
+            }
+            wordsEnd = position;
+        } else if (character >= 0 && u_charDirection(character) == U_LEFT_TO_RIGHT) {
+            endWords();
+        }
+    }
+    endWords();
+    return isolated.append(text, copied);
+}
+
 }  // namespace
 
 std::string visibleText(std::string_view text) {
@@ -83,7 +129,7 @@ std::string visibleText(std::string_view text) {
         }
         text.remove_prefix(length);
     }
-    return shown;
+    return withIsolatedWords(shown);
 }
 
 }  // namespace tallyrig::text

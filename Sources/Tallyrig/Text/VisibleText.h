@@ -11,7 +11,8 @@ namespace tallyrig::text {
 ///
 /// A line break (LF, CR LF, U+2028, U+2029) becomes "⏎", the other control characters of ASCII the pictures
 /// of them ("␛"), those above it U+FFFD, and the characters that direct the reading order their names
-/// ("⟨RLO⟩"). Everything else stays as it is. `text` is well-formed UTF-8.
+/// ("⟨RLO⟩"). Words that are written from right to left are put between U+2068 and U+2069, so that they turn
+/// round nothing beside them. Everything else stays as it is. `text` is well-formed UTF-8.
 std::string visibleText(std::string_view text);
 
 }  // namespace tallyrig::text

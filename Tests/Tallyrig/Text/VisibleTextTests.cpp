@@ -8,7 +8,7 @@
 namespace tallyrig::text {
 namespace {
 
-TEST(VisibleText, HasASignForWhatActsUnseen) {
+TEST(VisibleText, HasASignForWhatActsUnseenAndIsolatesWhatRunsToTheLeft) {
     const std::tuple<std::string, std::string> cases[] = {
         {"DL1ABC Jörg €", "DL1ABC Jörg €"},
         {std::string("a\0\x1B[2J\x7F\t", 8), "a␀␛[2J␡␉"},
@@ -17,7 +17,8 @@ TEST(VisibleText, HasASignForWhatActsUnseen) {
         {"\u202Egpj.exe\u202C", "⟨RLO⟩gpj.exe⟨PDF⟩"},
         {"\u2066\u2067\u2068\u2069\u200E\u200F\u061C\u202A\u202B\u202D",
          "⟨LRI⟩⟨RLI⟩⟨FSI⟩⟨PDI⟩⟨LRM⟩⟨RLM⟩⟨ALM⟩⟨LRE⟩⟨RLE⟩⟨LRO⟩"},
-        {"שלום \u0627\u200B👍🏽", "שלום \u0627\u200B👍🏽"},
+        {"שלום \u0627\u200B👍🏽", "\u2068שלום \u0627\u2069\u200B👍🏽"},
+        {"Band: שלום, עולם 20m אב", "Band: \u2068שלום, עולם\u2069 20m \u2068אב\u2069"},
         {"cut off\xE2\x80", "cut off\xE2\x80"}};
     for (const auto& [text, shown] : cases) {
         EXPECT_EQ(visibleText(text), shown);
