@@ -78,8 +78,15 @@ void QSOTableView::redo() {
 
 void QSOTableView::showLastStep() {
     const RecordChanges changes = store.changesOfLastStep();
-    if (!changes.records.empty()) {
-        rows->reveal(changes.records.front(), changes.fieldName);
+    if (changes.records.empty()) {
+        return;
+    }
+    if (const auto row = store.firstDisplayedRow(changes.records)) {
+        rows->reveal(store.displayedRecord(*row).id(), changes.fieldName);
+    } else {
+        emit noticed(changes.records.size() == 1
+                         ? QStringLiteral("Geändert wurde ein QSO, das die Suche verbirgt.")
+                         : QStringLiteral("Geändert wurden QSOs, die die Suche verbirgt."));
     }
 }
 
@@ -108,6 +115,7 @@ void QSOTableView::copySelection() const {
 void QSOTableView::pasteRecords() {
     const std::size_t count = store.pasteRecords(QGuiApplication::clipboard()->text().toStdString());
     if (count == 0) {
+        emit noticed(QStringLiteral("In der Zwischenablage steht kein QSO als ADIF-Text."));
         return;
     }
     store.setSearchText({});

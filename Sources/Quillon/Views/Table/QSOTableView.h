@@ -83,6 +83,8 @@ class QSOTableView : public QWidget {
     void currentCellChanged();
     /// The context menu of rows or columns is about to open.
     void menuAboutToShow();
+    /// A command did what cannot be seen in the table, or nothing; `text` says so.
+    void noticed(const QString& text);
 
   private:
     enum class Part { rows, header };

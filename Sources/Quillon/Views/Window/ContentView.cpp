@@ -175,6 +175,7 @@ void ContentView::buildPanes() {
     areaLayout->addWidget(horizontalLine(area));
     statusLine = new StatusLine(logStore, area);
     areaLayout->addWidget(statusLine);
+    connect(tableView, &QSOTableView::noticed, statusLine, &StatusLine::showNotice);
 
     auto* noHits = new NoHits(logStore, tableView->body());
     connect(noHits, &NoHits::searchEnded, this, &ContentView::focusTable);

@@ -1,6 +1,7 @@
 #include "Quillon/Views/Table/TableViewFixture.h"
 
 #include <QClipboard>
+#include <QSignalSpy>
 
 namespace quillon {
 namespace {
@@ -105,6 +106,19 @@ TEST_F(SelectionAndFrame, ComeToWhatAStepInTheHistoryChanged) {
     view.redo();
     EXPECT_EQ(framed(), "0/0") << "where the selection is";
     EXPECT_TRUE(body.rect().contains(at(70, 1)));
+}
+
+TEST_F(SelectionAndFrame, StayWhereNothingIsToBeSeenAndTheUserIsTold) {
+    showLog(manyRecords(2));
+    type(0, "BAND", "40m");
+    store.setSearchText(QStringLiteral("nichts"));
+    QSignalSpy noticed(&view, &QSOTableView::noticed);
+    view.undo();
+    EXPECT_EQ(noticed.count(), 1);
+    EXPECT_EQ(store.displayedCount(), 0U);
+    QApplication::clipboard()->setText(QStringLiteral("40m"));
+    view.pasteRecords();
+    EXPECT_EQ(noticed.count(), 2);
 }
 
 TEST_F(SelectionAndFrame, AreOnWhatWasPasted) {
