@@ -1,14 +1,21 @@
 #include "Quillon/App/Terminal.h"
 
 #include "Quillon/Platform/AppInfo.h"
+#include "Quillon/Platform/FileNames.h"
 #include "Tallyrig/Log/ProgramName.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
 #include <QString>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -21,7 +28,8 @@ constexpr auto help =
     " [LOG]\n"
     "\n"
     "Zeigt, bearbeitet und prüft ein Log des Amateurfunks: ADIF, ADX, Cabrillo oder EDI.\n"
-    "Ohne LOG beginnt ein neues. Ein Name, der mit einem Strich beginnt, wird ./-name geschrieben.\n"
+    "Ohne LOG beginnt ein neues. Ein Name, der mit einem Strich beginnt, wird ./-name geschrieben\n"
+    "oder steht hinter --.\n"
     "\n"
     "Optionen\n"
     "  -h, --help   Zeigt diese Hilfe\n"
@@ -30,6 +38,68 @@ constexpr auto help =
     "Für Skripte gibt es tallyrig, das ohne Fenster auskommt.\n";
 
 constexpr int failed = 2;
+
+/// An option that is taken besides those for help and version.
+struct Option {
+    std::string_view name;
+    bool takesValue = false;  ///< The next argument belongs to it.
+};
+
+constexpr Option ownOptions[] = {
+    {"--crosscheck", true},  {"--grab", true},      {"--grab-check"},
+    {"--grab-select", true}, {"--grab-size", true}, {"--grab-dark"},
+};
+
+/// Those that Qt takes out of the arguments, with one dash or two.
+constexpr Option toolkitOptions[] = {
+    {"-platform", true},
+    {"-platformpluginpath", true},
+    {"-platformtheme", true},
+    {"-plugin", true},
+    {"-qwindowgeometry", true},
+    {"-geometry", true},
+    {"-qwindowicon", true},
+    {"-icon", true},
+    {"-qwindowtitle", true},
+    {"-title", true},
+    {"-display", true},
+    {"-session", true},
+    {"-style", true},
+    {"-stylesheet", true},
+    {"-reverse"},
+    {"-widgetcount"},
+};
+
+/// The option that `argument` is; null if there is no such option.
+const Option* optionOf(std::string_view argument) {
+    const auto* const own = std::ranges::find(ownOptions, argument, &Option::name);
+    if (own != std::end(ownOptions)) {
+        return own;
+    }
+    const std::string_view name = argument.substr(argument.starts_with("--") ? 1 : 0);
+    const auto* const toolkits = std::ranges::find(toolkitOptions, name, &Option::name);
+    return toolkits == std::end(toolkitOptions) ? nullptr : toolkits;
+}
+
+/// The first argument that looks like an option, but is none and no file either; empty if there is none.
+QString unknownOption(std::span<char* const> arguments) {
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        const std::string_view argument = arguments[index];
+        if (argument == "--") {
+            break;
+        }
+        if (const Option* const option = optionOf(argument)) {
+            index += option->takesValue ? 1 : 0;
+        } else if (argument.starts_with('-') && !argument.starts_with("-style=") &&
+                   !argument.starts_with("-stylesheet=")) {
+            const QString shown = QFile::decodeName(arguments[index]);
+            if (!QFileInfo::exists(absolutePath(shown))) {
+                return shown;
+            }
+        }
+    }
+    return {};
+}
 
 int print(const std::string& text) {
     std::fputs(text.c_str(), stdout);
@@ -61,6 +131,15 @@ std::optional<int> answerOnTerminal(std::span<char* const> arguments) {
         if (argument == "--version") {
             return print(name + " " + appVersion().toStdString() + "\n");
         }
+    }
+    if (const QString unknown = unknownOption(arguments); !unknown.isEmpty()) {
+        const std::string word = tallyrig::text::visibleText(unknown.toStdString());
+        std::fprintf(
+            stderr,
+            "%s: Unbekannte Angabe: %s. Eine Datei dieses Namens heißt hier ./%s oder steht hinter -- "
+            "(Hilfe: %s --help)\n",
+            name.c_str(), word.c_str(), word.c_str(), name.c_str());
+        return failed;
     }
     return std::nullopt;
 }

@@ -37,9 +37,10 @@ QString failure(const QString& what, const QString& path, const std::string& why
            QString::fromStdString(tallyrig::text::visibleText(name.toStdString() + "“: " + why));
 }
 
-/// Whether an argument that names nothing may have been meant as the path of a log.
-bool mayBePath(const QString& argument) {
-    return !argument.isEmpty() && !argument.startsWith(QLatin1Char('-'));
+/// Whether an argument that names nothing may have been meant as the path of a log: behind "--" whatever it
+/// begins with.
+bool mayBePath(const QString& argument, bool isBehindMark) {
+    return !argument.isEmpty() && (isBehindMark || !argument.startsWith(QLatin1Char('-')));
 }
 
 QString notOpenedMessage(const QStringList& paths) {
@@ -112,6 +113,7 @@ void LogStore::openFromCommandLineIfNeeded(const QStringList& arguments) {
     const Operation operation(*this);
     QStringList paths;  ///< And what is none, but looks like one.
     qsizetype first = -1;
+    const qsizetype mark = arguments.indexOf(QLatin1String("--"));
     for (qsizetype index = 0; index < arguments.size(); ++index) {
         // What follows the word is the folder of a cross-check.
         if (index > 0 && arguments[index - 1] == QLatin1String("--crosscheck")) {
@@ -121,7 +123,7 @@ void LogStore::openFromCommandLineIfNeeded(const QStringList& arguments) {
         if (isThere && first < 0) {
             first = paths.size();
         }
-        if (isThere || mayBePath(arguments[index])) {
+        if (isThere || mayBePath(arguments[index], mark >= 0 && index > mark)) {
             paths.append(arguments[index]);
         }
     }

@@ -21,6 +21,8 @@ expect 0 "Quillon $version" --version
 expect 0 'Aufruf: Quillon .*' a.adi --help
 expect 2 'Quillon: [^|]* DISPLAY und WAYLAND_DISPLAY sind leer.' a.adi
 expect 2 'Quillon: [^|]* DISPLAY und WAYLAND_DISPLAY sind leer.' -- --help
+expect 2 'Quillon: [^|]* DISPLAY und WAYLAND_DISPLAY sind leer.' --style fusion --crosscheck -x
+expect 2 'Quillon: Unbekannte Angabe: --foo. [^|]* ./--foo oder steht hinter -- [^|]*' a.adi --foo
 DISPLAY=:987
 export DISPLAY
 expect 2 'Quillon: [^|]* DISPLAY=:987'

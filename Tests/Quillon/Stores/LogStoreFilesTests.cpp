@@ -57,6 +57,7 @@ TEST_F(CommandLine, OpensTheFirstPathThatIsThereAndTellsOfTheOthers) {
         {{cross, cross, a}, "", "(none)"},
         {{"missing", b, a}, "B", only + "missing\n" + a.toStdString()},
         {{"-x", "missing"}, "", failed + "„missing“: Die Datei existiert nicht."},
+        {{"--", "-x"}, "", failed + "„-x“: Die Datei existiert nicht."},
         {{none}, "", failed + "„n\uFFFDnf.adi“: Der Name ist nicht in UTF-8 geschrieben."},
     };
     for (const auto& [arguments, opened, message] : cases) {
