@@ -1,6 +1,5 @@
 #include "Quillon/Views/Check/CheckResultsView.h"
 
-#include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/IssueDelegate.h"
 #include "Quillon/Views/Check/IssueListModel.h"
@@ -14,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -49,8 +49,10 @@ QToolButton* countSwitch(tallyrig::ValidationSeverity severity, const QString& t
 
 }  // namespace
 
-CheckResultsView::CheckResultsView(LogStore& logStore, QWidget* parent)
-    : QWidget(parent), store(logStore), model(new IssueListModel(logStore, this)) {
+CheckResultsView::CheckResultsView(LogStore& logStore, QWidget* parent) : QWidget(parent), store(logStore) {
+    // Connected before the model, which fills the list anew.
+    connect(&store, &LogStore::checkResultsChanged, this, [this] { chosenIssue.reset(); });
+    model = new IssueListModel(store, this);
     setAccessibleName(QStringLiteral("Prüfergebnisse"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -75,7 +77,9 @@ CheckResultsView::CheckResultsView(LogStore& logStore, QWidget* parent)
 
     // The model was connected first: its rows are the new ones by the time of `refresh`.
     connect(&store, &LogStore::checkResultsChanged, this, &CheckResultsView::refresh);
+    connect(&store, &LogStore::selectionChanged, this, &CheckResultsView::followSelection);
     connect(model, &IssueListModel::filtered, this, &CheckResultsView::showBody);
+    connect(model, &IssueListModel::rowsInserted, this, &CheckResultsView::markChosen);
     refresh();
 }
 
@@ -112,10 +116,7 @@ QWidget* CheckResultsView::makeHead() {
     layout->addWidget(filterField, 2);
 
     QToolButton* again = headButton(QStringLiteral("view-refresh"), QStringLiteral("Erneut prüfen"), head);
-    connect(again, &QToolButton::clicked, this, [this] {
-        showBusyCursorUntilIdle();
-        store.runCheck();
-    });
+    connect(again, &QToolButton::clicked, this, &CheckResultsView::checkRequested);
     QToolButton* close =
         headButton(QStringLiteral(":/Icons/close.svg"), QStringLiteral("Ergebnisleiste schließen"), head);
     connect(close, &QToolButton::clicked, this, [this] {
@@ -139,7 +140,7 @@ QWidget* CheckResultsView::makeList() {
         }
     });
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (list->chosenCount() == 1) {
+        if (!isMarking && list->chosenCount() == 1) {
             choose(list->selectionModel()->selection().first().topLeft());
         }
     });
@@ -168,7 +169,24 @@ void CheckResultsView::showBody() {
 
 void CheckResultsView::applyFilter() {
     model->setFilter({errors->isChecked(), warnings->isChecked(), filterField->text()});
+    markChosen();
     showBody();
+}
+
+void CheckResultsView::markChosen() {
+    const auto row = chosenIssue ? model->rowOf(*chosenIssue) : std::nullopt;
+    if (row && !list->selectionModel()->hasSelection()) {
+        const QScopedValueRollback guard(isMarking, true);
+        list->setCurrentIndex(model->index(*row, 0));
+    }
+}
+
+void CheckResultsView::followSelection() {
+    const LogStore::Selection& selected = store.selection();
+    if (chosenIssue && !(selected.size() == 1 && selected.contains(chosenRecord))) {
+        chosenIssue.reset();
+        list->clearSelection();
+    }
 }
 
 void CheckResultsView::enterFindings() {
@@ -192,6 +210,8 @@ void CheckResultsView::choose(const QModelIndex& finding) {
     if (!store.displayedRow(record.id())) {
         store.setSearchText(QString());
     }
+    chosenIssue = index;
+    chosenRecord = record.id();
     store.selectRecord(issue.recordIndex);
     const tallyrig::FindingPlace place = tallyrig::placeOf(issue.kind(), record);
     emit findingChosen(record.id(), std::string(place.field), place.position);

@@ -116,6 +116,16 @@ void IssueListModel::setFilter(const IssueFilter& wanted) {
     filterNextBatch();
 }
 
+std::optional<int> IssueListModel::rowOf(std::size_t issueIndex) const {
+    if (filter.passesAll()) {
+        return issueIndex < count ? std::optional(static_cast<int>(issueIndex)) : std::nullopt;
+    }
+    const auto found = std::ranges::lower_bound(matches, issueIndex);
+    return found != matches.end() && *found == issueIndex
+               ? std::optional(static_cast<int>(found - matches.begin()))
+               : std::nullopt;
+}
+
 QString IssueListModel::longestLine() const {
     // The findings stand in the order of the records, and a later record has no shorter number.
     return store.validationIssues().empty() ? QString() : lineText(store.validationIssues().back());

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace tallyrig {
@@ -51,6 +52,9 @@ class IssueListModel : public QAbstractListModel {
     void setFilter(const IssueFilter& wanted);
     /// Whether rows may still arrive.
     bool isFiltering() const { return nextBatch.isActive(); }
+
+    /// The row of the finding at `issueIndex` of the store's list; absent if there is none, or not yet.
+    std::optional<int> rowOf(std::size_t issueIndex) const;
 
     /// The longest text of `lineRole`; empty without findings.
     QString longestLine() const;

@@ -1,7 +1,6 @@
 #include "Quillon/Views/Sidebar/CheckSections.h"
 
 #include "Quillon/Catalogue/DuplicateCriterion.h"
-#include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
@@ -60,10 +59,7 @@ SidebarSection* CheckSections::checks() {
     section->addLabelled(QStringLiteral("Dublette ="), criterion);
 
     auto* run = new QPushButton(checkIcon(), QStringLiteral("Jetzt prüfen"), section);
-    connect(run, &QPushButton::clicked, this, [this] {
-        showBusyCursorUntilIdle();
-        store.runCheck();
-    });
+    connect(run, &QPushButton::clicked, this, &CheckSections::checkRequested);
     const auto offerCheck = [this, run] { run->setEnabled(!store.document().records().empty()); };
     connect(&store, &LogStore::documentChanged, run, offerCheck);
     offerCheck();

@@ -19,6 +19,8 @@ class CheckSections : public QWidget {
     CheckSections(LogStore& logStore, Settings& userSettings, QWidget* parent = nullptr);
 
   signals:
+    /// The user wants the log checked.
+    void checkRequested();
     /// The user added a field to the selected QSO; it is the last of the record.
     void fieldAdded();
 

@@ -75,6 +75,7 @@ void SidebarPane::showMode() {
     sections = nullptr;
     if (store.mode() == AppMode::check) {
         auto* check = new CheckSections(store, settings, widget());
+        connect(check, &CheckSections::checkRequested, this, &SidebarPane::checkRequested);
         connect(check, &CheckSections::fieldAdded, this, &SidebarPane::fieldAdded);
         sections = check;
     }

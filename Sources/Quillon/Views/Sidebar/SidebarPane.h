@@ -22,6 +22,8 @@ class SidebarPane : public QScrollArea {
     SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* parent = nullptr);
 
   signals:
+    /// The user wants the log checked.
+    void checkRequested();
     /// The user added a field to the selected QSO; it is the last of the record.
     void fieldAdded();
 

@@ -86,6 +86,8 @@ ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList ar
     setContextMenuPolicy(Qt::NoContextMenu);
     buildPanes();
     commandActions = new CommandActions(*this);
+    QAction* const check = commandActions->action(CommandID::check);
+    connect(sidebar, &SidebarPane::checkRequested, check, &QAction::trigger);
     buildMenus();
     buildToolBar();
     paneKeys = std::make_unique<PaneKeys>(*this, [this] { return panes(); });
@@ -296,6 +298,8 @@ void ContentView::showResults() {
                     tableView->showCell(record, field);
                     detail->markField(position);
                 });
+        connect(view, &CheckResultsView::checkRequested, commandActions->action(CommandID::check),
+                &QAction::trigger);
         connect(view, &CheckResultsView::left, this, &ContentView::focusTable);
     }
     if (results != nullptr) {

@@ -26,6 +26,7 @@ class CheckResults : public testing::LogStoreTest {
                              chosen += cell(*store.indexOf(record), "CALL") + " " + field + " " +
                                        (position ? std::to_string(*position) : "-") + "\n";
                          });
+        QObject::connect(&view, &CheckResultsView::checkRequested, &store, &LogStore::runCheck);
         openLog({"CALL=DL1ABC QSO_DATE=2024 TIME_ON=9999 BAND=20m MODE=CW",
                  "CALL=DL2ABC QSO_DATE=20240101 TIME_ON=1200 BAND=20m MODE=CW",
                  "CALL=DL3ABC QSO_DATE=20240101 TIME_ON=1200 BAND=21m MODE=CW"});
@@ -103,6 +104,24 @@ TEST_F(CheckResults, AreFilteredBySeverityAndText) {
     EXPECT_EQ(selected(), "DL1ABC") << "of the first finding that passes";
     view.findChild<QLineEdit*>()->setText(QStringLiteral("x"));
     EXPECT_EQ(testing::shownTexts(view), "Keine passenden Befunde\nKein Befund passt zum Filter.");
+}
+
+TEST_F(CheckResults, StayChosenWhileTheirQSOIs) {
+    const auto highlighted = [this] { return list().chosenText().toStdString(); };
+    const std::string third = "Zeile 3: Unbekanntes Band: 21m";
+    clickRow(2);
+    store.setSearchText(QStringLiteral("DL2ABC"));
+    view.findChild<QLineEdit*>()->setText(QStringLiteral("Band"));
+    EXPECT_EQ(highlighted(), third);
+    EXPECT_NE(store.searchText(), QString()) << "it is not chosen again";
+    view.findChild<QLineEdit*>()->setText(QStringLiteral("Datum"));
+    EXPECT_EQ(highlighted(), "");
+    view.findChild<QLineEdit*>()->clear();
+    EXPECT_EQ(highlighted(), third);
+    store.selectRecord(0);
+    EXPECT_EQ(highlighted(), "");
+    clickRow(0);
+    EXPECT_EQ(highlighted(), "Zeile 1: Ungültiges Datum: 2024");
 }
 
 TEST_F(CheckResults, ArriveInBatchesWhereTheFilterHasMuchToLookAt) {

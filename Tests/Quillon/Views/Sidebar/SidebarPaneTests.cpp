@@ -21,7 +21,10 @@ namespace {
 
 class Sidebar : public testing::LogStoreTest {
   protected:
-    void show() { pane = std::make_unique<SidebarPane>(store, settings); }
+    void show() {
+        pane = std::make_unique<SidebarPane>(store, settings);
+        QObject::connect(pane.get(), &SidebarPane::checkRequested, &store, &LogStore::runCheck);
+    }
     template <typename Control>
     Control& named(const char* name) const {
         return testing::namedChild<Control>(*pane, name);

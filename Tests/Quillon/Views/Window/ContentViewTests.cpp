@@ -9,6 +9,7 @@
 #include "Quillon/Views/Sheets/EDIExportSheet.h"
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 #include "Quillon/Views/Table/QSOTableView.h"
+#include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/NoHits.h"
 #include "Quillon/Views/Window/StatusLine.h"
@@ -142,6 +143,20 @@ TEST_F(Window, ShowsTheResultsOfACheckUnderTheTable) {
     EXPECT_TRUE(window->findChildren<FieldRow*>()[1]->isMarked());
     store.addRecord();
     EXPECT_EQ(testing::shownChild<CheckResultsView>(*window), nullptr);
+}
+
+TEST_F(Window, ChecksWhatStandsInAnOpenCell) {
+    openLog({"CALL=DL1ABC QSO_DATE=20240101 TIME_ON=1200 BAND=20m MODE=CW"});
+    show();
+    for (const char* button : {"Jetzt prüfen", "Erneut prüfen"}) {
+        window->table().body().startEditing({0, 0});
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("#"));
+        testing::shownButton(*window, QString::fromUtf8(button))->click();
+        EXPECT_EQ(cell(0, "CALL"), "#") << button;
+        EXPECT_EQ(store.errorCount() + store.warningCount(), 1U) << button;
+        store.undo();
+        store.setShowCheckResults(true);
+    }
 }
 
 TEST_F(Window, TellsAnErrorUntilItIsRead) {
