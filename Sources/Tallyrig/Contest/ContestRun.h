@@ -4,13 +4,13 @@
 #include "Tallyrig/Contest/ContestFields.h"
 #include "Tallyrig/Contest/ContestRules.h"
 #include "Tallyrig/Contest/ContestScore.h"
-#include "Tallyrig/Contest/KeyNumbers.h"
 #include "Tallyrig/Contest/MultiplierKey.h"
 #include "Tallyrig/Contest/QSOValuation.h"
 #include "Tallyrig/Contest/RelationCondition.h"
 #include "Tallyrig/CrossCheck/CrossCheckStatus.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/UUID.h"
+#include "Tallyrig/Text/KeyNumbers.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "Tallyrig/Contest/KeyNumbers.h"
+#include "Tallyrig/Text/KeyNumbers.h"
 
 #include <algorithm>
 #include <bit>
@@ -55,7 +55,7 @@ KeyNumbers::Entry KeyNumbers::add(std::string_view key) {
     const std::size_t mask = slots.size() - 1;
     std::size_t at = hash & mask;
     for (; slots[at].end != 0; at = (at + 1) & mask) {
-        if (slots[at].tag == tag && keyOf(slots[at].end - 1) == key) {
+        if (slots[at].tag == tag && key(slots[at].end - 1) == key) {
             return {slots[at].end - 1, false};
         }
     }
@@ -68,11 +68,6 @@ KeyNumbers::Entry KeyNumbers::add(std::string_view key) {
     return {ends.size() - 1, true};
 }
 
-std::string_view KeyNumbers::keyOf(Number number) const {
-    const std::size_t begin = number == 0 ? 0 : ends[number - 1];
-    return std::string_view(keys).substr(begin, ends[number] - begin);
-}
-
 void KeyNumbers::grow() {
     std::vector<Slot> larger(slots.size() * 4);
     const std::size_t mask = larger.size() - 1;
@@ -80,7 +75,7 @@ void KeyNumbers::grow() {
         if (slot.end == 0) {
             continue;
         }
-        std::size_t at = hashOf(keyOf(slot.end - 1)) & mask;
+        std::size_t at = hashOf(key(slot.end - 1)) & mask;
         while (larger[at].end != 0) {
             at = (at + 1) & mask;
         }

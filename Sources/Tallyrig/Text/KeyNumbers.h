@@ -23,6 +23,11 @@ class KeyNumbers {
     /// Compared byte by byte: the caller makes `key` canonical.
     Entry add(std::string_view key);
     std::size_t size() const { return ends.size(); }
+    /// The key that has this number, below `size()`. Good until the next key is added.
+    std::string_view key(std::size_t number) const {
+        const std::size_t begin = number == 0 ? 0 : ends[number - 1];
+        return std::string_view(keys).substr(begin, ends[number] - begin);
+    }
 
   private:
     using Number = std::uint32_t;
@@ -35,7 +40,6 @@ class KeyNumbers {
 
     static constexpr std::size_t smallest = 16;
 
-    std::string_view keyOf(Number number) const;
     void grow();
 
     std::vector<Slot> slots;        ///< A power of two, at least twice as many as keys.
