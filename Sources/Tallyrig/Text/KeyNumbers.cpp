@@ -55,7 +55,7 @@ KeyNumbers::Entry KeyNumbers::add(std::string_view key) {
     const std::size_t mask = slots.size() - 1;
     std::size_t at = hash & mask;
     for (; slots[at].end != 0; at = (at + 1) & mask) {
-        if (slots[at].tag == tag && key(slots[at].end - 1) == key) {
+        if (slots[at].tag == tag && keyOf(slots[at].end - 1) == key) {
             return {slots[at].end - 1, false};
         }
     }
@@ -75,7 +75,7 @@ void KeyNumbers::grow() {
         if (slot.end == 0) {
             continue;
         }
-        std::size_t at = hashOf(key(slot.end - 1)) & mask;
+        std::size_t at = hashOf(keyOf(slot.end - 1)) & mask;
         while (larger[at].end != 0) {
             at = (at + 1) & mask;
         }

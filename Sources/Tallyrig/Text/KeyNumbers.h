@@ -24,7 +24,7 @@ class KeyNumbers {
     Entry add(std::string_view key);
     std::size_t size() const { return ends.size(); }
     /// The key that has this number, below `size()`. Good until the next key is added.
-    std::string_view key(std::size_t number) const {
+    std::string_view keyOf(std::size_t number) const {
         const std::size_t begin = number == 0 ? 0 : ends[number - 1];
         return std::string_view(keys).substr(begin, ends[number] - begin);
     }
