@@ -15,7 +15,7 @@ class QRectF;
 
 namespace quillon {
 
-/// One row of the table: its ground, its mark and its cells.
+/// One row of the table: its ground, its cells and its mark.
 struct QSORowView {
     static constexpr double selectedOpacity = 0.25;  ///< Of the accent colour behind a selected row.
 
@@ -29,6 +29,11 @@ struct QSORowView {
     /// are painted.
     void paint(QPainter& painter, QPointF origin, const QRectF& exposed, const TableGeometry& geometry,
                const QPalette& palette) const;
+    /// The mark in `area`, on the row's ground, which covers the cells that are scrolled under it.
+    void paintMark(QPainter& painter, const QRectF& area, const QPalette& palette) const;
+
+  private:
+    void paintGround(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 };
 
 }  // namespace quillon

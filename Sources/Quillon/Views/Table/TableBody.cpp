@@ -4,6 +4,7 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/EmptyState.h"
+#include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Table/TableAccessibility.h"
@@ -91,6 +92,14 @@ QRectF TableBody::cellArea(CellPosition cell) const {
     return geometry.cellRect(cell).translated(-scroll.scrollX(), -scroll.scrollY());
 }
 
+QRectF TableBody::gutterArea(std::size_t row) const {
+    return geometry.gutterRect(row).translated(0, -scroll.scrollY());
+}
+
+std::optional<std::size_t> TableBody::columnAt(QPointF point) const {
+    return point.x() < gutterArea(0).right() ? std::nullopt : geometry.columnAt(contentPoint(point).x());
+}
+
 void TableBody::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), palette().color(QPalette::Base));
@@ -103,6 +112,24 @@ void TableBody::paintEvent(QPaintEvent* event) {
         }
     }
     paintFrame(painter);
+    paintMarks(painter);
+}
+
+/// The marks stay at the left edge, whatever column is scrolled to: what a row is marked for should be seen
+/// from each of its cells.
+void TableBody::paintMarks(QPainter& painter) const {
+    if (!geometry.hasGutter()) {
+        return;
+    }
+    const TableGeometry::RowRange rows = builtRows();
+    for (std::size_t row = rows.first; row < rows.last; ++row) {
+        rowView(row).paintMark(painter, gutterArea(row), palette());
+    }
+    if (scroll.scrollX() > 0) {
+        const double line = hairlineWidth(painter);
+        painter.fillRect(QRectF(TableGeometry::gutterWidth - line, 0, line, height()),
+                         palette().color(QPalette::Mid));
+    }
 }
 
 void TableBody::paintFrame(QPainter& painter) const {

@@ -108,6 +108,10 @@ class TableBody : public QWidget, public AccessibleTable {
     void press(CellPosition cell, Qt::MouseButton button, Qt::KeyboardModifiers keys);
     void followContent();
     void followSelection();
+    /// Where the mark of the row stands.
+    QRectF gutterArea(std::size_t row) const;
+    /// The column whose cells are seen at `point`.
+    std::optional<std::size_t> columnAt(QPointF point) const;
     void select(tallyrig::UUID id, Qt::KeyboardModifiers keys);
     void bringIntoView(CellPosition cell);
     CellPosition firstInView() const;
@@ -120,6 +124,7 @@ class TableBody : public QWidget, public AccessibleTable {
     void finishEditing(const QString& draft, InlineEditor::Leave leave);
     void placeEditor();
     void noteCurrentCell();
+    void paintMarks(QPainter& painter) const;
     QString toolTipAt(QPointF point) const;
 
     LogStore& store;

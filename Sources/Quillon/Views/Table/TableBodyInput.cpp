@@ -54,7 +54,7 @@ bool isWithinRow(TableMove move) {
 void TableBody::mousePressEvent(QMouseEvent* event) {
     const QPointF point = contentPoint(event->position());
     if (const std::optional<std::size_t> row = geometry.rowAt(point.y())) {
-        const auto column = geometry.columnAt(point.x());
+        const auto column = columnAt(event->position());
         press({*row, column.value_or(current.position() ? current.position()->column : 0)}, event->button(),
               event->modifiers());
         return;
@@ -104,7 +104,7 @@ void TableBody::dragToRow(std::size_t row) {
 void TableBody::mouseDoubleClickEvent(QMouseEvent* event) {
     const QPointF point = contentPoint(event->position());
     const auto row = geometry.rowAt(point.y());
-    const auto column = geometry.columnAt(point.x());
+    const auto column = columnAt(event->position());
     if (event->button() == Qt::LeftButton && row && column) {
         startEditing({*row, *column});
     } else {
@@ -220,19 +220,18 @@ bool TableBody::event(QEvent* event) {
 }
 
 QString TableBody::toolTipAt(QPointF point) const {
-    const QPointF place = contentPoint(point);
-    const std::optional<std::size_t> row = geometry.rowAt(place.y());
+    const std::optional<std::size_t> row = geometry.rowAt(contentPoint(point).y());
     if (!row) {
         return {};
     }
     const QSORowView shown = rowView(*row);
-    if (const auto column = geometry.columnAt(place.x())) {
+    if (const auto column = columnAt(point)) {
         const CellView cell{shown.record, store.columns()[*column]};
         return cell.isCutOff(cellArea({*row, *column}), geometry.metrics(), font())
                    ? plainToolTip(cell.text())
                    : QString();
     }
-    if (geometry.hasGutter() && geometry.gutterRect(*row).contains(place)) {
+    if (gutterArea(*row).contains(point)) {
         const StatusGutterCell mark{shown.severity, store.recordIssueMessages(shown.record.id())};
         return plainToolTip(mark.toolTip());
     }

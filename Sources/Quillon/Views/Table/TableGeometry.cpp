@@ -88,7 +88,7 @@ double TableGeometry::scrollYShowing(std::size_t row, double scrollY, double vie
 }
 
 double TableGeometry::scrollXShowing(std::size_t column, double scrollX, double viewportWidth) const {
-    return scrollShowing(column == 0 ? 0 : columnLeft(column), columnRight(column), scrollX, viewportWidth);
+    return scrollShowing(columnLeft(column) - edges.front(), columnRight(column), scrollX, viewportWidth);
 }
 
 std::optional<CellPosition> TableGeometry::target(CellPosition from, TableMove move,

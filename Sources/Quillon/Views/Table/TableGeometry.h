@@ -86,8 +86,8 @@ class TableGeometry {
 
     /// The position nearest to `scrollY` at which the whole row is in view.
     double scrollYShowing(std::size_t row, double scrollY, double viewportHeight) const;
-    /// The position nearest to `scrollX` at which the whole column is in view, its left edge if it is wider
-    /// than the viewport. For the first column the gutter comes into view as well.
+    /// The position nearest to `scrollX` at which the whole column is in view and clear of the gutter, which
+    /// stays at the left edge of the viewport; its left edge if it is wider than what is there.
     double scrollXShowing(std::size_t column, double scrollX, double viewportWidth) const;
 
     /// Where `move` leads from `from`, which may lie outside the table. Absent in a table without rows.

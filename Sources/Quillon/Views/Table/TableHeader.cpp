@@ -137,9 +137,6 @@ void TableHeader::paintEvent(QPaintEvent*) {
     const QColor primary = palette().color(QPalette::WindowText);
     const double line = hairlineWidth(painter);
     painter.fillRect(QRectF(0, height() - line, width(), line), withOpacity(primary, 0.22));
-    if (geometry.hasGutter()) {
-        paintCheckShield(painter, gutterArea().center(), primary);
-    }
     for (std::size_t column = geometry.columnIndex(scroll.scrollX()); column < geometry.columnCount();
          ++column) {
         const QRectF area = cellArea(column);
@@ -147,6 +144,11 @@ void TableHeader::paintEvent(QPaintEvent*) {
             break;
         }
         headerCell(column).paint(painter, area, palette());
+    }
+    if (geometry.hasGutter()) {
+        // It stays in its place, as the marks below it do.
+        painter.fillRect(gutterArea().adjusted(0, 0, 0, -line), palette().color(QPalette::Window));
+        paintCheckShield(painter, gutterArea().center(), primary);
     }
     paintDrop(painter);
 }
@@ -207,6 +209,9 @@ QPointF TableHeader::contentPoint(QPointF point) const {
 }
 
 TableHeader::Place TableHeader::placeAt(QPointF point) const {
+    if (gutterArea().contains(point)) {
+        return {Part::gutter, 0};
+    }
     const double x = contentPoint(point).x();
     if (const auto handle = geometry.resizeHandleAt(x)) {
         return {Part::handle, *handle};
@@ -215,12 +220,11 @@ TableHeader::Place TableHeader::placeAt(QPointF point) const {
         const bool onMenu = ColumnHeaderCell::menuArea(cellArea(*column)).contains(point);
         return {onMenu ? Part::menu : Part::cell, *column};
     }
-    return {gutterArea().contains(point) ? Part::gutter : Part::none, 0};
+    return {};
 }
 
 QRectF TableHeader::gutterArea() const {
-    return {-scroll.scrollX(), 0, geometry.hasGutter() ? TableGeometry::gutterWidth : 0,
-            static_cast<double>(height())};
+    return {0, 0, geometry.hasGutter() ? TableGeometry::gutterWidth : 0, static_cast<double>(height())};
 }
 
 ColumnHeaderCell TableHeader::headerCell(std::size_t column) const {

@@ -177,8 +177,9 @@ void TableHeader::contextMenuEvent(QContextMenuEvent* event) {
         if (focusedColumn < geometry.columnCount()) {
             openMenu(focusedColumn, mapToGlobal(cellArea(focusedColumn).bottomLeft().toPoint()));
         }
-    } else if (const auto column = geometry.columnAt(contentPoint(event->pos()).x())) {
-        openMenu(*column, event->globalPos());
+    } else if (const Place place = placeAt(event->pos());
+               place.part != Part::gutter && place.part != Part::none) {
+        openMenu(place.column, event->globalPos());
     }
 }
 

@@ -349,6 +349,8 @@ TEST_F(TableRows, ShowTheirFindingsInAGutter) {
     EXPECT_EQ(body.cellArea({0, 0}).left(), before);
 
     const StatusGutterCell endless{tallyrig::ValidationSeverity::warning, {std::string(500'000, '7')}};
+    store.setWidth(600, "CALL");
+    view.scroll().setScrollX(300);
     EXPECT_EQ(endless.toolTip().size(), 4001);
 }
 
