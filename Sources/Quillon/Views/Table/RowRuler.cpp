@@ -24,6 +24,7 @@ constexpr double margin = 6;
 constexpr double lineOpacity = 0.22;
 /// The strip of a short log does not get wider with each new QSO.
 constexpr int fewestDigits = 3;
+constexpr int scrollIntervalMs = 50;
 
 }  // namespace
 
@@ -85,11 +86,33 @@ void RowRuler::mousePressEvent(QMouseEvent* event) {
 }
 
 void RowRuler::mouseMoveEvent(QMouseEvent* event) {
-    if (!isDragging || event->buttons() != Qt::LeftButton || geometry.rowCount() == 0) {
+    if (!isDragging || event->buttons() != Qt::LeftButton) {
         return;
     }
-    const double y =
-        std::clamp(event->position().y() - top() + scroll.scrollY(), 0.0, geometry.contentHeight() - 1);
+    pointerY = event->position().y();
+    if (pointerY >= top() && pointerY < height()) {
+        scrolling.stop();
+    } else if (!scrolling.isActive()) {
+        scrolling.start(scrollIntervalMs, this);
+    }
+    dragToPointer();
+}
+
+void RowRuler::mouseReleaseEvent(QMouseEvent*) {
+    isDragging = false;
+    scrolling.stop();
+}
+
+void RowRuler::timerEvent(QTimerEvent*) {
+    dragToPointer();
+}
+
+void RowRuler::dragToPointer() {
+    if (geometry.rowCount() == 0) {
+        scrolling.stop();
+        return;
+    }
+    const double y = std::clamp(pointerY - top() + scroll.scrollY(), 0.0, geometry.contentHeight() - 1);
     body.dragToRow(geometry.rowAt(y).value_or(0));
 }
 

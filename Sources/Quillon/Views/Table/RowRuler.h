@@ -2,6 +2,7 @@
 
 #include "Quillon/Views/Table/TableGeometry.h"
 
+#include <QBasicTimer>
 #include <QWidget>
 
 namespace quillon {
@@ -13,7 +14,8 @@ class TableScroll;
 
 /// The strip to the left of header and rows, which stays when the columns scroll. It tells of each row which
 /// number the QSO has in the log, whatever search and sort make of the order. A click on a number selects the
-/// row, with the keys held down as in the rows; dragging selects from the first to the last.
+/// row, with the keys held down as in the rows; dragging selects from the first to the last, and held above
+/// or below the rows it goes on, the faster the farther.
 class RowRuler : public QWidget {
     Q_OBJECT
 
@@ -29,11 +31,14 @@ class RowRuler : public QWidget {
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     /// The height at which the rows begin.
     double top() const;
+    void dragToPointer();
 
     const LogStore& store;
     const TableScroll& scroll;
@@ -41,6 +46,8 @@ class RowRuler : public QWidget {
     TableBody& body;
     TableGeometry geometry;
     bool isDragging = false;  ///< The button that is held down was pressed on a number.
+    double pointerY = 0;      ///< Of the drag.
+    QBasicTimer scrolling;    ///< Runs while the pointer is held above or below the rows.
 };
 
 }  // namespace quillon

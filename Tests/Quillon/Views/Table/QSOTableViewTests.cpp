@@ -294,6 +294,13 @@ TEST_F(TableRows, AreSelectedByDraggingAlongTheirNumbers) {
     EXPECT_EQ(selected(), "DL2A DL4A");
     drag(*ruler, {5, 5}, place(4));
     EXPECT_EQ(selected(), "DL2A DL4A") << "what began beside the numbers is about no row";
+
+    showLog(manyRecords(100));
+    drag(*ruler, place(1), QPoint(5, ruler->height() + 20));
+    QSignalSpy scrolled(&view.scroll(), &TableScroll::scrollYChanged);
+    ASSERT_TRUE(scrolled.wait() && scrolled.wait()) << "while the pointer is held below";
+    drop(*ruler, place(3));
+    EXPECT_EQ(store.selection().size(), body.currentCell()->row) << "from the second row on";
 }
 
 TEST_F(TableRows, AreHighEnoughForALargeFont) {
