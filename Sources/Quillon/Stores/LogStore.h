@@ -171,6 +171,8 @@ class LogStore : public QObject {
     double width(std::string_view name) const { return state.columns.width(name); }
     /// At least 48 and at most 600 are taken.
     void setWidth(double width, std::string_view name);
+    /// Makes all columns wider or narrower alike, for letters that are so; those that were set by hand, too.
+    void scaleWidths(double factor);
     /// Gives all columns, or those of `list`, the width that fits what they hold. Cost: `fittingWidths`.
     void autoFitColumns();
     void autoFitColumns(const std::vector<std::string>& list);

@@ -1,7 +1,9 @@
 #include "Quillon/Stores/ColumnFitting.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Tallyrig/Text/Text.h"
+#include "Tallyrig/Text/VisibleText.h"
 
+#include <cmath>
 #include <utility>
 
 namespace quillon {
@@ -12,7 +14,7 @@ QString LogStore::invalidFieldNameMessage(std::string_view name) {
     return QStringLiteral(
                "«%1» ist kein gültiger ADIF-Feldname.\n"
                "Erlaubt sind A–Z, 0–9 und _, beginnend mit einem Buchstaben (z. B. SOTA_REF).")
-        .arg(QString::fromStdString(std::string(text::trimmedOfBlanks(name))));
+        .arg(QString::fromStdString(text::visibleText(text::trimmedOfBlanks(name))));
 }
 
 bool LogStore::addColumn(std::string_view name) {
@@ -88,6 +90,13 @@ void LogStore::moveColumnBefore(std::string_view name, std::string_view target) 
 void LogStore::setWidth(double width, std::string_view name) {
     const Operation operation(*this);
     state.columns.setWidth(width, name);
+}
+
+void LogStore::scaleWidths(double factor) {
+    const Operation operation(*this);
+    for (const std::string& column : state.columns.names()) {
+        state.columns.setWidth(std::round(state.columns.width(column) * factor), column);
+    }
 }
 
 void LogStore::autoFitColumns() {

@@ -74,13 +74,13 @@ bool commitRename(LogStore& store, TableQuestions& questions, std::string_view c
     return true;
 }
 
-void addCustomColumn(LogStore& store, std::string_view name) {
-    if (store.addColumn(name) || text::trimmed(name).empty()) {
-        return;
+bool addCustomColumn(LogStore& store, std::string_view name) {
+    if (store.addColumn(name) || text::trimmed(name).empty() ||
+        store.columnExists(LogStore::cleanedFieldName(name))) {
+        return true;
     }
-    if (!store.columnExists(LogStore::cleanedFieldName(name))) {
-        store.setErrorMessage(LogStore::invalidFieldNameMessage(name));
-    }
+    store.setErrorMessage(LogStore::invalidFieldNameMessage(name));
+    return false;
 }
 
 std::vector<std::string> fieldsToAdd(const LogStore& store) {

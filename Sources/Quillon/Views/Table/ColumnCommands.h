@@ -16,8 +16,8 @@ bool commitRename(LogStore& store, TableQuestions& questions, std::string_view c
                   std::string_view draft);
 
 /// Adds a column with the name as typed. An invalid name becomes the store's error message; that the column
-/// exists already, or that nothing was typed, is no error.
-void addCustomColumn(LogStore& store, std::string_view name);
+/// exists already, or that nothing was typed, is no error. False if there is an error message.
+bool addCustomColumn(LogStore& store, std::string_view name);
 
 /// The usual fields that are no columns yet, in the order in which they are offered.
 std::vector<std::string> fieldsToAdd(const LogStore& store);

@@ -16,13 +16,23 @@
 
 #include <QClipboard>
 #include <QEvent>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace quillon {
+
+namespace {
+
+double cellLetterWidth() {
+    return QFontMetricsF(fontFor(MeasuredFont::cell)).averageCharWidth();
+}
+
+}  // namespace
 
 QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, QWidget* parent)
     : QWidget(parent),
@@ -34,7 +44,8 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
       headerRow(new TableHeader(store, questions, *tableScroll)),
       rows(new TableBody(store, *tableScroll)),
       ruler(new RowRuler(store, *tableScroll, *headerRow, *rows)),
-      knownColumns(store.columns()) {
+      knownColumns(store.columns()),
+      letterWidth(cellLetterWidth()) {
     tableScroll->setContent(headerRow, rows, ruler);
 
     auto* layout = new QVBoxLayout(this);
@@ -46,13 +57,19 @@ QSOTableView::QSOTableView(LogStore& logStore, TableQuestions& tableQuestions, Q
     layout->addWidget(horizontalLine(this));
     layout->addWidget(tableScroll, 1);
 
-    connect(toolbar, &ColumnToolbar::customFieldRequested, this, &QSOTableView::showAddColumn);
+    connect(toolbar, &ColumnToolbar::customFieldRequested, this, [this] { askForColumn({}); });
+    connect(&store, &LogStore::errorMessageChanged, this, &QSOTableView::askAgain, Qt::QueuedConnection);
     connect(&store, &LogStore::documentChanged, this, &QSOTableView::followDocument);
     for (const auto signal : {&LogStore::displayedRecordsChanged, &LogStore::columnsChanged,
                               &LogStore::columnWidthsChanged, &LogStore::checkResultsChanged}) {
         connect(&store, signal, this, &QSOTableView::refreshGeometry);
     }
     connect(&store, &LogStore::columnsChanged, this, &QSOTableView::showNewColumn);
+    connect(&store, &LogStore::searchTextChanged, this, [this] {
+        // Told before the rows that it leaves.
+        refreshGeometry();
+        rows->showHits();
+    });
     connect(rows, &TableBody::currentCellChanged, this, [this] { useFrom(Part::rows); });
     connect(headerRow, &TableHeader::currentColumnChanged, this, [this] { useFrom(Part::header); });
     connect(rows, &TableBody::menuAboutToShow, this, &QSOTableView::menuAboutToShow);
@@ -131,7 +148,11 @@ void QSOTableView::editCell() {
 
 void QSOTableView::goToRow() {
     const std::size_t count = store.document().records().size();
-    const auto number = count > 0 ? questions.rowNumber(count) : std::nullopt;
+    if (count == 0) {
+        return;
+    }
+    const std::size_t current = rows->currentCell() ? store.displayedIndex(rows->currentCell()->row) : 0;
+    const auto number = questions.rowNumber(count, current + 1);
     if (number && *number >= 1 && *number <= count) {
         showCell(store.document().records()[*number - 1].id());
         rows->setFocus();
@@ -184,9 +205,20 @@ void QSOTableView::commitEditing() {
     rows->commitEditing();
 }
 
-void QSOTableView::showAddColumn() {
-    if (const std::optional<QString> name = questions.newColumnName()) {
-        addCustomColumn(store, name->toStdString());
+void QSOTableView::askForColumn(const QString& proposed) {
+    const std::optional<QString> name = questions.newColumnName(proposed);
+    if (name && !addCustomColumn(store, name->toStdString())) {
+        refusedName = name;
+    }
+}
+
+/// When the user has read why a name was refused, they find what they typed and can mend it.
+void QSOTableView::askAgain() {
+    if (store.errorMessage()) {
+        return;
+    }
+    if (const auto name = std::exchange(refusedName, std::nullopt)) {
+        askForColumn(*name);
     }
 }
 
@@ -213,9 +245,13 @@ void QSOTableView::showNewColumn() {
     knownColumns = store.columns();
 }
 
-/// Other letters need other rows.
+/// Other letters need other rows and columns.
 void QSOTableView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) {
+        const double before = std::exchange(letterWidth, cellLetterWidth());
+        if (letterWidth != before) {
+            store.scaleWidths(letterWidth / before);
+        }
         refreshGeometry();
     }
     QWidget::changeEvent(event);

@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Log/UUID.h"
 
+#include <QString>
 #include <QWidget>
 
 #include <optional>
@@ -91,7 +92,8 @@ class QSOTableView : public QWidget {
 
     void useFrom(Part part);
     void showLastStep();
-    void showAddColumn();
+    void askForColumn(const QString& proposed);
+    void askAgain();
     void refreshGeometry();
     void showNewColumn();
     void followDocument();
@@ -104,7 +106,9 @@ class QSOTableView : public QWidget {
     TableHeader* headerRow;
     TableBody* rows;
     RowRuler* ruler;
+    std::optional<QString> refusedName;     ///< Which no column can have.
     std::vector<std::string> knownColumns;  ///< As they were at the last change.
+    double letterWidth;                     ///< For which the columns have their widths.
     Part lastUsed = Part::rows;             ///< Which of them says what the chosen column is.
 };
 

@@ -192,11 +192,16 @@ void TableBody::showRecord(tallyrig::UUID id, std::string_view column) {
     if (wanted != store.columns().end()) {
         cell->column = static_cast<std::size_t>(wanted - store.columns().begin());
     }
-    const double inView = geometry.scrollYShowing(cell->row, scroll.scrollY(), height());
-    if (inView != scroll.scrollY()) {
-        scroll.setScrollY(geometry.rowRect(cell->row).center().y() - height() / 2.0);
-    }
+    bringToMiddle(cell->row);
     setCurrentCell(*cell);
+}
+
+/// Unless it is in view as it is.
+void TableBody::bringToMiddle(std::size_t row) {
+    const double inView = geometry.scrollYShowing(row, scroll.scrollY(), height());
+    if (inView != scroll.scrollY()) {
+        scroll.setScrollY(geometry.rowRect(row).center().y() - height() / 2.0);
+    }
 }
 
 void TableBody::reveal(tallyrig::UUID id, std::string_view column) {
@@ -205,6 +210,14 @@ void TableBody::reveal(tallyrig::UUID id, std::string_view column) {
         bringIntoView(*cell);
     } else if (cell) {
         showRecord(id, column);
+    }
+}
+
+void TableBody::showHits() {
+    if (const std::optional<std::size_t> row = firstSelectedRow()) {
+        bringToMiddle(*row);
+    } else {
+        scroll.setScrollY(0);
     }
 }
 
@@ -231,7 +244,7 @@ void TableBody::deleteSelected() {
 }
 
 void TableBody::enter() {
-    if (geometry.rowCount() > 0 && !showsSelection()) {
+    if (geometry.rowCount() > 0 && !firstSelectedRow()) {
         setCurrentCell(firstInView());
         select(current.content().record, {});
     } else if (!current.position() && store.selection().size() == 1) {
@@ -284,17 +297,17 @@ CellPosition TableBody::firstInView() const {
     return {geometry.rowAt(scroll.scrollY() + geometry.rowHeight() - 1).value_or(0), 0};
 }
 
-bool TableBody::showsSelection() const {
+std::optional<std::size_t> TableBody::firstSelectedRow() const {
     const LogStore::Selection& selected = store.selection();
     if (selected.size() == 1) {
-        return store.displayedRow(*selected.begin()).has_value();
+        return store.displayedRow(*selected.begin());
     }
     for (std::size_t row = 0; !selected.empty() && row < geometry.rowCount(); ++row) {
         if (selected.contains(store.displayedRecord(row).id())) {
-            return true;
+            return row;
         }
     }
-    return false;
+    return std::nullopt;
 }
 
 // Editing.

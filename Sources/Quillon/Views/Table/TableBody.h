@@ -53,6 +53,9 @@ class TableBody : public QWidget, public AccessibleTable {
     /// The same for a record that is not the user's choice: where another one is selected, the frame stays on
     /// that.
     void reveal(tallyrig::UUID id, std::string_view column);
+    /// For a search that was just typed or ended: the first row of a selected record comes into view, or else
+    /// the first of all.
+    void showHits();
     /// As a press of the mouse on the row, but not on one of its cells.
     void pressRow(std::size_t row, Qt::MouseButton button, Qt::KeyboardModifiers keys);
     /// Selects from the row that was pressed to this one.
@@ -105,26 +108,27 @@ class TableBody : public QWidget, public AccessibleTable {
 
   private:
     QPointF contentPoint(QPointF point) const;
-    void press(CellPosition cell, Qt::MouseButton button, Qt::KeyboardModifiers keys);
-    void followContent();
-    void followSelection();
     /// Where the mark of the row stands.
     QRectF gutterArea(std::size_t row) const;
     /// The column whose cells are seen at `point`.
     std::optional<std::size_t> columnAt(QPointF point) const;
+    void press(CellPosition cell, Qt::MouseButton button, Qt::KeyboardModifiers keys);
+    void followContent();
+    void followSelection();
     void select(tallyrig::UUID id, Qt::KeyboardModifiers keys);
     void bringIntoView(CellPosition cell);
+    void bringToMiddle(std::size_t row);
     CellPosition firstInView() const;
-    bool showsSelection() const;
+    std::optional<std::size_t> firstSelectedRow() const;
     bool handleKey(const QKeyEvent& event);
     void moveCurrent(TableMove move, Qt::KeyboardModifiers modifiers);
     void typeIntoFrame(const QString& text);
     void paintFrame(QPainter& painter) const;
+    void paintMarks(QPainter& painter) const;
     void writeCurrent(const QString& draft);
     void finishEditing(const QString& draft, InlineEditor::Leave leave);
     void placeEditor();
     void noteCurrentCell();
-    void paintMarks(QPainter& painter) const;
     QString toolTipAt(QPointF point) const;
 
     LogStore& store;

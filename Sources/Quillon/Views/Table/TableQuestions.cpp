@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -10,43 +9,41 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <limits>
-
 namespace quillon {
 namespace {
 
 constexpr int fieldWidthPx = 300;
 
-/// The dialog "Neue Spalte".
-class NewColumnDialog : public QDialog {
+/// A dialog that asks for one line of text.
+class LineDialog : public QDialog {
   public:
-    explicit NewColumnDialog(QWidget* parent) : QDialog(parent), nameField(new QLineEdit(this)) {
-        setWindowTitle(QStringLiteral("Neue Spalte"));
-        auto* text = new QLabel(QStringLiteral("Name des ADIF-Felds für die neue Spalte."), this);
-        text->setBuddy(nameField);
-        nameField->setPlaceholderText(QStringLiteral("ADIF-Feldname (z. B. SOTA_REF)"));
-        nameField->setAccessibleName(QStringLiteral("ADIF-Feldname"));
-        nameField->setMinimumWidth(fieldWidthPx);
+    LineDialog(const QString& title, const QString& question, const QString& consent)
+        : QDialog(QApplication::activeWindow()), line(new QLineEdit(this)) {
+        setWindowTitle(title);
+        auto* text = new QLabel(question, this);
+        text->setBuddy(line);
+        line->setMinimumWidth(fieldWidthPx);
 
         auto* buttons = new QDialogButtonBox(this);
-        QPushButton* add = buttons->addButton(QStringLiteral("Hinzufügen"), QDialogButtonBox::AcceptRole);
-        add->setDefault(true);
+        agree = buttons->addButton(consent, QDialogButtonBox::AcceptRole);
+        agree->setDefault(true);
         buttons->addButton(QStringLiteral("Abbrechen"), QDialogButtonBox::RejectRole);
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
         auto* layout = new QVBoxLayout(this);
         layout->addWidget(text);
-        layout->addWidget(nameField);
+        layout->addWidget(line);
         layout->addWidget(buttons);
         layout->setSizeConstraint(QLayout::SetFixedSize);
     }
 
-    QString name() const { return nameField->text(); }
+    QLineEdit& field() const { return *line; }
+    void setCanAgree(bool can) { agree->setEnabled(can); }
 
   private:
-    QLineEdit* nameField;
+    QLineEdit* line;
+    QPushButton* agree;
 };
 
 QString number(std::size_t value) {
@@ -90,21 +87,30 @@ bool TableDialogs::confirmDeletion(std::size_t count, std::size_t hiddenCount) {
         hidden + QStringLiteral(" (Rückgängig mit Strg+Z.)"), QStringLiteral("Löschen"));
 }
 
-std::optional<QString> TableDialogs::newColumnName() {
-    NewColumnDialog dialog(QApplication::activeWindow());
-    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.name()) : std::nullopt;
+std::optional<QString> TableDialogs::newColumnName(const QString& proposed) {
+    LineDialog dialog(QStringLiteral("Neue Spalte"),
+                      QStringLiteral("Name des ADIF-Felds für die neue Spalte."),
+                      QStringLiteral("Hinzufügen"));
+    dialog.field().setPlaceholderText(QStringLiteral("ADIF-Feldname (z. B. SOTA_REF)"));
+    dialog.field().setAccessibleName(QStringLiteral("ADIF-Feldname"));
+    dialog.field().setText(proposed);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.field().text()) : std::nullopt;
 }
 
-std::optional<std::size_t> TableDialogs::rowNumber(std::size_t count) {
-    QInputDialog dialog(QApplication::activeWindow());
-    dialog.setWindowTitle(QStringLiteral("Gehe zu Zeile"));
-    dialog.setLabelText(QStringLiteral("Nummer der Zeile (1 bis %1):").arg(number(count)));
-    dialog.setInputMode(QInputDialog::IntInput);
-    dialog.setIntRange(1, static_cast<int>(std::min<std::size_t>(count, std::numeric_limits<int>::max())));
-    dialog.setOkButtonText(QStringLiteral("Gehe zu"));
-    dialog.setCancelButtonText(QStringLiteral("Abbrechen"));
-    return dialog.exec() == QDialog::Accepted ? std::optional(static_cast<std::size_t>(dialog.intValue()))
-                                              : std::nullopt;
+std::optional<std::size_t> TableDialogs::rowNumber(std::size_t count, std::size_t current) {
+    const QString question = QStringLiteral("Nummer der Zeile (1 bis %1):").arg(number(count));
+    LineDialog dialog(QStringLiteral("Gehe zu Zeile"), question, QStringLiteral("Gehe zu"));
+    dialog.field().setAccessibleName(question);
+    const auto typed = [&dialog, count]() -> std::optional<std::size_t> {
+        // With the dots of thousands or without.
+        const qulonglong value = QLocale(QLocale::German).toULongLong(dialog.field().text().trimmed());
+        return value >= 1 && value <= count ? std::optional<std::size_t>(value) : std::nullopt;
+    };
+    QObject::connect(&dialog.field(), &QLineEdit::textChanged, &dialog,
+                     [&] { dialog.setCanAgree(typed().has_value()); });
+    dialog.field().setText(number(current));
+    dialog.field().selectAll();
+    return dialog.exec() == QDialog::Accepted ? typed() : std::nullopt;
 }
 
 }  // namespace quillon

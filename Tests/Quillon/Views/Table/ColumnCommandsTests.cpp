@@ -84,6 +84,14 @@ TEST_F(AddingAColumn, TakesAnyValidNameAndComplainsOfOthers) {
         EXPECT_EQ(columns(), c.columnsAfter) << c.name.value_or("(cancelled)");
         EXPECT_EQ(store.errorMessage().has_value(), c.complains) << c.name.value_or("(cancelled)");
     }
+    questions.newName = QStringLiteral("1\u202EA");
+    view.columnToolbar().addMenu().actions().last()->trigger();
+    EXPECT_TRUE(error().starts_with("«1⟨RLO⟩A»")) << error();
+    questions.newName.reset();
+    questions.asked.clear();
+    store.setErrorMessage(std::nullopt);
+    QApplication::processEvents();
+    EXPECT_EQ(questions.asked, "[1\u202EA]") << "what was typed can be mended";
 }
 
 }  // namespace

@@ -303,21 +303,21 @@ TEST_F(TableRows, AreSelectedByDraggingAlongTheirNumbers) {
     EXPECT_EQ(store.selection().size(), body.currentCell()->row) << "from the second row on";
 }
 
-TEST_F(TableRows, AreHighEnoughForALargeFont) {
+TEST_F(TableRows, GrowWithTheFontOfTheDesktop) {
     showLog({"CALL=DL1A"});
     const QFont before = QApplication::font();
     QFont large = before;
     large.setPointSize(24);
     QApplication::setFont(large);
-    {
-        QSOTableView other(store, questions);
-        other.show();
-        other.body().startEditing({0, 0});
-        const int needed = QFontMetrics(large).height();
-        EXPECT_GE(other.body().tableGeometry().rowHeight(), needed + 4);
-        EXPECT_GE(other.body().editor().height(), needed + 2);
-    }
+    QApplication::processEvents();
+    body.startEditing({0, 0});
+    const int needed = QFontMetrics(large).height();
+    EXPECT_GE(body.tableGeometry().rowHeight(), needed + 4);
+    EXPECT_GE(body.editor().height(), needed + 2);
+    EXPECT_GE(store.width("CALL"), 150) << "of 100";
     QApplication::setFont(before);
+    QApplication::processEvents();
+    EXPECT_NEAR(store.width("CALL"), 100, 1);
 }
 
 TEST_F(TableRows, ShowWhatWouldTurnThemRound) {
@@ -349,6 +349,8 @@ TEST_F(TableRows, ShowTheirFindingsInAGutter) {
     EXPECT_EQ(body.rowView(0).severity, std::nullopt);
     EXPECT_NE(body.rowView(1).severity, std::nullopt);
 
+    store.setWidth(600, "CALL");
+    view.scroll().setScrollX(300);
     QHelpEvent help(QEvent::ToolTip, {10, 30}, body.mapToGlobal(QPoint(10, 30)));
     QApplication::sendEvent(&body, &help);
     EXPECT_EQ(QToolTip::text(), "Unbekanntes Band: 21m\nUnbekannter Modus: XY");
@@ -356,8 +358,6 @@ TEST_F(TableRows, ShowTheirFindingsInAGutter) {
     EXPECT_EQ(body.cellArea({0, 0}).left(), before);
 
     const StatusGutterCell endless{tallyrig::ValidationSeverity::warning, {std::string(500'000, '7')}};
-    store.setWidth(600, "CALL");
-    view.scroll().setScrollX(300);
     EXPECT_EQ(endless.toolTip().size(), 4001);
 }
 

@@ -59,6 +59,22 @@ TEST_F(SelectionAndFrame, AreBothOnTheCellThatIsShownThoughTheSearchHidIt) {
     questions.row = 7;
     view.goToRow();
     EXPECT_EQ(framed(), "6/1");
+    EXPECT_EQ(questions.asked, "5 of 100");
+}
+
+TEST_F(SelectionAndFrame, AreInViewAmongTheHitsOfASearchOrElseTheFirstIs) {
+    showLog(manyRecords(200));
+    const auto firstInView = [this] { return view.scroll().scrollY() / body.tableGeometry().rowHeight(); };
+    view.scroll().setScrollY(3'000);
+    store.setSearchText(QStringLiteral("DL1"));
+    EXPECT_EQ(firstInView(), 0);
+    store.setSearchText({});
+    view.showCell(id(199));
+    store.setSearchText(QStringLiteral("DL2"));
+    EXPECT_TRUE(body.rect().contains(at(11, 0))) << "the row of DL200A";
+    view.scroll().setScrollY(0);
+    store.setSearchText({});
+    EXPECT_TRUE(body.rect().contains(at(199, 0)));
 }
 
 TEST_F(SelectionAndFrame, GoOnWithTheNextHitAfterAnEditThatTookTheLastOneOut) {

@@ -30,8 +30,14 @@ class ScriptedQuestions : public TableQuestions {
         asked += std::to_string(hiddenCount) + " of " + std::to_string(count);
         return consents;
     }
-    std::optional<QString> newColumnName() override { return newName; }
-    std::optional<std::size_t> rowNumber(std::size_t) override { return row; }
+    std::optional<QString> newColumnName(const QString& proposed) override {
+        asked += "[" + proposed.toStdString() + "]";
+        return newName;
+    }
+    std::optional<std::size_t> rowNumber(std::size_t count, std::size_t current) override {
+        asked += std::to_string(current) + " of " + std::to_string(count);
+        return row;
+    }
 
     bool consents = false;
     std::optional<QString> newName;
