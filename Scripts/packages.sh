@@ -16,14 +16,14 @@ case "${1:-}" in
     packages=(clang-format-14)
     ;;
 --fuzz)
-    packages=(clang libclang-rt-14-dev cmake ninja-build ccache libicu-dev libexpat1-dev libfmt-dev)
+    packages=(clang libclang-rt-14-dev cmake ninja-build ccache libicu-dev libexpat1-dev libfmt-dev libtbb-dev)
     ;;
 *)
     packages=(
         # Tools to build with.
         g++ cmake ninja-build ccache
         # Libraries of Tallyrig and its command-line tool.
-        libicu-dev libexpat1-dev libfmt-dev libcli11-dev nlohmann-json3-dev
+        libicu-dev libexpat1-dev libfmt-dev libtbb-dev libcli11-dev nlohmann-json3-dev
         # What the application is made of, and what it shows: German dialogs, icons, a font.
         qt6-base-dev qt6-svg-dev qt6-translations-l10n breeze-icon-theme fonts-dejavu-core
         # Tests and benchmarks.

@@ -28,6 +28,9 @@ struct Longest {
 std::string baseCall(std::string_view call) {
     std::string buffer;
     const std::string_view whole = text::upper(text::trimmedOfBlanks(call), buffer);
+    if (whole.find('/') == std::string_view::npos) {
+        return std::string(whole);
+    }
     std::size_t count = 0;
     Longest ofAll;
     Longest ofCalls;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Tallyrig/CrossCheck/CrossCheckFinding.h"
+#include "Tallyrig/CrossCheck/CrossCheckSummary.h"
+#include "Tallyrig/Log/UUID.h"
+
+#include <cstddef>
+#include <memory>
+#include <ranges>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+namespace tallyrig {
+
+/// The result of a cross-check. A value that copies in constant time and is never changed.
+class CrossCheckReport {
+  public:
+    using Findings = std::vector<CrossCheckFinding>;
+
+    /// Of no logs.
+    CrossCheckReport();
+    /// One summary and one list of findings, in the order of its records, for each log. The ids of the logs
+    /// are all different.
+    CrossCheckReport(std::vector<CrossCheckSummary> summaries, std::vector<Findings> findings);
+
+    /// In the order of the logs.
+    const std::vector<CrossCheckSummary>& summaries() const { return contents->summaries; }
+    /// All findings, log after log.
+    auto findings() const { return std::views::join(std::span(contents->findings)); }
+    /// Those of one log, by its id; empty if it took no part. Good as long as this report or a copy lives.
+    std::span<const CrossCheckFinding> findings(UUID logID) const;
+
+    /// Whether both are copies of one report: true only if they are equal, and at once.
+    bool isSameAs(const CrossCheckReport& other) const { return contents == other.contents; }
+    friend bool operator==(const CrossCheckReport& left, const CrossCheckReport& right) {
+        return left.isSameAs(right) || (left.contents->summaries == right.contents->summaries &&
+                                        left.contents->findings == right.contents->findings);
+    }
+
+  private:
+    struct Contents {
+        std::vector<CrossCheckSummary> summaries;
+        std::vector<Findings> findings;
+        std::unordered_map<UUID, std::size_t> positions;
+    };
+
+    std::shared_ptr<const Contents> contents;
+};
+
+}  // namespace tallyrig

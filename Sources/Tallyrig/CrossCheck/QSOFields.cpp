@@ -1,0 +1,50 @@
+#include "Tallyrig/CrossCheck/QSOFields.h"
+
+#include "Tallyrig/Text/Text.h"
+
+#include <algorithm>
+
+namespace tallyrig {
+
+namespace {
+
+constexpr std::array<std::string_view, qsoFieldCount> names = {
+    "CALL", "BAND",     "MODE",       "QSO_DATE",   "TIME_ON", "STATION_CALLSIGN", "SRX_STRING",
+    "SRX",  "RST_RCVD", "GRIDSQUARE", "STX_STRING", "STX",     "RST_SENT",         "MY_GRIDSQUARE"};
+
+}  // namespace
+
+QSOFields::FieldsByTag QSOFields::fieldsByTag(const FieldTags& tags) {
+    FieldsByTag fields(tags.size());
+    for (std::size_t number = 0; number < tags.size(); ++number) {
+        const std::string& tagName = tags[static_cast<FieldTags::Number>(number)].name;
+        const auto name =
+            std::ranges::find_if(names, [&](std::string_view known) { return text::equal(known, tagName); });
+        fields[number] = static_cast<std::uint8_t>(name - names.begin());
+    }
+    return fields;
+}
+
+void QSOFields::read(const RecordStorage& record, QSOValues& values) const {
+    if (&record.tags() == tags) {
+        read(record, fields, values);
+    } else {
+        read(record, fieldsByTag(record.tags()), values);
+    }
+}
+
+void QSOFields::read(const RecordStorage& record, const FieldsByTag& fields, QSOValues& values) {
+    values.values.fill({});
+    // Of several fields of one name the first counts, even if it is empty.
+    std::uint32_t seen = std::uint32_t{1} << qsoFieldCount;
+    for (std::size_t index = 0; index < record.fieldCount(); ++index) {
+        const std::uint8_t field = fields[record.tagNumber(index)];
+        const std::uint32_t bit = std::uint32_t{1} << field;
+        if ((seen & bit) == 0) {
+            seen |= bit;
+            values.values[field] = record.value(index);
+        }
+    }
+}
+
+}  // namespace tallyrig

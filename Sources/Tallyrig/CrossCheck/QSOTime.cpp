@@ -1,0 +1,47 @@
+#include "Tallyrig/CrossCheck/QSOTime.h"
+
+#include "Tallyrig/Text/Characters.h"
+#include "Tallyrig/Text/Numbers.h"
+#include "Tallyrig/Text/Text.h"
+
+namespace tallyrig {
+
+namespace {
+
+/// Days from 1970-01-01 in the Gregorian calendar, carried on in both directions. Years are taken to begin in
+/// March, so that the leap day is their last, and lie in eras of 400 of them.
+std::int64_t dayNumber(std::int64_t year, std::int64_t month, std::int64_t day) {
+    constexpr std::int64_t yearsOfEra = 400;
+    constexpr std::int64_t daysOfEra = 146097;
+    constexpr std::int64_t daysTo1970 = 719468;
+    const std::int64_t marchYear = month > 2 ? year : year - 1;
+    const std::int64_t marchMonth = month > 2 ? month - 3 : month + 9;
+    const std::int64_t era = (marchYear >= 0 ? marchYear : marchYear - (yearsOfEra - 1)) / yearsOfEra;
+    const std::int64_t yearOfEra = marchYear - era * yearsOfEra;
+    const std::int64_t dayOfYear = (153 * marchMonth + 2) / 5 + day - 1;
+    return era * daysOfEra + yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear - daysTo1970;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view time) {
+    constexpr std::size_t dateLength = 8;
+    constexpr std::size_t timeLength = 4;
+    date = text::trimmedOfBlanks(date);
+    time = text::firstCharacters(text::trimmedOfBlanks(time), timeLength);
+    // A character of several bytes makes no number.
+    if (date.size() != dateLength || time.size() != timeLength) {
+        return std::nullopt;
+    }
+    const auto year = text::integer(date.substr(0, 4));
+    const auto month = text::integer(date.substr(4, 2));
+    const auto day = text::integer(date.substr(6, 2));
+    const auto hour = text::integer(time.substr(0, 2));
+    const auto minute = text::integer(time.substr(2, 2));
+    if (!year || !month || !day || !hour || !minute) {
+        return std::nullopt;
+    }
+    return (dayNumber(*year, *month, *day) * 24 + *hour) * 60 + *minute;
+}
+
+}  // namespace tallyrig

@@ -1,0 +1,88 @@
+#include "Tallyrig/CrossCheck/ExchangeCheck.h"
+
+#include "Tallyrig/Log/LogSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace tallyrig {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+Lines mismatches(std::string_view received, std::string_view sent, bool checkRST = false) {
+    const auto read = [](const ADIFRecord& record, QSOValues& values) {
+        QSOFields(record.stored().tags()).read(record.stored(), values);
+    };
+    const ADIFRecord left = testing::recordOf(received);
+    const ADIFRecord right = testing::recordOf(sent);
+    QSOValues leftValues;
+    QSOValues rightValues;
+    read(left, leftValues);
+    read(right, rightValues);
+    return exchangeMismatches(leftValues, rightValues, checkRST);
+}
+
+TEST(Exchange, IsComparedWordByWordWithoutReport) {
+    const std::tuple<std::string_view, std::string_view, bool> cases[] = {
+        {"007", "7", true},
+        {"0", "000", true},
+        {" dok\tf12 ", "DOK F12", true},
+        {"59 123", "0123", true},
+        {"59A 123", "599 123", true},
+        {"599 JO62", "59 JO62", true},
+        {"69 123", "123", false},
+        {"59AB 123", "123", false},
+        {"5999 123", "123", false},
+        {"59", "", false},
+        {"59", "599", false},
+        {"12 34", "34 12", false},
+        {"1 2 3", "1 2", false},
+        {"0099999999999999999999", "99999999999999999999", false},
+        {"٣", "3", false},
+        {"F\u0301", "f\u0301", true},
+        {"Å1", "A\u030A1", true},
+    };
+    for (const auto& [left, right, isEqual] : cases) {
+        EXPECT_EQ(exchangeEqual(left, right), isEqual) << left << " and " << right;
+        EXPECT_EQ(exchangeEqual(right, left), isEqual) << right << " and " << left;
+    }
+}
+
+TEST(ExchangeMismatches, ComeInTheOrderOfTheFields) {
+    EXPECT_EQ(mismatches("RST_RCVD=599 | GRIDSQUARE=jo62 | SRX=2 | SRX_STRING= B ",
+                         "RST_SENT=579 | MY_GRIDSQUARE=JN58td | STX=1 | STX_STRING=A", true),
+              (Lines{"Austausch: empfangen B, gesendet A", "Nummer: empfangen 2, gesendet 1",
+                     "RST: empfangen 599, gesendet 579", "Locator: empfangen JO62, gesendet JN58TD"}));
+}
+
+TEST(ExchangeMismatches, LookAcrossTextAndNumberOnlyIfNothingElseWasCompared) {
+    EXPECT_EQ(mismatches("SRX_STRING=8 ", "STX=9"), Lines{"Austausch: empfangen 8 , gesendet 9"});
+    EXPECT_EQ(mismatches("SRX_STRING=009", "STX=9"), Lines());
+    EXPECT_EQ(mismatches("SRX_STRING=8 | SRX=9", "STX=9"), Lines());
+    EXPECT_EQ(mismatches("SRX=8 | RST_RCVD=599", "STX_STRING=59 9 | RST_SENT=599", true),
+              Lines{"Austausch: empfangen 8, gesendet 59 9"});
+    EXPECT_EQ(mismatches("SRX_STRING= \t | SRX=8", "STX_STRING=9"),
+              Lines{"Austausch: empfangen  \t, gesendet 9"});
+    EXPECT_EQ(mismatches("SRX=8", "RST_SENT=59"), Lines());
+}
+
+TEST(ExchangeMismatches, TakeTheShorterLocatorForTheBeginningOfTheLonger) {
+    const std::pair<std::string_view, std::string_view> equal[] = {
+        {"JO62", " jo62qm\t"}, {"JO62QMAB", "JO62QM"}, {"JO6", "JN5"}, {"JO62", "JN5"}};
+    for (const auto& [left, right] : equal) {
+        EXPECT_EQ(mismatches("GRIDSQUARE=" + std::string(left), "MY_GRIDSQUARE=" + std::string(right)),
+                  Lines())
+            << left;
+    }
+    EXPECT_EQ(mismatches("GRIDSQUARE=JO62QN", "MY_GRIDSQUARE=JO62QMAA"),
+              Lines{"Locator: empfangen JO62QN, gesendet JO62QMAA"});
+}
+
+}  // namespace
+}  // namespace tallyrig
