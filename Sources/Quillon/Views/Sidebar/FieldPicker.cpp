@@ -5,11 +5,7 @@
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Validation/ADIFSpec317.h"
 
-#include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QListView>
-#include <QProxyStyle>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -53,61 +49,11 @@ std::vector<Choice> choicesFor(const tallyrig::ADIFRecord& record) {
     return choices;
 }
 
-/// The list of the picker. Qt looks for what is typed at the beginning of the entries alone, where the ADIF
-/// name is not.
-class ChoiceList : public QListView {
-  public:
-    using QListView::QListView;
-
-    void keyboardSearch(const QString& search) override {
-        constexpr qint64 longestPauseMs = 1000;
-        if (!sinceLastKey.isValid() || sinceLastKey.elapsed() > longestPauseMs) {
-            typed.clear();
-        }
-        sinceLastKey.start();
-        typed += search;
-        // Best at the beginning of the entry, else of a word in it, else anywhere.
-        for (const char* before : {"^", "[ (]", ""}) {
-            const QString pattern = QLatin1String(before) + QRegularExpression::escape(typed);
-            const QModelIndexList found = model()->match(model()->index(0, modelColumn()), Qt::DisplayRole,
-                                                         pattern, 1, Qt::MatchRegularExpression);
-            if (!found.isEmpty()) {
-                setCurrentIndex(found.constFirst());
-                return;
-            }
-        }
-    }
-
-  protected:
-    void showEvent(QShowEvent* event) override {
-        typed.clear();
-        QListView::showEvent(event);
-    }
-
-  private:
-    QString typed;
-    QElapsedTimer sinceLastKey;
-};
-
-/// Lets the list open below the picker with a scroll bar: as a menu it covers the screen from top to bottom.
-class ListStyle : public QProxyStyle {
-  public:
-    using QProxyStyle::QProxyStyle;
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* returned) const override {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
-    }
-};
-
 }  // namespace
 
-FieldPicker::FieldPicker(const LogStore& logStore, QWidget* parent) : CalmComboBox(parent), store(logStore) {
+FieldPicker::FieldPicker(const LogStore& logStore, QWidget* parent)
+    : SearchedComboBox(parent), store(logStore) {
     setPlaceholderText(QStringLiteral("Feld wählen …"));
-    setMaxVisibleItems(20);
-    auto* listStyle = new ListStyle(style()->name());
-    listStyle->setParent(this);
-    setStyle(listStyle);
-    setView(new ChoiceList(this));
     connect(this, &QComboBox::activated, this, [this](int index) {
         const QString name = itemData(index).toString();
         setCurrentIndex(-1);
@@ -123,8 +69,7 @@ void FieldPicker::showPopup() {
         }
     }
     setCurrentIndex(-1);
-    view()->setMinimumWidth(view()->sizeHintForColumn(0) + 30);
-    QComboBox::showPopup();
+    SearchedComboBox::showPopup();
 }
 
 void FieldPicker::keyPressEvent(QKeyEvent* event) {
@@ -144,11 +89,7 @@ void FieldPicker::keyPressEvent(QKeyEvent* event) {
         default:
             break;
     }
-    const bool isTyping = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::ShiftModifier;
-    if (isTyping && !event->text().isEmpty() && event->text().front().isPrint()) {
-        showPopup();
-        view()->keyboardSearch(event->text());
-    } else {
+    if (!search(*event)) {
         event->ignore();
     }
 }

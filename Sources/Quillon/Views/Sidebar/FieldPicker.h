@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Quillon/Views/Controls/CalmComboBox.h"
+#include "Quillon/Views/Controls/SearchedComboBox.h"
 
 namespace quillon {
 
@@ -9,8 +9,8 @@ class LogStore;
 /// Offers the ADIF fields that the single selected QSO does not have yet, each under its German name.
 ///
 /// The list is long: it is made when it opens. It opens by any key that would change a choice, for here a
-/// choice changes the log; what is typed then goes to the next field in whose label or name it stands.
-class FieldPicker : public CalmComboBox {
+/// choice changes the log.
+class FieldPicker : public SearchedComboBox {
     Q_OBJECT
 
   public:
