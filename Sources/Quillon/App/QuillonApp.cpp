@@ -33,7 +33,7 @@ void setUp(QApplication& application, QTranslator& translator) {
 QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
     : settings(userSettings()), logStore(*settings, panels, measurer) {
     setUp(application, translator);
-    contentView = std::make_unique<ContentView>(logStore, *settings, arguments);
+    contentView = std::make_unique<ContentView>(logStore, contestStore, *settings, arguments);
     QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
         if (logStore.fileURL()) {
             panels.setFolder(folderOf(*logStore.fileURL()));

@@ -3,6 +3,7 @@
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Platform/Settings.h"
+#include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/LogStore.h"
 
 #include <QStringList>
@@ -16,7 +17,7 @@ namespace quillon {
 
 class ContentView;
 
-/// The program: it owns the store and opens the one main window.
+/// The program: it owns the stores and opens the one main window.
 class QuillonApp {
   public:
     /// `arguments` are those of the program without its name. `application` outlives this.
@@ -24,6 +25,7 @@ class QuillonApp {
     ~QuillonApp();
 
     LogStore& store() { return logStore; }
+    ContestStore& contest() { return contestStore; }
     ContentView& window() { return *contentView; }
     /// Tells the user that what was asked for last was given up.
     void tellOutOfMemory();
@@ -34,6 +36,7 @@ class QuillonApp {
     DesktopPanels panels;
     FontMeasurer measurer;
     LogStore logStore;
+    ContestStore contestStore;
     std::unique_ptr<ContentView> contentView;
 };
 

@@ -54,6 +54,7 @@ std::optional<WindowPicture> WindowPicture::takenFrom(QStringList& arguments) {
     picture.path = takeValue(arguments, QStringLiteral("--grab"));
     picture.withCheck = takeSwitch(arguments, QStringLiteral("--grab-check"));
     picture.isDark = takeSwitch(arguments, QStringLiteral("--grab-dark"));
+    picture.contest = contestNamed(takeValue(arguments, QStringLiteral("--grab-contest")).toStdString());
     picture.size = sizeFrom(takeValue(arguments, QStringLiteral("--grab-size")));
     if (const uint number = takeValue(arguments, QStringLiteral("--grab-select")).toUInt(); number > 0) {
         picture.selectedRecord = number - 1;
@@ -77,6 +78,10 @@ void WindowPicture::takeOf(QuillonApp& app) const {
         }
         if (picture.selectedRecord) {
             app.store().selectRecord(*picture.selectedRecord);
+        }
+        if (picture.contest) {
+            app.contest().setContest(*picture.contest);
+            app.store().setMode(AppMode::contest);
         }
         // What follows from that is laid out by the time the events at hand are done.
         QTimer::singleShot(0, &app.window(), [picture, &app] {

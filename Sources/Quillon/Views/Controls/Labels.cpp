@@ -107,6 +107,21 @@ QLabel* headingLabel(const QString& text, QWidget* parent) {
     return label;
 }
 
+QLabel* figureLabel(double factor, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * factor);
+    label->setFont(font);
+    makeCopyable(*label);
+    return label;
+}
+
+void makeCopyable(QLabel& label) {
+    label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
 QLabel* noteLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);

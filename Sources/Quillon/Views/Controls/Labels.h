@@ -31,6 +31,13 @@ QLabel* titleLabel(const QString& text, QWidget* parent = nullptr);
 /// The heading of a section: bold, in the small size.
 QLabel* headingLabel(const QString& text, QWidget* parent = nullptr);
 
+/// A figure that strikes the eye: bold, `factor` times as large as running text. It can be selected and
+/// copied.
+QLabel* figureLabel(double factor, QWidget* parent = nullptr);
+
+/// Lets the user select and copy what `label` says.
+void makeCopyable(QLabel& label);
+
 /// A remark that explains what stands above it: small, in the secondary colour, on as many lines as it needs.
 QLabel* noteLabel(const QString& text, QWidget* parent = nullptr);
 

@@ -30,14 +30,9 @@ void PaneSplitter::addPane(QWidget* pane, PaneWidths widths) {
     pane->setMinimumWidth(widths.least);
     pane->setMaximumWidth(widths.most);
     addWidget(pane);
+    setStretchFactor(indexOf(pane), widths.takesRoom ? 1 : 0);
     idealWidths.append(widths.ideal);
     setSizes(idealWidths);
-}
-
-void PaneSplitter::setRoomTaker(int index) {
-    for (int pane = 0; pane < count(); ++pane) {
-        setStretchFactor(pane, pane == index ? 1 : 0);
-    }
 }
 
 QSplitterHandle* PaneSplitter::createHandle() {

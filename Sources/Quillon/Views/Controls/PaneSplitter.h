@@ -11,6 +11,7 @@ struct PaneWidths {
     int least = 0;
     int ideal = 0;
     int most = QWIDGETSIZE_MAX;
+    bool takesRoom = false;  ///< Whether it takes what room the window has beyond the ideal widths.
 };
 
 /// Panes side by side, with thin dividers that the user moves. No pane can be pushed out of sight.
@@ -22,8 +23,6 @@ class PaneSplitter : public QSplitter {
 
     /// Adds `pane` at the right and gives each pane its ideal width.
     void addPane(QWidget* pane, PaneWidths widths);
-    /// The pane at `index` takes what room the window has beyond the ideal widths.
-    void setRoomTaker(int index);
 
   protected:
     QSplitterHandle* createHandle() override;

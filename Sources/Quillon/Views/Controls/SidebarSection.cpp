@@ -44,8 +44,10 @@ void SidebarSection::addLabelled(const QString& label, QWidget* control) {
     column->addWidget(control);
 }
 
-void SidebarSection::addNote(const QString& text) {
-    column->addWidget(noteLabel(text, this));
+QLabel* SidebarSection::addNote(const QString& text) {
+    QLabel* note = noteLabel(text, this);
+    column->addWidget(note);
+    return note;
 }
 
 }  // namespace quillon

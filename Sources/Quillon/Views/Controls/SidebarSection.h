@@ -22,7 +22,7 @@ class SidebarSection : public QWidget {
     void addIndented(QWidget* control);
     /// Under its own label, which belongs to it for the keyboard and for assistive technology.
     void addLabelled(const QString& label, QWidget* control);
-    void addNote(const QString& text);
+    QLabel* addNote(const QString& text);
 
   private:
     QVBoxLayout* column;

@@ -4,6 +4,7 @@
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Sidebar/CheckSections.h"
+#include "Quillon/Views/Sidebar/ContestSections.h"
 
 #include <QEvent>
 #include <QScrollBar>
@@ -22,13 +23,14 @@ struct OfferedMode {
 };
 
 std::vector<OfferedMode> offeredModes() {
-    return {{AppMode::check, QStringLiteral("Prüfen")}};
+    return {{AppMode::check, QStringLiteral("Prüfen")}, {AppMode::contest, QStringLiteral("Contest")}};
 }
 
 }  // namespace
 
-SidebarPane::SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* parent)
-    : QScrollArea(parent), store(logStore), settings(userSettings) {
+SidebarPane::SidebarPane(LogStore& logStore, ContestStore& contestStore, Settings& userSettings,
+                         QWidget* parent)
+    : QScrollArea(parent), store(logStore), contest(contestStore), settings(userSettings) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
@@ -78,9 +80,25 @@ void SidebarPane::showMode() {
         connect(check, &CheckSections::checkRequested, this, &SidebarPane::checkRequested);
         connect(check, &CheckSections::fieldAdded, this, &SidebarPane::fieldAdded);
         sections = check;
+    } else if (store.mode() == AppMode::contest) {
+        sections = new ContestSections(contest, widget());
     }
     if (sections != nullptr) {
         column->insertWidget(1, sections);
+        putIntoTabOrder();
+    }
+}
+
+/// What is made last comes last, behind the other panes, unless it is told its place.
+void SidebarPane::putIntoTabOrder() {
+    QWidget* before = modePicker;
+    for (QWidget* control : sections->findChildren<QWidget*>()) {
+        // The list of a picker is a window of its own.
+        const bool isHere = control->window() == window() && control->focusProxy() == nullptr;
+        if (isHere && (control->focusPolicy() & Qt::TabFocus) != 0) {
+            setTabOrder(before, control);
+            before = control;
+        }
     }
 }
 

@@ -9,6 +9,7 @@ class QVBoxLayout;
 
 namespace quillon {
 
+class ContestStore;
 class LogStore;
 class Settings;
 
@@ -18,8 +19,9 @@ class SidebarPane : public QScrollArea {
     Q_OBJECT
 
   public:
-    /// Both outlive the pane.
-    SidebarPane(LogStore& logStore, Settings& userSettings, QWidget* parent = nullptr);
+    /// All of them outlive the pane.
+    SidebarPane(LogStore& logStore, ContestStore& contestStore, Settings& userSettings,
+                QWidget* parent = nullptr);
 
   signals:
     /// The user wants the log checked.
@@ -32,9 +34,11 @@ class SidebarPane : public QScrollArea {
 
   private:
     void showMode();
+    void putIntoTabOrder();
     void makeRoom();
 
     LogStore& store;
+    ContestStore& contest;
     Settings& settings;
     QComboBox* modePicker = nullptr;
     QVBoxLayout* column = nullptr;

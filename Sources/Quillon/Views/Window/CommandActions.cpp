@@ -32,9 +32,12 @@ CommandActions::CommandActions(ContentView& contentView) : QObject(&contentView)
         if (command.reach == ShortcutReach::focus) {
             action->setShortcutContext(Qt::WidgetShortcut);
         }
-        connect(action, &QAction::triggered, this, [this, run = command.run] {
+        connect(action, &QAction::triggered, this, [this, &command] {
             window.commitEditing();
-            run(window);
+            if (command.table == TableUse::shows) {
+                window.showTable();
+            }
+            command.run(window);
         });
         actions[static_cast<std::size_t>(command.id)] = action;
         if (!command.toolBarTitle.isEmpty()) {
@@ -42,6 +45,7 @@ CommandActions::CommandActions(ContentView& contentView) : QObject(&contentView)
         }
     }
     LogStore& store = window.store();
+    connect(&store, &LogStore::modeChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::historyChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::documentChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::displayedRecordsChanged, this, &CommandActions::refresh);
@@ -89,9 +93,9 @@ void CommandActions::showIcon(const Command& command) {
 
 void CommandActions::refresh() {
     for (const Command& command : commands()) {
-        if (command.isEnabled != nullptr) {
-            action(command.id)->setEnabled(command.isEnabled(window));
-        }
+        const bool isSeen = command.table != TableUse::needs || window.isTableShown();
+        const bool isPossible = command.isEnabled == nullptr || command.isEnabled(window);
+        action(command.id)->setEnabled(isSeen && isPossible);
     }
 }
 

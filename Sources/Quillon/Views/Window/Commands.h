@@ -56,6 +56,13 @@ enum class ShortcutReach {
              ///< something else.
 };
 
+/// What a command has to do with the table.
+enum class TableUse {
+    none,   ///< It does without.
+    shows,  ///< It brings the table into the work area first: what it does is seen there.
+    needs,  ///< It is about what is chosen in the table, and off while that is not seen.
+};
+
 /// A command of the program: what menu, tool bar, shortcut and test know of it.
 struct Command {
     CommandID id = CommandID::newLog;
@@ -65,11 +72,13 @@ struct Command {
     QString iconName = {};               ///< Empty if it has none.
     QList<QKeySequence> shortcuts = {};  ///< The first is the one that is shown.
     ShortcutReach reach = ShortcutReach::window;
+    TableUse table = TableUse::none;
     QString toolTip = {};             ///< Empty for the title and the shortcut.
     bool startsGroup = false;         ///< In the menu a divider stands in front of it.
     bool startsToolBarGroup = false;  ///< In the tool bar a divider stands in front of it.
     std::function<void(ContentView& window)> run = {};
-    bool (*isEnabled)(const ContentView& window) = nullptr;  ///< Null if it always is.
+    bool (*isEnabled)(const ContentView& window) =
+        nullptr;  ///< Null if the state of the log allows it always.
 
     /// The title as it is read, without "&".
     QString plainTitle() const;

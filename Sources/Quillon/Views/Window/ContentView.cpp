@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Contest/ContestView.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/ErrorAlert.h"
 #include "Quillon/Views/Controls/Icons.h"
@@ -11,9 +12,6 @@
 #include "Quillon/Views/Controls/PaneSplitter.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
-#include "Quillon/Views/Sheets/BulkEditSheet.h"
-#include "Quillon/Views/Sheets/CabrilloExportSheet.h"
-#include "Quillon/Views/Sheets/EDIExportSheet.h"
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
@@ -24,7 +22,9 @@
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/NoHits.h"
 #include "Quillon/Views/Window/PaneKeys.h"
+#include "Quillon/Views/Window/SearchField.h"
 #include "Quillon/Views/Window/StatusLine.h"
+#include "Quillon/Views/Window/StoreSheets.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <QAction>
@@ -32,7 +32,6 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -52,11 +51,12 @@ namespace {
 
 constexpr QSize minimumWindowSize(1000, 480);
 constexpr QSize firstWindowSize(1280, 800);
-constexpr int searchFieldWidthPx = 200;
 constexpr int resultsHeightPx = 200;
+constexpr std::size_t mostContestIssues = 100;
 
 constexpr PaneWidths sidebarWidths = {.least = 220, .ideal = 250, .most = 320};
-constexpr PaneWidths tableWidths = {.least = 420, .ideal = 600};
+constexpr PaneWidths tableWidths = {.least = 420, .ideal = 600, .takesRoom = true};
+constexpr PaneWidths dashboardWidths = {.least = 600, .ideal = 900, .takesRoom = true};
 constexpr PaneWidths detailWidths = {.least = 260, .ideal = 300, .most = 400};
 
 /// The local files among what is dragged.
@@ -72,9 +72,11 @@ QStringList draggedFiles(const QMimeData& data) {
 
 }  // namespace
 
-ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList arguments, QWidget* parent)
+ContentView::ContentView(LogStore& store, ContestStore& contestStore, Settings& userSettings,
+                         QStringList arguments, QWidget* parent)
     : QMainWindow(parent),
       logStore(store),
+      contest(contestStore),
       settings(userSettings),
       startArguments(std::move(arguments)),
       questions(std::make_unique<TableDialogs>()) {
@@ -92,6 +94,7 @@ ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList ar
     buildToolBar();
     paneKeys = std::make_unique<PaneKeys>(*this, [this] { return panes(); });
     dropHint = new DropHint(*this);
+    new StoreSheets(logStore, *this);
     followStore();
     auto* alert = new ErrorAlert(
         QStringLiteral("Fehler"), [this] { return logStore.errorMessage(); },
@@ -101,19 +104,28 @@ ContentView::ContentView(LogStore& store, Settings& userSettings, QStringList ar
 
 ContentView::~ContentView() = default;
 
+bool ContentView::isTableShown() const {
+    return logStore.mode() == AppMode::check || logStore.mode() == AppMode::outdoor;
+}
+
+void ContentView::showTable() {
+    if (!isTableShown()) {
+        logStore.setMode(AppMode::check);
+    }
+}
+
 void ContentView::newLog() {
     logStore.newLog();
-    focusTable();
+    focusWorkArea();
 }
 
 void ContentView::openWithPanel() {
     logStore.openWithPanel();
-    focusTable();
+    focusWorkArea();
 }
 
 void ContentView::focusSearch() {
-    searchField->setFocus(Qt::ShortcutFocusReason);
-    searchField->selectAll();
+    searchField->startTyping();
 }
 
 void ContentView::toggleFullScreen() {
@@ -160,18 +172,23 @@ void ContentView::buildPanes() {
     setCentralWidget(area);
 
     auto* splitter = new PaneSplitter(area);
-    sidebar = new SidebarPane(logStore, settings, splitter);
-    auto* work = new QWidget(splitter);
-    tableColumn = new QVBoxLayout(work);
+    sidebar = new SidebarPane(logStore, contest, settings, splitter);
+    tableArea = new QWidget(splitter);
+    tableColumn = new QVBoxLayout(tableArea);
     tableColumn->setContentsMargins(0, 0, 0, 0);
     tableColumn->setSpacing(0);
-    tableView = new QSOTableView(logStore, *questions, work);
+    tableView = new QSOTableView(logStore, *questions, tableArea);
     tableColumn->addWidget(tableView, 1);
     detail = new RecordDetailView(logStore, splitter);
     splitter->addPane(sidebar, sidebarWidths);
-    splitter->addPane(work, tableWidths);
+    splitter->addPane(tableArea, tableWidths);
     splitter->addPane(detail, detailWidths);
-    splitter->setRoomTaker(1);
+    contestView = new ContestView(logStore, contest, mostContestIssues, splitter);
+    splitter->addPane(contestView, dashboardWidths);
+    connect(contestView, &ContestView::qsoWanted, this, [this](tallyrig::UUID record) {
+        tableView->showCell(record);
+        focusTable();
+    });
 
     areaLayout->addWidget(splitter, 1);
     areaLayout->addWidget(horizontalLine(area));
@@ -206,63 +223,41 @@ void ContentView::buildToolBar() {
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(gap);
 
-    searchField = new QLineEdit(bar);
-    searchField->setPlaceholderText(QStringLiteral("Suchen"));
-    searchField->setAccessibleName(QStringLiteral("Suchen"));
+    searchField = new SearchField(logStore, bar);
     searchField->setToolTip(commandActions->action(CommandID::find)->toolTip());
-    searchField->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
-    searchField->setFixedWidth(searchFieldWidthPx);
-    searchField->setAcceptDrops(false);
     bar->addWidget(searchField);
     auto* margin = new QWidget(bar);
     margin->setFixedWidth(6);
     bar->addWidget(margin);
 
-    connect(searchField, &QLineEdit::textChanged, this, [this](const QString& text) {
-        searchField->setClearButtonEnabled(true);
-        logStore.setSearchText(text);
+    connect(searchField, &SearchField::typed, this, &ContentView::showTable);
+    connect(searchField, &SearchField::left, this, [this] {
+        showTable();
+        tableView->enterRows();
     });
-    connect(searchField, &QLineEdit::returnPressed, tableView, &QSOTableView::enterRows);
-    new QShortcut(Qt::Key_Down, searchField, tableView, &QSOTableView::enterRows, Qt::WidgetShortcut);
-    new QShortcut(
-        Qt::Key_Escape, searchField, this,
-        [this] {
-            searchField->clear();
-            tableView->enterRows();
-        },
-        Qt::WidgetShortcut);
 }
 
 void ContentView::followStore() {
     connect(&logStore, &LogStore::windowTitleChanged, this, &ContentView::showTitle);
     connect(&logStore, &LogStore::showCheckResultsChanged, this, &ContentView::showResults);
-    connect(&logStore, &LogStore::bulkEditColumnChanged, this, &ContentView::showBulkEdit);
-    connect(&logStore, &LogStore::showCabrilloExportChanged, this, &ContentView::showCabrilloExport);
-    connect(&logStore, &LogStore::showEDIExportChanged, this, &ContentView::showEDIExport);
+    connect(&logStore, &LogStore::modeChanged, this, &ContentView::showMode);
     connect(&logStore, &LogStore::exported, this, [this](const QString& path) {
         statusLine->showNotice(qsoCount(logStore.document().records().size()) + QStringLiteral(" nach „") +
                                QFileInfo(path).fileName() + QStringLiteral("“ exportiert"));
     });
-    connect(&logStore, &LogStore::searchTextChanged, this, [this] {
-        if (searchField->text() != logStore.searchText()) {
-            searchField->setText(logStore.searchText());
-        }
-        endSearchKey->setEnabled(!logStore.searchText().isEmpty());
-    });
+    connect(&logStore, &LogStore::searchTextChanged, this,
+            [this] { endSearchKey->setEnabled(!logStore.searchText().isEmpty()); });
     endSearchKey->setEnabled(!logStore.searchText().isEmpty());
-    searchField->setText(logStore.searchText());
     showTitle();
+    showMode();
     showResults();
-    showBulkEdit();
-    showCabrilloExport();
-    showEDIExport();
 }
 
 void ContentView::comeUp() {
     matchIconsToPalette();
     showBusyCursorUntilIdle();
     logStore.openFromCommandLineIfNeeded(startArguments);
-    focusTable();
+    focusWorkArea();
     emit cameUp();
 }
 
@@ -270,15 +265,35 @@ void ContentView::openFile(const QString& path) {
     commitEditing();
     showBusyCursorUntilIdle();
     logStore.open(path);
-    focusTable();
+    focusWorkArea();
+}
+
+void ContentView::showMode() {
+    // What is typed in a cell is the user's, also where it goes out of sight.
+    commitEditing();
+    const QWidget* const keyboard = focusWidget();
+    tableArea->setVisible(isTableShown());
+    detail->setVisible(isTableShown());
+    contestView->setVisible(logStore.mode() == AppMode::contest);
+    if (keyboard != nullptr && !keyboard->isVisibleTo(this)) {
+        focusWorkArea();
+    }
 }
 
 void ContentView::focusTable() {
     tableView->body().setFocus();
 }
 
+void ContentView::focusWorkArea() {
+    if (isTableShown()) {
+        focusTable();
+    } else {
+        contestView->setFocus();
+    }
+}
+
 QWidgetList ContentView::panes() const {
-    return {searchField, sidebar, tableView, results, detail};
+    return {searchField, sidebar, tableView, results, detail, contestView};
 }
 
 void ContentView::showResults() {
@@ -304,48 +319,6 @@ void ContentView::showResults() {
     }
     if (results != nullptr) {
         results->setVisible(logStore.showCheckResults());
-    }
-}
-
-void ContentView::showBulkEdit() {
-    closeSheet(bulkEdit);
-    if (logStore.bulkEditColumn()) {
-        openSheet(bulkEdit, new BulkEditSheet(logStore, *logStore.bulkEditColumn(), this),
-                  [this] { logStore.setBulkEditColumn(std::nullopt); });
-    }
-}
-
-void ContentView::showCabrilloExport() {
-    closeSheet(cabrilloExport);
-    if (logStore.showCabrilloExport()) {
-        openSheet(cabrilloExport, new CabrilloExportSheet(logStore, this),
-                  [this] { logStore.setShowCabrilloExport(false); });
-    }
-}
-
-void ContentView::showEDIExport() {
-    closeSheet(ediExport);
-    if (logStore.showEDIExport()) {
-        openSheet(ediExport, new EDIExportSheet(logStore, this),
-                  [this] { logStore.setShowEDIExport(false); });
-    }
-}
-
-void ContentView::openSheet(QPointer<QDialog>& place, QDialog* sheet, const std::function<void()>& ended) {
-    place = sheet;
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &QDialog::finished, this, [&place, ended] {
-        place.clear();
-        ended();
-    });
-    sheet->open();
-}
-
-void ContentView::closeSheet(QPointer<QDialog>& place) {
-    if (place) {
-        disconnect(place, nullptr, this, nullptr);
-        place->close();
-        place.clear();
     }
 }
 

@@ -1,25 +1,24 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QStringList>
 
-#include <functional>
 #include <memory>
 
 class QBoxLayout;
-class QDialog;
-class QLineEdit;
 class QShortcut;
 
 namespace quillon {
 
 class CommandActions;
+class ContestStore;
+class ContestView;
 class DropHint;
 class LogStore;
 class PaneKeys;
 class QSOTableView;
 class RecordDetailView;
+class SearchField;
 class Settings;
 class SidebarPane;
 class StatusLine;
@@ -31,14 +30,19 @@ class ContentView : public QMainWindow {
     Q_OBJECT
 
   public:
-    /// Store and settings outlive the window. A log that `arguments`, those of the program without its name,
+    /// Stores and settings outlive the window. A log that `arguments`, those of the program without its name,
     /// ask for is opened when the window is on screen.
-    ContentView(LogStore& logStore, Settings& userSettings, QStringList arguments, QWidget* parent = nullptr);
+    ContentView(LogStore& logStore, ContestStore& contestStore, Settings& userSettings, QStringList arguments,
+                QWidget* parent = nullptr);
     ~ContentView() override;
 
     LogStore& store() const { return logStore; }
     QSOTableView& table() const { return *tableView; }
     const CommandActions& actions() const { return *commandActions; }
+    /// Whether the work area shows the table.
+    bool isTableShown() const;
+    /// Lets the work area show the table, if it does not.
+    void showTable();
 
     // What the commands do beyond the store.
     void newLog();
@@ -67,37 +71,33 @@ class ContentView : public QMainWindow {
     void followStore();
     void comeUp();
     void openFile(const QString& path);
+    void showMode();
     void focusTable();
+    /// Gives the keyboard to what the work area shows.
+    void focusWorkArea();
     /// What F6 goes through; some may be absent or hidden.
     QWidgetList panes() const;
     void showResults();
-    void showBulkEdit();
-    void showCabrilloExport();
-    void showEDIExport();
-    /// Opens `sheet` and keeps it in `place`, a member, until it is closed; then calls `ended`.
-    void openSheet(QPointer<QDialog>& place, QDialog* sheet, const std::function<void()>& ended);
-    /// Closes the sheet that is open there, if any, as if it had never been.
-    void closeSheet(QPointer<QDialog>& place);
     void showTitle();
 
     LogStore& logStore;
+    ContestStore& contest;
     Settings& settings;
     QStringList startArguments;
     std::unique_ptr<TableQuestions> questions;
     std::unique_ptr<PaneKeys> paneKeys;  ///< Goes before the panes that it looks at.
     CommandActions* commandActions = nullptr;
-    QLineEdit* searchField = nullptr;
+    SearchField* searchField = nullptr;
     QSOTableView* tableView = nullptr;
     RecordDetailView* detail = nullptr;
     StatusLine* statusLine = nullptr;
     DropHint* dropHint = nullptr;
+    QWidget* tableArea = nullptr;
     QBoxLayout* tableColumn = nullptr;
+    ContestView* contestView = nullptr;
     QShortcut* endSearchKey = nullptr;
     SidebarPane* sidebar = nullptr;
     QWidget* results = nullptr;  ///< Null until there are results to show.
-    QPointer<QDialog> bulkEdit;
-    QPointer<QDialog> cabrilloExport;
-    QPointer<QDialog> ediExport;
     bool hasComeUp = false;
 };
 

@@ -1,5 +1,6 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 
+#include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
@@ -12,6 +13,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 
 #include <memory>
@@ -22,7 +24,7 @@ namespace {
 class Sidebar : public testing::LogStoreTest {
   protected:
     void show() {
-        pane = std::make_unique<SidebarPane>(store, settings);
+        pane = std::make_unique<SidebarPane>(store, contest, settings);
         QObject::connect(pane.get(), &SidebarPane::checkRequested, &store, &LogStore::runCheck);
     }
     template <typename Control>
@@ -41,6 +43,7 @@ class Sidebar : public testing::LogStoreTest {
         return states;
     }
 
+    ContestStore contest;
     std::unique_ptr<SidebarPane> pane;
 };
 
@@ -148,6 +151,85 @@ TEST_F(Sidebar, ProposesTheExtensionOfTheExport) {
     button("ADIF (.adi) …").click();
     EXPECT_EQ(panels.proposedNames.last(), QStringLiteral("contest.adi"));
     EXPECT_EQ(title(), "copy.adi");
+}
+
+/// The sidebar as it is while the log is scored.
+class ContestSidebar : public Sidebar {
+  protected:
+    void showFor(Contest chosen) {
+        contest.setContest(chosen);
+        store.setMode(AppMode::contest);
+        show();
+    }
+    void typeInto(const char* name, const char* text) {
+        auto& field = named<QLineEdit>(name);
+        field.selectAll();
+        QTest::keyClicks(&field, QString::fromUtf8(text));
+    }
+    void choose(const char* name, int index) { named<QComboBox>(name).setCurrentIndex(index); }
+    bool offers(const char* text) const {
+        return ("\n" + testing::shownTexts(*pane) + "\n").find("\n" + std::string(text) + "\n") !=
+               std::string::npos;
+    }
+};
+
+TEST_F(ContestSidebar, FindsAContestByTyping) {
+    showFor(Contest::helvetia);
+    auto& picker = named<QComboBox>("Contest");
+    QTest::keyClick(&picker, 'w');
+    QTest::keyClicks(picker.view(), QStringLiteral("px r"));
+    QTest::keyClick(picker.view(), Qt::Key_Return);
+    EXPECT_EQ(contest.contest(), Contest::cqWPXRtty);
+    EXPECT_TRUE(offers(std::string(info(Contest::cqWPXRtty)).c_str()));
+    EXPECT_FALSE(offers("Regeln"));
+}
+
+TEST_F(ContestSidebar, TakesTheOwnStationAsTyped) {
+    showFor(Contest::helvetia);
+    typeInto("DXCC-Gebiet", "230");
+    typeInto("Kontinent", "eu ");
+    typeInto("CQ-Zone", "15");
+    typeInto("ITU-Zone", "29");
+    typeInto("Locator", "jo62");
+    EXPECT_EQ(contest.ownStation(), (OwnStation{"230", "eu ", "15", "29", "jo62"}));
+}
+
+TEST_F(ContestSidebar, HasTheFormOfAContestOfOnesOwn) {
+    showFor(Contest::generic);
+    EXPECT_TRUE(offers("Regeln") && offers("Dubletten & Pflichtfelder") && offers("Multiplikator"));
+    typeInto("Name", "Fuchsjagd");
+    named<QSpinBox>("Punkte je QSO").setValue(101);
+    choose("Punkte", 2);
+    EXPECT_TRUE(offers("Punkte-Feld") && !offers("Eigenes Locator-Feld"));
+    typeInto("Punkte-Feld", "SRX");
+    choose("Punkte", 1);
+    EXPECT_TRUE(offers("Gegen-Locator-Feld") && !offers("Punkte-Feld"));
+    typeInto("Eigenes Locator-Feld", "A");
+    typeInto("Gegen-Locator-Feld", "B");
+    choose("Dublette =", 1);
+    typeInto("Pflichtfelder (Komma)", "CALL, SRX");
+    auto& prefix = named<QSpinBox>("Wie viel des Wertes zählt");
+    EXPECT_EQ(prefix.text(), QStringLiteral("ganzer Wert"));
+    prefix.setValue(4);
+    EXPECT_EQ(prefix.text(), QStringLiteral("erste 4 Zeichen"));
+    typeInto("Feld", "GRIDSQUARE");
+    const GenericContest filledIn = {.contestName = "Fuchsjagd",
+                                     .pointsKind = PointsKind::distance,
+                                     .fixedPoints = 100,
+                                     .pointsField = "SRX",
+                                     .myGridField = "A",
+                                     .theirGridField = "B",
+                                     .dupeMode = DupeMode::callBandMode,
+                                     .requiredFieldsText = "CALL, SRX",
+                                     .multiplierField = "GRIDSQUARE",
+                                     .multiplierPrefix = 4};
+    EXPECT_EQ(contest.genericContest(), filledIn);
+
+    pane->findChildren<QCheckBox*>()[1]->click();
+    pane->findChildren<QCheckBox*>()[0]->click();
+    EXPECT_FALSE(offers("Feld"));
+    EXPECT_FALSE(contest.genericContest().multiplierEnabled);
+    EXPECT_TRUE(contest.genericContest().multiplierPerBand);
 }
 
 }  // namespace

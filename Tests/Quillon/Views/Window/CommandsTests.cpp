@@ -1,5 +1,6 @@
 #include "Quillon/Views/Window/Commands.h"
 
+#include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/QSOTableView.h"
@@ -38,7 +39,8 @@ class Commands : public LogStoreTest {
     }
     QAction& action(CommandID command) const { return *window.actions().action(command); }
 
-    ContentView window{store, settings, {}};
+    ContestStore contest;
+    ContentView window{store, contest, settings, {}};
 };
 
 TEST_F(Commands, ShareNoShortcutAndNoLetterOfAMenu) {

@@ -1,8 +1,11 @@
 #include "Quillon/Views/Window/ContentView.h"
 
+#include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Contest/ContestView.h"
+#include "Quillon/Views/Controls/FindingList.h"
 #include "Quillon/Views/Detail/FieldRow.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
 #include "Quillon/Views/Sheets/BulkEditSheet.h"
@@ -10,12 +13,14 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
+#include "Quillon/Views/Window/CommandActions.h"
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/NoHits.h"
 #include "Quillon/Views/Window/StatusLine.h"
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QLineEdit>
@@ -36,7 +41,7 @@ namespace {
 class Window : public testing::LogStoreTest {
   protected:
     void show(const QStringList& arguments = {}) {
-        window = std::make_unique<ContentView>(store, settings, arguments);
+        window = std::make_unique<ContentView>(store, contest, settings, arguments);
         QSignalSpy up(window.get(), &ContentView::cameUp);
         window->show();
         window->activateWindow();
@@ -60,6 +65,7 @@ class Window : public testing::LogStoreTest {
         return focus != nullptr && window->findChild<QSOTableView*>()->isAncestorOf(focus);
     }
 
+    ContestStore contest;
     std::unique_ptr<ContentView> window;
 };
 
@@ -243,6 +249,40 @@ TEST_F(Window, SaysWhereAnExportWent) {
     panels.answers = {folder.path(QStringLiteral("x.edi"))};
     store.exportEDI({});
     EXPECT_NE(status().find("1 QSO nach „x.edi“ exportiert"), std::string::npos) << status();
+}
+
+TEST_F(Window, TakesTheUserFromAQSOThatDoesNotCountToItsRow) {
+    openLog({"CALL=DL1ABC BAND=2M", "CALL=DL1ABC BAND=2M", "CALL=DL2ABC BAND=2M"});
+    show();
+    type(2, "CALL", "DL2XYZ");
+    store.setSearchText(QStringLiteral("DL2"));
+    contest.setContest(Contest::generic);
+    store.setMode(AppMode::contest);
+    auto* figures = window->findChild<ContestView*>();
+    EXPECT_TRUE(figures->isVisible());
+    EXPECT_FALSE(window->table().isVisible() || window->findChild<RecordDetailView*>()->isVisible());
+
+    EXPECT_TRUE(figures->isAncestorOf(QApplication::focusWidget())) << "and no longer in the hidden table";
+    figures->findChild<FindingList*>()->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(figures->isVisible());
+    EXPECT_TRUE(tableHasFocus());
+    EXPECT_EQ(store.selection(), LogStore::Selection{id(1)});
+    EXPECT_EQ(store.searchText(), QString()) << "it hid the QSO";
+}
+
+TEST_F(Window, ShowsTheTableToWhomItsCommandsSearchOrAdd) {
+    openLog({"CALL=DL1ABC"});
+    show();
+    select({0});
+    store.setMode(AppMode::contest);
+    EXPECT_FALSE(window->actions().action(CommandID::deleteSelected)->isEnabled()) << "nobody sees what goes";
+    QTest::keyClick(&searchField(), Qt::Key_D);
+    EXPECT_TRUE(window->table().isVisible());
+    EXPECT_TRUE(window->actions().action(CommandID::deleteSelected)->isEnabled());
+    store.setMode(AppMode::contest);
+    window->actions().action(CommandID::addRecord)->trigger();
+    EXPECT_TRUE(window->table().isVisible());
 }
 
 TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace quillon {
+
+/// How a figure strikes the reader.
+enum class Tone { plain, warning, error };
+
+/// A key figure with the word for it below, on a ground of its own. The figure can be copied.
+class Tile : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit Tile(const QString& caption, QWidget* parent = nullptr);
+
+    /// `figure` as it is read, such as "1.204".
+    void setFigure(const QString& figure, Tone tone = Tone::plain);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void color();
+
+    QLabel* number;
+    QLabel* word;
+    Tone figureTone = Tone::plain;
+};
+
+}  // namespace quillon

@@ -1,0 +1,82 @@
+#include "Quillon/Views/Controls/TileLayout.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace quillon {
+
+TileLayout::TileLayout(QWidget* parent) : QLayout(parent) {
+    setContentsMargins(0, 0, 0, 0);
+    setSpacing(12);
+}
+
+TileLayout::~TileLayout() = default;
+
+int TileLayout::columns(int count, int width, int leastWidth, int gap) {
+    int inRow = std::max(count, 1);
+    while (inRow > 1 && (count % inRow != 0 || inRow * leastWidth + (inRow - 1) * gap > width)) {
+        --inRow;
+    }
+    return inRow;
+}
+
+void TileLayout::addItem(QLayoutItem* item) {
+    items.emplace_back(item);
+}
+
+QLayoutItem* TileLayout::itemAt(int index) const {
+    return index >= 0 && index < count() ? items[static_cast<std::size_t>(index)].get() : nullptr;
+}
+
+QLayoutItem* TileLayout::takeAt(int index) {
+    if (index < 0 || index >= count()) {
+        return nullptr;
+    }
+    QLayoutItem* const taken = items[static_cast<std::size_t>(index)].release();
+    items.erase(items.begin() + index);
+    return taken;
+}
+
+int TileLayout::heightForWidth(int width) const {
+    const int inRow = columns(count(), width, minimumSize().width(), spacing());
+    const int rows = (count() + inRow - 1) / inRow;
+    const int tileWidth = (width - (inRow - 1) * spacing()) / inRow;
+    return rows * rowHeight(tileWidth) + std::max(rows - 1, 0) * spacing();
+}
+
+QSize TileLayout::sizeHint() const {
+    const QSize tile = minimumSize();
+    return {count() * tile.width() + std::max(count() - 1, 0) * spacing(), tile.height()};
+}
+
+QSize TileLayout::minimumSize() const {
+    QSize largest;
+    for (const auto& item : items) {
+        largest = largest.expandedTo(item->sizeHint());
+    }
+    return largest;
+}
+
+void TileLayout::setGeometry(const QRect& area) {
+    QLayout::setGeometry(area);
+    const int inRow = columns(count(), area.width(), minimumSize().width(), spacing());
+    const int tileWidth = (area.width() - (inRow - 1) * spacing()) / inRow;
+    const int height = rowHeight(tileWidth);
+    for (int index = 0; index < count(); ++index) {
+        const int column = index % inRow;
+        const int row = index / inRow;
+        itemAt(index)->setGeometry(QRect(area.x() + column * (tileWidth + spacing()),
+                                         area.y() + row * (height + spacing()), tileWidth, height));
+    }
+}
+
+int TileLayout::rowHeight(int tileWidth) const {
+    int highest = 0;
+    for (const auto& item : items) {
+        highest = std::max(
+            highest, item->hasHeightForWidth() ? item->heightForWidth(tileWidth) : item->sizeHint().height());
+    }
+    return highest;
+}
+
+}  // namespace quillon

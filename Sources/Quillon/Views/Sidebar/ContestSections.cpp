@@ -1,0 +1,96 @@
+#include "Quillon/Views/Sidebar/ContestSections.h"
+
+#include "Quillon/Catalogue/Contests.h"
+#include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Views/Controls/BoundedField.h"
+#include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/SearchedComboBox.h"
+#include "Quillon/Views/Controls/SidebarSection.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Sidebar/GenericContestForm.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <cstddef>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr int longestText = 1000;
+
+}  // namespace
+
+ContestSections::ContestSections(ContestStore& contestStore, QWidget* parent)
+    : QWidget(parent), store(contestStore) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(18);
+    column->addWidget(panes());
+    column->addWidget(contest());
+    column->addWidget(ownStation());
+    auto* form = new GenericContestForm(store, this);
+    column->addWidget(form);
+    const auto showForm = [this, form] { form->setVisible(store.contest() == Contest::generic); };
+    connect(&store, &ContestStore::contestChanged, form, showForm);
+    showForm();
+}
+
+SidebarSection* ContestSections::panes() {
+    auto* section = new SidebarSection(QStringLiteral("Contest-Ansicht"), this);
+    auto* picker = new CalmComboBox(section);
+    picker->addItem(QStringLiteral("Eigenes Log"));
+    section->addUnderHeading(picker);
+    return section;
+}
+
+SidebarSection* ContestSections::contest() {
+    auto* section = new SidebarSection(QStringLiteral("Contest"), this);
+    auto* picker = new SearchedComboBox(section);
+    for (const Contest offered : contests) {
+        picker->addItem(toQString(label(offered)));
+    }
+    section->addUnderHeading(picker);
+    QLabel* note = section->addNote(QString());
+    const auto show = [this, picker, note] {
+        picker->setCurrentIndex(static_cast<int>(store.contest()));
+        note->setText(toQString(info(store.contest())));
+    };
+    connect(picker, &QComboBox::currentIndexChanged, this,
+            [this](int index) { store.setContest(contests[static_cast<std::size_t>(index)]); });
+    connect(&store, &ContestStore::contestChanged, this, show);
+    show();
+    return section;
+}
+
+SidebarSection* ContestSections::ownStation() {
+    auto* section = new SidebarSection(QStringLiteral("Mein Standort"), this);
+    addText(*section, QStringLiteral("DXCC-Gebiet"), &OwnStation::myDXCC,
+            QStringLiteral("Die Nummer des Gebiets, z. B. 287 für die Schweiz, 230 für Deutschland, 206 für "
+                           "Österreich"));
+    addText(*section, QStringLiteral("Kontinent"), &OwnStation::myContinent,
+            QStringLiteral("EU, NA, SA, AF, AS, OC oder AN"));
+    addText(*section, QStringLiteral("CQ-Zone"), &OwnStation::myCQZone, QStringLiteral("1 bis 40"));
+    addText(*section, QStringLiteral("ITU-Zone"), &OwnStation::myITUZone, QStringLiteral("1 bis 90"));
+    addText(*section, QStringLiteral("Locator"), &OwnStation::myGrid,
+            QStringLiteral("Gilt für QSOs, in denen kein eigener Locator steht, z. B. JN47PN"));
+    return section;
+}
+
+void ContestSections::addText(SidebarSection& section, const QString& label, std::string OwnStation::*member,
+                              const QString& toolTip) {
+    auto* field = new BoundedLine(longestText, &section);
+    field->setText(store.ownStation().*member);
+    field->editor().setToolTip(toolTip);
+    connect(&field->editor(), &QLineEdit::textEdited, this, [this, member](const QString& text) {
+        OwnStation changed = store.ownStation();
+        changed.*member = text.toStdString();
+        store.setOwnStation(std::move(changed));
+    });
+    section.addLabelled(label, field);
+}
+
+}  // namespace quillon

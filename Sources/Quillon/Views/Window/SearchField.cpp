@@ -1,0 +1,50 @@
+#include "Quillon/Views/Window/SearchField.h"
+
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/Icons.h"
+
+#include <QShortcut>
+
+namespace quillon {
+
+namespace {
+
+constexpr int widthPx = 200;
+
+}  // namespace
+
+SearchField::SearchField(LogStore& logStore, QWidget* parent) : QLineEdit(parent), store(logStore) {
+    setPlaceholderText(QStringLiteral("Suchen"));
+    setAccessibleName(QStringLiteral("Suchen"));
+    addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    setFixedWidth(widthPx);
+    setAcceptDrops(false);
+    setText(store.searchText());
+
+    connect(this, &QLineEdit::textEdited, this, &SearchField::typed);
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        setClearButtonEnabled(true);
+        store.setSearchText(text);
+    });
+    connect(&store, &LogStore::searchTextChanged, this, [this] {
+        if (text() != store.searchText()) {
+            setText(store.searchText());
+        }
+    });
+    connect(this, &QLineEdit::returnPressed, this, &SearchField::left);
+    new QShortcut(Qt::Key_Down, this, this, &SearchField::left, Qt::WidgetShortcut);
+    new QShortcut(
+        Qt::Key_Escape, this, this,
+        [this] {
+            clear();
+            emit left();
+        },
+        Qt::WidgetShortcut);
+}
+
+void SearchField::startTyping() {
+    setFocus(Qt::ShortcutFocusReason);
+    selectAll();
+}
+
+}  // namespace quillon
