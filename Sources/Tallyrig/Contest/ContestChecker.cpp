@@ -3,6 +3,8 @@
 #include "Tallyrig/Contest/ContestRun.h"
 #include "Tallyrig/Geography/DXCCInfo.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace tallyrig {
@@ -17,6 +19,21 @@ ContestScore ContestChecker::score(const ADIFDocument& log,
                                    const std::unordered_map<UUID, CrossCheckStatus>& crossCheck,
                                    const CrossCheckPenalties& penalties) const {
     return ContestRun(contestRules, crossCheck, penalties).score(log);
+}
+
+ContestScore ContestChecker::score(const ADIFDocument& log, const CrossCheckReport& adjudicatedBy, UUID logID,
+                                   const CrossCheckPenalties& penalties) const {
+    const auto findings = adjudicatedBy.findings(logID);
+    // Most findings change nothing and need to be known only where a later one may be on the same record.
+    const bool areAllDifferent = std::ranges::adjacent_find(findings, std::ranges::greater_equal(),
+                                                            &CrossCheckFinding::id) == findings.end();
+    std::unordered_map<UUID, CrossCheckStatus> statuses;
+    for (const CrossCheckFinding& finding : findings) {
+        if (!areAllDifferent || isError(finding.status)) {
+            statuses.emplace(finding.id, finding.status);
+        }
+    }
+    return score(log, statuses, penalties);
 }
 
 ADIFRecord ContestChecker::withDerivedDXCC(const ADIFRecord& record) {

@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Contest/ContestRules.h"
 #include "Tallyrig/Contest/ContestScore.h"
+#include "Tallyrig/CrossCheck/CrossCheckReport.h"
 #include "Tallyrig/CrossCheck/CrossCheckStatus.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/ADIFRecord.h"
@@ -34,6 +35,10 @@ class ContestChecker {
     /// The score with what a cross-check has found, by the ids of the records: QSOs not in the other log and
     /// busted ones are removed and cost their penalty.
     ContestScore score(const ADIFDocument& log, const std::unordered_map<UUID, CrossCheckStatus>& crossCheck,
+                       const CrossCheckPenalties& penalties) const;
+    /// The same with what the report says of the log of this id; of several findings on one record the first
+    /// counts.
+    ContestScore score(const ADIFDocument& log, const CrossCheckReport& adjudicatedBy, UUID logID,
                        const CrossCheckPenalties& penalties) const;
 
     /// `record` with the entity of its call in `DXCC`, where that is empty and the call tells it.
