@@ -20,14 +20,13 @@ constexpr int marginPx = 12;
 /// A header can hold a whole book, or a file that is no log at all.
 constexpr std::size_t mostCommentLines = 1000;
 
-/// The first lines of `comment`; they refer to it.
-std::vector<std::string_view> linesOf(std::string_view comment) {
+/// Takes the first lines off `text`, which they refer to.
+std::vector<std::string_view> takeLines(std::string_view& text) {
     std::vector<std::string_view> lines;
-    std::string_view rest = tallyrig::text::trimmed(comment);
-    while (!rest.empty() && lines.size() < mostCommentLines) {
-        const std::size_t end = std::min(rest.find('\n'), rest.size());
-        lines.push_back(tallyrig::text::trimmed(rest.substr(0, end)));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+    while (!text.empty() && lines.size() < mostCommentLines) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.push_back(tallyrig::text::trimmed(text.substr(0, end)));
+        text.remove_prefix(std::min(end + 1, text.size()));
     }
     return lines;
 }
@@ -46,7 +45,13 @@ void FileInfoModel::setDocument(const tallyrig::ADIFDocument& log) {
     }
     beginResetModel();
     document = log;
-    commentLines = linesOf(document.headerComment());
+    std::string_view rest = tallyrig::text::trimmed(document.headerComment());
+    commentLines = takeLines(rest);
+    if (!rest.empty()) {
+        const auto left = static_cast<std::size_t>(std::ranges::count(rest, '\n')) + 1;
+        furtherLines = "… (" + numberText(left).toStdString() + " weitere Zeilen)";
+        commentLines.push_back(furtherLines);
+    }
     endResetModel();
 }
 

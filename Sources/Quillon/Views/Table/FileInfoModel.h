@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QStyledItemDelegate>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -33,6 +34,7 @@ class FileInfoModel : public QAbstractListModel {
   private:
     tallyrig::ADIFDocument document;
     std::vector<std::string_view> commentLines;  ///< Refer to `document`.
+    std::string furtherLines;                    ///< Says how many lines of the comment are left out.
 };
 
 /// Paints such a row: the name in a column of its own, in letters of one width, and the value.

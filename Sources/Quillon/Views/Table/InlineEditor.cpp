@@ -93,7 +93,8 @@ bool InlineEditor::event(QEvent* event) {
 bool InlineEditor::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType()) {
         const auto* pressed = static_cast<QWidget*>(watched);
-        if (pressed != this && pressed != parentWidget() && !isAncestorOf(pressed) && !ownsPopup()) {
+        const bool commitsItself = pressed == parentWidget() || pressed == informedWidget;
+        if (pressed != this && !commitsItself && !isAncestorOf(pressed) && !ownsPopup()) {
             commit();
         }
     }

@@ -28,6 +28,10 @@ class InlineEditor : public QLineEdit {
 
     InlineEditor(Escape escapeKey, QWidget* parent);
 
+    /// A press of the mouse on `widget` does not close the field by itself: the widget commits when it knows
+    /// what was pressed, for what is written can move that from under the pointer.
+    void leavePressesTo(const QWidget& widget) { informedWidget = &widget; }
+
     /// Puts the text where the cell has its own.
     void setMetrics(const TableMetrics& metrics);
 
@@ -56,6 +60,7 @@ class InlineEditor : public QLineEdit {
     bool ownsPopup() const;
 
     Escape escape;
+    const QWidget* informedWidget = nullptr;  ///< Beside the parent, which commits itself, too.
     bool open = false;
 };
 

@@ -110,6 +110,8 @@ void QSOTableView::showLastStep() {
 void QSOTableView::addRecord() {
     store.setSearchText({});
     store.addRecord();
+    // In a table without columns there is no cell to open, and the row itself is what to see.
+    rows->showRecord(*store.selection().begin());
     const auto row = store.displayedRow(*store.selection().begin());
     const auto call = std::ranges::find(store.columns(), "CALL");
     rows->startEditing(

@@ -32,6 +32,7 @@ RowRuler::RowRuler(const LogStore& logStore, TableScroll& tableScroll, const Tab
                    TableBody& tableBody)
     : QWidget(&tableScroll), store(logStore), scroll(tableScroll), header(tableHeader), body(tableBody) {
     setAccessibleName(QStringLiteral("Zeilennummern"));
+    body.leavePressesTo(*this);
     connect(&tableScroll, &TableScroll::scrollYChanged, this, qOverload<>(&QWidget::update));
     connect(&store, &LogStore::selectionChanged, this, qOverload<>(&QWidget::update));
     connect(&store, &LogStore::documentChanged, this, qOverload<>(&QWidget::update));
@@ -82,6 +83,8 @@ void RowRuler::mousePressEvent(QMouseEvent* event) {
     isDragging = row && event->position().y() >= top();
     if (isDragging) {
         body.pressRow(*row, event->button(), event->modifiers());
+    } else {
+        body.commitEditing();
     }
 }
 

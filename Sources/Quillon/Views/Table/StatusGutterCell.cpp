@@ -2,17 +2,21 @@
 
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QIcon>
 #include <QPainter>
 #include <QStringList>
+
+#include <cstddef>
+#include <string_view>
 
 namespace quillon {
 namespace {
 
 constexpr int iconSizePx = 14;
 /// A record can be the duplicate of a hundred thousand others, which its message names one by one.
-constexpr int longestToolTip = 4000;
+constexpr std::size_t longestToolTip = 4000;  // Bytes.
 
 }  // namespace
 
@@ -27,11 +31,18 @@ void StatusGutterCell::paint(QPainter& painter, const QRectF& area) const {
 
 QString StatusGutterCell::toolTip() const {
     QStringList lines;
+    std::size_t room = longestToolTip;
     for (const std::string& message : messages) {
-        lines.append(toQString(message));
+        const std::string_view front = cutToShow(message, room);
+        const bool isCut = front.size() < message.size();
+        lines.append(toQString(tallyrig::text::visibleText(front)) +
+                     (isCut ? QStringLiteral("…") : QString()));
+        if (isCut) {
+            break;
+        }
+        room -= front.size();
     }
-    const QString text = lines.join(QLatin1Char('\n'));
-    return text.size() > longestToolTip ? text.left(longestToolTip) + QStringLiteral("…") : text;
+    return lines.join(QLatin1Char('\n'));
 }
 
 }  // namespace quillon

@@ -73,6 +73,8 @@ class TableBody : public QWidget, public AccessibleTable {
     void startEditing(CellPosition cell);
     const InlineEditor& editor() const { return *cellEditor; }
     void commitEditing() { cellEditor->commit(); }
+    /// Lets `strip` turn presses on it into `pressRow` before an open editor is committed.
+    void leavePressesTo(const QWidget& strip) { cellEditor->leavePressesTo(strip); }
     /// Closes the editor without writing.
     void dismissEditor() { cellEditor->dismiss(); }
 
@@ -137,7 +139,8 @@ class TableBody : public QWidget, public AccessibleTable {
     EmptyState* emptyOverlay;
     TableGeometry geometry;
     CurrentCell current;
-    bool isSelecting = false;  ///< The selection changes from here.
+    std::optional<CellContent> pressedCell;  ///< What lay under the pointer at the last press on a row.
+    bool isSelecting = false;                ///< The selection changes from here.
 };
 
 }  // namespace quillon

@@ -59,6 +59,7 @@ void TableBody::mousePressEvent(QMouseEvent* event) {
               event->modifiers());
         return;
     }
+    pressedCell.reset();
     cellEditor->commit();
     setFocus(Qt::MouseFocusReason);
     if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
@@ -78,6 +79,7 @@ void TableBody::pressRow(std::size_t row, Qt::MouseButton button, Qt::KeyboardMo
 void TableBody::press(CellPosition cell, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
     // What is written now can move the row, but it was this one that was meant.
     const CellContent pressed = current.contentOf(cell);
+    pressedCell = pressed;
     cellEditor->commit();
     setFocus(Qt::MouseFocusReason);
     if (const auto now = current.positionOf(pressed)) {
@@ -102,11 +104,11 @@ void TableBody::dragToRow(std::size_t row) {
 }
 
 void TableBody::mouseDoubleClickEvent(QMouseEvent* event) {
-    const QPointF point = contentPoint(event->position());
-    const auto row = geometry.rowAt(point.y());
-    const auto column = columnAt(event->position());
-    if (event->button() == Qt::LeftButton && row && column) {
-        startEditing({*row, *column});
+    // The first press may have written, and so moved another QSO under the pointer.
+    const auto cell = pressedCell ? current.positionOf(*pressedCell) : std::nullopt;
+    const bool isOnCell = geometry.rowAt(contentPoint(event->position()).y()) && columnAt(event->position());
+    if (event->button() == Qt::LeftButton && isOnCell && cell) {
+        startEditing(*cell);
     } else {
         mousePressEvent(event);
     }

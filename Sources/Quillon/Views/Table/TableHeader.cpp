@@ -90,11 +90,12 @@ std::optional<std::size_t> TableHeader::currentColumn() const {
 }
 
 void TableHeader::startRename(const std::string& column) {
+    // What is still to be written may rename a column, this one too.
+    commitEditing();
     const auto position = std::find(store.columns().begin(), store.columns().end(), column);
     if (position == store.columns().end()) {
         return;
     }
-    commitEditing();
     renamedColumn = column;
     const auto index = static_cast<std::size_t>(position - store.columns().begin());
     setFocusedColumn(index);
@@ -168,14 +169,16 @@ void TableHeader::paintDrop(QPainter& painter) const {
 
 /// The question whether to rename is a dialog, which must not open in the middle of the event that closed the
 /// editor.
-void TableHeader::finishRename(const QString& draft) {
+void TableHeader::finishRename(const QString& draft, InlineEditor::Leave leave) {
     pendingName = draft.toStdString();
+    isDoneWithName = leave != InlineEditor::Leave::stay;
     QMetaObject::invokeMethod(this, &TableHeader::runPendingRename, Qt::QueuedConnection);
 }
 
 void TableHeader::runPendingRename() {
     if (const auto name = std::exchange(pendingName, std::nullopt)) {
-        if (!commitRename(store, questions, std::string(renamedColumn), *name)) {
+        // Who has gone elsewhere has read that the name was refused, and is not to be called back.
+        if (!commitRename(store, questions, std::string(renamedColumn), *name) && !isDoneWithName) {
             refusedName = name;
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quillon/Views/Table/ColumnHeaderCell.h"
+#include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/TableGeometry.h"
 
 #include <QPointF>
@@ -12,7 +13,6 @@
 
 namespace quillon {
 
-class InlineEditor;
 class LogStore;
 class TableQuestions;
 class TableScroll;
@@ -107,7 +107,7 @@ class TableHeader : public QWidget {
     void click(std::size_t column);
     void restoreSorting();
     void openMenu(std::size_t column, QPoint globalPosition);
-    void finishRename(const QString& draft);
+    void finishRename(const QString& draft, InlineEditor::Leave leave);
     void runPendingRename();
     void reopenRefused();
     void placeEditor();
@@ -121,6 +121,7 @@ class TableHeader : public QWidget {
     TableGeometry geometry;
     std::string renamedColumn;
     std::optional<std::string> pendingName;  ///< What `renamedColumn` is to be called as soon as may be.
+    bool isDoneWithName = false;  ///< Whether the user left the editor of `pendingName` for something else.
     std::optional<std::string> refusedName;  ///< What `renamedColumn` cannot be called.
     Place hovered;
     std::optional<Grip> grip;

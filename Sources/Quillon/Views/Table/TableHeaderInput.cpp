@@ -32,6 +32,7 @@ double distance(QPointF from, QPointF to) {
 }  // namespace
 
 void TableHeader::mousePressEvent(QMouseEvent* event) {
+    sortingBeforeClick.reset();
     if (nameEditor->isOpen()) {
         nameEditor->commit();
         return;
@@ -39,7 +40,6 @@ void TableHeader::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return;
     }
-    sortingBeforeClick.reset();
     const Place place = placeAt(event->position());
     if (place.part == Part::menu) {
         openMenu(place.column,

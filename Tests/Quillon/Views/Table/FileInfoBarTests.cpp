@@ -46,6 +46,8 @@ TEST_F(FileInfo, ListsTheWholeHeaderWhenItIsOpened) {
     EXPECT_EQ(list.model()->index(3, 0).data().toString().toStdString(), "X: a⏎b");
     list.selectAll();
     EXPECT_EQ(list.chosenText().toStdString(), "from\na program\nPROGRAMID: Prog\nX: a\nb");
+    store.open(folder.write(QStringLiteral("book.adi"), std::string(2500, '\n').insert(0, "a") + "b<EOH>"));
+    EXPECT_EQ(list.model()->index(1000, 0).data().toString().toStdString(), "… (1.501 weitere Zeilen)");
 }
 
 TEST_F(FileInfo, TellsWhetherItIsOpenToThoseWhoDoNotSeeIt) {

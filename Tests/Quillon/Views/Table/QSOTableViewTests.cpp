@@ -126,6 +126,15 @@ TEST_F(CellEditor, LeavesTheNextCellAndTheClickedRowAsTheyWereSeenWhenTheWriteMo
     click(1, 0);
     EXPECT_EQ(shown(), "C X Y");
     EXPECT_EQ(selected(), "C") << "C lay under the pointer before the write";
+    doubleClick(0, 0);
+    typeText("Z");
+    doubleClick(1, 0);
+    EXPECT_EQ(editorText(), "X") << "and before the first press of a double click";
+    auto* ruler = view.findChild<RowRuler*>();
+    typeText("ZZ");
+    QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(5, body.pos().y() + at(1, 0).y()));
+    EXPECT_EQ(shown(), "Y Z ZZ");
+    EXPECT_EQ(selected(), "Y");
 }
 
 TEST_F(CellEditor, FollowsItsCellAndGoesWithItsRecord) {

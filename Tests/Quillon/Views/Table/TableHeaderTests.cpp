@@ -162,11 +162,18 @@ TEST_F(ColumnHeader, OpensItsMenuAndIsTheOneThatItsCommandsAreAbout) {
 TEST_F(ColumnHeader, GivesBackARefusedNameToMendIt) {
     doubleClickAt(name(2));
     typeText("1A");
-    view.commitEditing();
+    key(Qt::Key_Return);
+    QApplication::processEvents();
     EXPECT_FALSE(header.editor().isOpen());
     store.setErrorMessage(std::nullopt);
     QApplication::processEvents();
     EXPECT_EQ(header.editor().text(), "1A");
+    EXPECT_TRUE(header.editor().isOpen());
+
+    view.commitEditing();
+    store.setErrorMessage(std::nullopt);
+    QApplication::processEvents();
+    EXPECT_FALSE(header.editor().isOpen()) << "who went elsewhere is not called back";
 }
 
 TEST_F(ColumnHeader, TakesADragBackWithEscape) {

@@ -80,8 +80,11 @@ class TableViewTest : public LogStoreTest {
     void click(std::size_t row, std::size_t column, Qt::KeyboardModifiers keys = {}) {
         QTest::mouseClick(&body, Qt::LeftButton, keys, at(row, column));
     }
+    /// The event of a double click follows on that of a press; what the press did stays under the pointer.
     void doubleClick(std::size_t row, std::size_t column) {
-        QTest::mouseDClick(&body, Qt::LeftButton, {}, at(row, column));
+        const QPoint place = at(row, column);
+        QTest::mouseClick(&body, Qt::LeftButton, {}, place);
+        QTest::mouseDClick(&body, Qt::LeftButton, {}, place);
     }
     /// To whatever has the focus.
     void key(Qt::Key pressed, Qt::KeyboardModifiers keys = {}) {
