@@ -145,16 +145,12 @@ QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent) {
     return new PictureWidget(picture, sizePx, parent);
 }
 
-QString tooLongMessage(std::size_t size) {
-    return QStringLiteral("Der Wert ist mit %1 Bytes zu lang, um ihn hier zu bearbeiten.")
-        .arg(numberText(size));
-}
-
 QString whyNotEditable(std::string_view value) {
     // The time for the accents of one letter grows with the square of their number.
     constexpr std::size_t largestCharacter = 200;
     if (value.size() > longestEditableValue) {
-        return tooLongMessage(value.size());
+        return QStringLiteral("Der Wert ist mit %1 Bytes zu lang, um ihn hier zu bearbeiten.")
+            .arg(numberText(value.size()));
     }
     if (tallyrig::text::isASCII(value)) {
         return {};

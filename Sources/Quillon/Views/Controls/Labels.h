@@ -51,9 +51,6 @@ QWidget* horizontalLine(QWidget* parent = nullptr);
 /// follows the palette.
 QWidget* pictureWidget(const QIcon& picture, int sizePx, QWidget* parent = nullptr);
 
-/// Why a value of that many bytes cannot be edited.
-QString tooLongMessage(std::size_t size);
-
 /// Why a text field cannot take `value` (UTF-8) for editing, empty if it can: it is too long, or one of its
 /// letters carries so many accents that laying it out takes seconds.
 QString whyNotEditable(std::string_view value);

@@ -70,7 +70,6 @@ class QSOTableView : public QWidget {
     void commitEditing();
 
     // The pieces, from top to bottom.
-    FileInfoBar& fileInfoBar() const { return *infoBar; }
     ColumnToolbar& columnToolbar() const { return *toolbar; }
     TableHeader& header() const { return *headerRow; }
     TableBody& body() const { return *rows; }
