@@ -113,6 +113,18 @@ std::string withIsolatedWords(const std::string& text) {
 
 }  // namespace
 
+bool holdsUnseen(std::string_view text) {
+    std::string sign;
+    while (!text.empty() && sign.empty()) {
+        const auto* const doubtful = std::ranges::find_if(text, mayNeedSign);
+        text.remove_prefix(static_cast<std::size_t>(doubtful - text.begin()));
+        if (!text.empty()) {
+            text.remove_prefix(std::max<std::size_t>(1, appendSign(sign, text)));
+        }
+    }
+    return !sign.empty();
+}
+
 std::string visibleText(std::string_view text) {
     std::string shown;
     while (!text.empty()) {

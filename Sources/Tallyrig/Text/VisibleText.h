@@ -15,4 +15,7 @@ namespace tallyrig::text {
 /// round nothing beside them. Everything else stays as it is. `text` is well-formed UTF-8.
 std::string visibleText(std::string_view text);
 
+/// Whether `text`, well-formed UTF-8, holds a character for which `visibleText` has a sign.
+bool holdsUnseen(std::string_view text);
+
 }  // namespace tallyrig::text

@@ -22,6 +22,8 @@ TEST(VisibleText, HasASignForWhatActsUnseenAndIsolatesWhatRunsToTheLeft) {
         {"cut off\xE2\x80", "cut off\xE2\x80"}};
     for (const auto& [text, shown] : cases) {
         EXPECT_EQ(visibleText(text), shown);
+        const bool isIsolated = shown.find("\u2068") != std::string::npos;
+        EXPECT_EQ(holdsUnseen(text), text != shown && !isIsolated) << shown;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/UnseenCharacters.h"
 
 #include <QLineEdit>
 #include <QMimeData>
@@ -74,6 +75,7 @@ void BoundedField::tellThatCut(bool isCut) {
 BoundedLine::BoundedLine(int longestText, QWidget* parent)
     : BoundedField(longestText, parent), line(new QLineEdit(this)) {
     line->setMaxLength(longest);
+    markUnseenCharacters(*line);
     setEditor(line);
     connect(line, &QLineEdit::inputRejected, this, [this] { tellThatCut(true); });
     connect(line, &QLineEdit::textChanged, this, [this](const QString& text) {

@@ -6,6 +6,7 @@
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/UnseenCharacters.h"
 #include "Tallyrig/Text/Text.h"
 #include "Tallyrig/Text/VisibleText.h"
 
@@ -39,6 +40,7 @@ LogTextField::LogTextField(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(std::numeric_limits<int>::max());
     // A log file that is dropped here is to be opened.
     setAcceptDrops(false);
+    markUnseenCharacters(*this);
 }
 
 void LogTextField::showText(const QString& newText) {

@@ -1,6 +1,7 @@
 #include "Quillon/Views/Table/InlineEditor.h"
 
 #include "Quillon/Views/Controls/Colors.h"
+#include "Quillon/Views/Controls/UnseenCharacters.h"
 
 #include <QApplication>
 #include <QInputMethod>
@@ -25,6 +26,7 @@ InlineEditor::InlineEditor(Escape escapeKey, QWidget* parent) : QLineEdit(parent
     setMaxLength(std::numeric_limits<int>::max());
     // A log file that is dropped here is to be opened.
     setAcceptDrops(false);
+    markUnseenCharacters(*this);
     hide();
 }
 

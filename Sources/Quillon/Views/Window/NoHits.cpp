@@ -2,6 +2,8 @@
 
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/EmptyState.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/VisibleText.h"
 
 #include <QEvent>
 #include <QPushButton>
@@ -46,7 +48,8 @@ void NoHits::refresh() {
         !text.isEmpty() && !store.document().records().empty() && store.displayedCount() == 0;
     if (isNeeded) {
         const QString shown = text.size() <= longestShown ? text : text.left(longestShown) + QChar(u'…');
-        message->setTexts(QStringLiteral("Keine Treffer für „") + shown + QStringLiteral("“"), QString());
+        const std::string visible = tallyrig::text::visibleText(shown.toStdString());
+        message->setTexts(QStringLiteral("Keine Treffer für „%1“").arg(toQString(visible)), QString());
         resize(parentWidget()->size());
         raise();
     }

@@ -55,6 +55,10 @@ TEST_F(RecordDetail, ListsTheFieldsInTheirOrder) {
     select({1});
     EXPECT_EQ(fields(), "APP_A=2");
     EXPECT_EQ(field(0).placeholderText(), QStringLiteral("Wert"));
+    EXPECT_FALSE(field(0).actions().first()->isVisible());
+    type(1, "APP_A", "a\u202Eb");
+    EXPECT_TRUE(field(0).actions().first()->isVisible());
+    EXPECT_TRUE(field(0).actions().first()->toolTip().endsWith(QStringLiteral("\na⟨RLO⟩b")));
 }
 
 TEST_F(RecordDetail, ShowsAVeryLongRecordAPageAtATime) {
