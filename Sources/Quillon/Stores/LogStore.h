@@ -284,7 +284,8 @@ class LogStore : public QObject {
     void showCabrilloExportChanged();
     void showEDIExportChanged();
     void bulkEditColumnChanged();
-    /// The log was written to `path`, which did not become its own file. Sent when the file is there.
+    /// The log was written to `path` because the user exported it there. As ADI or ADX text that is its own
+    /// file by now.
     void exported(const QString& path);
 
   private:
@@ -321,7 +322,10 @@ class LogStore : public QObject {
     /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs
     /// out.
     void forgetEdits();
-    void write(const QString& path);
+    /// False if there is an error message instead of the file.
+    bool write(const QString& path);
+    /// For the file that the user names in a panel.
+    void exportLog(const QString& extension, const QList<FileType>& types);
     /// `fileURL` without its extension, or "Logbuch", with this one.
     QString proposedName(const QString& extension) const;
     void exportText(const std::string& text, const FileType& type, const QString& failurePrefix);

@@ -152,17 +152,18 @@ void LogStore::saveWithPanel() {
     }
 }
 
-void LogStore::write(const QString& path) {
+bool LogStore::write(const QString& path) {
     const Operation operation(*this);
     const QString fullPath = absolutePath(path);
     const std::string content = textFor(fullPath, state.document, settings);
     if (const auto error = replaceFile(fullPath.toStdString(), content)) {
         state.errorMessage = failure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath,
                                      error->message + " „Speichern unter…“ wählt einen anderen Ort.");
-        return;
+        return false;
     }
     state.fileURL = fullPath;
     state.isDirty = false;
+    return true;
 }
 
 QString LogStore::proposedName(const QString& extension) const {
@@ -170,20 +171,21 @@ QString LogStore::proposedName(const QString& extension) const {
            QLatin1Char('.') + extension;
 }
 
-void LogStore::saveAsADI() {
-    const QString extension = QStringLiteral("adi");
-    if (const auto path = panels.fileToSave(proposedName(extension), adifContentTypes())) {
-        write(*path);
+void LogStore::exportLog(const QString& extension, const QList<FileType>& types) {
+    const auto path = panels.fileToSave(proposedName(extension), types);
+    if (path && write(*path)) {
+        emit exported(*state.fileURL);
     }
+}
+
+void LogStore::saveAsADI() {
+    exportLog(QStringLiteral("adi"), adifContentTypes());
 }
 
 void LogStore::saveAsADX() {
     const QString extension = QStringLiteral("adx");
-    if (const auto path = panels.fileToSave(proposedName(extension),
-                                            {{QStringLiteral("ADX-Dateien"), {extension}},
-                                             {QStringLiteral("XML-Dateien"), {QStringLiteral("xml")}}})) {
-        write(*path);
-    }
+    exportLog(extension, {{QStringLiteral("ADX-Dateien"), {extension}},
+                          {QStringLiteral("XML-Dateien"), {QStringLiteral("xml")}}});
 }
 
 void LogStore::exportText(const std::string& text, const FileType& type, const QString& failurePrefix) {

@@ -150,6 +150,9 @@ TEST_F(OtherFormats, AreReadByTheirContentAndSavedByTheExtensionAlone) {
     EXPECT_TRUE(folder.read("x.cbr").starts_with("<FREQ")) << "ADI text";
     store.saveAsADX();
     EXPECT_EQ(title() + " " + panels.proposedNames.last().toStdString(), "y.adx x.adx");
+    EXPECT_NE(told.sent().find("exported"), std::string::npos);
+    store.saveAsADX();
+    EXPECT_EQ(told.sent(), "") << "cancelled";
 }
 
 TEST_F(OtherFormats, ExportsLeaveTheLogAndItsFileAlone) {

@@ -5,15 +5,20 @@
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHash>
+#include <QHeaderView>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStringList>
+#include <QTreeView>
 
+#include <algorithm>
 #include <string>
 
 namespace quillon {
@@ -86,12 +91,31 @@ class IconsByName : public QFileIconProvider {
     }
 };
 
+/// Room for sizes and dates as they are written here: Qt reckons with those of another country.
+void widenColumns(const QFileDialog& dialog) {
+    const auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) {
+        return;  // The desktop has a dialog of its own.
+    }
+    constexpr int sizeColumn = 1;
+    constexpr int dateColumn = 3;
+    constexpr int margins = 20;
+    const QDateTime longDate(QDate(2028, 8, 28), QTime(20, 48, 48));
+    const auto widen = [files](int column, const QString& longest) {
+        const int width = files->fontMetrics().horizontalAdvance(longest) + margins;
+        files->header()->resizeSection(column, std::max(width, files->header()->sectionSize(column)));
+    };
+    widen(sizeColumn, QLocale::system().formattedDataSize(1'000'000));
+    widen(dateColumn, QLocale::system().toString(longDate, QLocale::ShortFormat));
+}
+
 void setUp(QFileDialog& dialog, const QList<FileType>& types) {
     static IconsByName icons;
     dialog.setIconProvider(&icons);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(types));
     dialog.resize(dialog.size().expandedTo(QSize(860, 520)));
+    widenColumns(dialog);
 }
 
 bool mayReplace(const QString& path) {
@@ -133,18 +157,19 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     setUp(dialog, types);
+    // The dialog would ask in other words, and some desktops' would not ask about a name that gets its
+    // extension here.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.selectFile(proposedName);
-    while (true) {
-        const auto path = choice(dialog, folder);
-        if (!path || !extensionOf(*path).isEmpty() || QFileInfo::exists(*path)) {
+    while (auto path = choice(dialog, folder)) {
+        if (extensionOf(*path).isEmpty() && !QFileInfo::exists(*path)) {
+            *path += QLatin1Char('.') + firstExtension(types);
+        }
+        if (!QFileInfo::exists(*path) || mayReplace(*path)) {
             return path;
         }
-        // The dialogs of some desktops would add the extension without asking about the file of that name.
-        const QString fullPath = *path + QLatin1Char('.') + firstExtension(types);
-        if (!QFileInfo::exists(fullPath) || mayReplace(fullPath)) {
-            return fullPath;
-        }
     }
+    return std::nullopt;
 }
 
 }  // namespace quillon

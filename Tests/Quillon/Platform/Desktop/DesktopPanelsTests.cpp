@@ -1,6 +1,7 @@
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 
 #include "Quillon/Support/TemporaryFolder.h"
+#include "Quillon/Support/WidgetSearch.h"
 
 #include <gtest/gtest.h>
 
@@ -18,13 +19,15 @@ namespace {
 
 const QList<FileType> types = {{QStringLiteral("EDI-Dateien"), {QStringLiteral("edi")}}};
 
-/// Calls `act` with the panel as soon as it is open.
-template <typename Act>
-void whenOpen(Act act) {
+/// Calls `act` with the dialog of this kind as soon as it is open.
+template <typename Dialog, typename Act>
+void whenShown(Act act) {
     QTimer::singleShot(0, qApp, [act] {
-        auto* const panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(panel, nullptr);
-        act(*panel);
+        if (auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+            act(*dialog);
+        } else {
+            whenShown<Dialog>(act);
+        }
     });
 }
 
@@ -38,7 +41,7 @@ TEST(FilePanel, TellsFilesByTheirNames) {
     DesktopPanels panels;
     panels.setFolder(folder.path(QStringLiteral(".")));
     QString told;
-    whenOpen([&](QFileDialog& panel) {
+    whenShown<QFileDialog>([&](QFileDialog& panel) {
         const auto typeOf = [&](const QString& path) { return panel.iconProvider()->type(QFileInfo(path)); };
         told = typeOf(folder.path(QStringLiteral("."))) + u' ' + typeOf(QStringLiteral("/none/a.adi")) +
                u' ' + typeOf(QStringLiteral("/none/a"));
@@ -53,11 +56,33 @@ TEST(SavePanel, AddsTheExtensionThatIsMissing) {
     DesktopPanels panels;
     panels.setFolder(folder.path(QStringLiteral(".")));
     for (const auto& [name, saved] : {std::pair("new", "new.edi"), std::pair("new.txt", "new.txt")}) {
-        whenOpen([name = name](QFileDialog& panel) { choose(panel, QString::fromUtf8(name)); });
+        whenShown<QFileDialog>([name = name](QFileDialog& panel) { choose(panel, QString::fromUtf8(name)); });
         const auto path = panels.fileToSave(QStringLiteral("log.edi"), types);
         ASSERT_TRUE(path.has_value());
         EXPECT_EQ(QFileInfo(*path).fileName().toStdString(), saved);
     }
+}
+
+TEST(SavePanel, AsksInItsOwnWordsBeforeAFileIsReplacedAndGoesOnIfItIsNot) {
+    const testing::TemporaryFolder folder;
+    DesktopPanels panels;
+    panels.setFolder(folder.path(QStringLiteral(".")));
+    const QString old = folder.write(QStringLiteral("old.edi"), "");
+    QString asked;
+    const auto choosesAndAnswers = [&asked](const char* name, const char* button, const auto& then) {
+        whenShown<QFileDialog>([=, &asked](QFileDialog& panel) {
+            choose(panel, QString::fromUtf8(name));
+            whenShown<QMessageBox>([=, &asked](QMessageBox& question) {
+                asked += question.text().section(u'\n', 0, 0);
+                testing::shownButton(question, QString::fromUtf8(button))->click();
+                then();
+            });
+        });
+    };
+    choosesAndAnswers("old", "Abbrechen", [&] { choosesAndAnswers("old.edi", "Ersetzen", [] {}); });
+    const auto path = panels.fileToSave(QStringLiteral("log.edi"), types);
+    EXPECT_EQ(QFileInfo(path.value_or(QString())).canonicalFilePath(), QFileInfo(old).canonicalFilePath());
+    EXPECT_EQ(asked.toStdString(), "„old.edi“ ist schon vorhanden.„old.edi“ ist schon vorhanden.");
 }
 
 }  // namespace
