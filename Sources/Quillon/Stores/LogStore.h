@@ -114,8 +114,9 @@ class LogStore : public QObject {
     void setField(tallyrig::UUID recordID, std::size_t fieldIndex, std::string_view value);
     TextBinding cellBinding(tallyrig::UUID recordID, const std::string& column);
     TextBinding fieldBinding(tallyrig::UUID recordID, std::size_t fieldIndex);
-    /// Appends an empty field to the record, and a column for it if there is none.
-    void addField(tallyrig::UUID recordID, std::string_view name);
+    /// Appends a field to the record, and a column for it if there is none. With a `value`, what is written
+    /// to the field right after belongs to the same step back.
+    void addField(tallyrig::UUID recordID, std::string_view name, std::string_view value = {});
     /// The column stays.
     void removeField(tallyrig::UUID recordID, std::size_t fieldIndex);
 

@@ -18,6 +18,11 @@ using tallyrig::UUID;
 
 namespace {
 
+/// By which the writes to one field make one step back.
+std::string fieldKey(UUID recordID, std::size_t fieldIndex) {
+    return "field:" + recordID.text() + ":" + std::to_string(fieldIndex);
+}
+
 bool hasValue(const ADIFRecord& record) {
     for (const tallyrig::ADIFFieldView field : record.fields()) {
         if (!field.value.empty()) {
@@ -129,7 +134,7 @@ void LogStore::setField(UUID recordID, std::size_t fieldIndex, std::string_view 
     }
     editRecord(
         *index, [&](ADIFRecord& record) { record.setValue(fieldIndex, value); },
-        "field:" + recordID.text() + ":" + std::to_string(fieldIndex));
+        fieldKey(recordID, fieldIndex));
 }
 
 TextBinding LogStore::fieldBinding(UUID recordID, std::size_t fieldIndex) {
@@ -144,20 +149,22 @@ TextBinding LogStore::fieldBinding(UUID recordID, std::size_t fieldIndex) {
             }};
 }
 
-void LogStore::addField(UUID recordID, std::string_view name) {
+void LogStore::addField(UUID recordID, std::string_view name, std::string_view value) {
     const auto index = indexOf(recordID);
     if (!index) {
         return;
     }
     const Operation operation(*this);
     EditHistory::Snapshot before = currentSnapshot();
-    state.document.records().modify(*index,
-                                    [&](ADIFRecord& record) { record.appendField(ADIFField(name, "")); });
+    state.document.records().modify(
+        *index, [&](ADIFRecord& record) { record.appendField(ADIFField(name, std::string(value))); });
     if (!columnExists(name)) {
         state.columns.append(cleanedFieldName(name));
     }
     state.isDirty = true;
-    commitUndo(std::move(before));
+    const std::size_t fieldIndex = state.document.records()[*index].fields().size() - 1;
+    commitUndo(std::move(before),
+               value.empty() ? std::nullopt : std::optional(fieldKey(recordID, fieldIndex)));
 }
 
 void LogStore::removeField(UUID recordID, std::size_t fieldIndex) {

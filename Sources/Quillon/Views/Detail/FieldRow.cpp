@@ -103,7 +103,6 @@ FieldRow::FieldRow(QWidget* parent)
     label->setFont(smallFont());
     label->setForegroundRole(QPalette::PlaceholderText);
     label->setBuddy(valueEdit);
-    valueEdit->setPlaceholderText(QStringLiteral("Wert"));
     remove->setIcon(icon(QStringLiteral("list-remove")));
     remove->setAutoRaise(true);
     remove->setToolTip(QStringLiteral("Feld entfernen"));
@@ -123,7 +122,7 @@ FieldRow::FieldRow(QWidget* parent)
     connect(remove, &QToolButton::clicked, this, &FieldRow::removeClicked);
 }
 
-void FieldRow::show(std::string_view name, std::string_view value) {
+void FieldRow::showName(std::string_view name) {
     const QString newName = toQString(name);
     if (fieldName != newName) {
         fieldName = newName;
@@ -133,6 +132,24 @@ void FieldRow::show(std::string_view name, std::string_view value) {
         valueEdit->setAccessibleName(germanName);
         remove->setAccessibleName(QStringLiteral("Feld entfernen: ") + germanName);
     }
+}
+
+void FieldRow::setOffered(bool offers) {
+    remove->setVisible(!offers);
+    valueEdit->setPlaceholderText(offers ? QStringLiteral("Fehlt: Wert eingeben") : QStringLiteral("Wert"));
+}
+
+void FieldRow::offer(std::string_view name) {
+    showName(name);
+    setOffered(true);
+    valueEdit->setReadOnly(false);
+    valueEdit->setToolTip(QStringLiteral("Das QSO hat dieses Feld nicht."));
+    valueEdit->showText(QString());
+}
+
+void FieldRow::show(std::string_view name, std::string_view value) {
+    showName(name);
+    setOffered(false);
     const QString obstacle = whyNotEditable(value);
     valueEdit->setReadOnly(!obstacle.isEmpty());
     valueEdit->setToolTip(obstacle);

@@ -42,6 +42,8 @@ class FieldRow : public QWidget {
 
     /// `name` and `value` in UTF-8. A value that cannot be edited here is shown in part.
     void show(std::string_view name, std::string_view value);
+    /// Offers a field that the QSO does not have: it is there as soon as something is typed.
+    void offer(std::string_view name);
     /// Whether the row stands out from the others.
     void setMarked(bool mark);
     bool isMarked() const { return marked; }
@@ -56,6 +58,9 @@ class FieldRow : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void showName(std::string_view name);
+    void setOffered(bool offers);
+
     QString fieldName;
     bool marked = false;
     ElidedLabel* label;

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -102,15 +103,26 @@ void RecordDetailView::focusLastField() {
     }
 }
 
-void RecordDetailView::markField(std::optional<std::size_t> position) {
-    marked = position && *position < fieldCount() ? position : std::nullopt;
-    if (marked) {
+void RecordDetailView::showField(const std::string& name, std::optional<std::size_t> position) {
+    dropMark();
+    if (!shown) {
+        return;
+    }
+    if (position && *position < fieldCount()) {
+        marked = position;
         markedName = shown->fields()[*marked].name;
-        bringIntoView(*marked);
+    } else if (!position && !name.empty()) {
+        offered = name;
     }
-    if (shown) {
-        showPage(firstField);
+    showPage(firstField);
+    if (marked || offered) {
+        bringIntoView(marked.value_or(fieldCount()));
     }
+}
+
+void RecordDetailView::dropMark() {
+    marked.reset();
+    offered.reset();
 }
 
 void RecordDetailView::refresh() {
@@ -126,7 +138,11 @@ void RecordDetailView::showRecord(const tallyrig::ADIFRecord& record) {
     const bool isSameRecord = shown && shown->id() == record.id();
     shown = record;
     if (!isSameRecord) {
-        marked.reset();
+        dropMark();
+    } else if (offered && record.has(*offered)) {
+        // What was missing is the last field now, and what the user is about to type.
+        marked = fieldCount() - 1;
+        markedName = *std::exchange(offered, std::nullopt);
     }
     showPage(isSameRecord ? firstField : 0);
     pages->setCurrentIndex(1);
@@ -134,9 +150,9 @@ void RecordDetailView::showRecord(const tallyrig::ADIFRecord& record) {
 
 void RecordDetailView::showPage(std::size_t first) {
     const auto fields = shown->fields();
-    const std::size_t lastPage = fields.empty() ? 0 : (fields.size() - 1) / fieldsOnPage * fieldsOnPage;
+    const std::size_t lastPage = rowCount() == 0 ? 0 : (rowCount() - 1) / fieldsOnPage * fieldsOnPage;
     firstField = std::min(first, lastPage);
-    const std::size_t count = std::min(fieldsOnPage, fields.size() - firstField);
+    const std::size_t count = std::min(fieldsOnPage, rowCount() - firstField);
     if (marked && (*marked >= fields.size() || fields[*marked].name != markedName)) {
         marked.reset();
     }
@@ -144,16 +160,20 @@ void RecordDetailView::showPage(std::size_t first) {
         addRow();
     }
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (row < count) {
-            rows[row]->show(fields[firstField + row].name, fields[firstField + row].value);
-            rows[row]->setMarked(marked == firstField + row);
+        const std::size_t position = firstField + row;
+        if (row < count && position < fields.size()) {
+            rows[row]->show(fields[position].name, fields[position].value);
+            rows[row]->setMarked(marked == position);
+        } else if (row < count) {
+            rows[row]->offer(*offered);
+            rows[row]->setMarked(true);
         }
         rows[row]->setVisible(row < count);
     }
-    pager->setVisible(fields.size() > fieldsOnPage);
+    pager->setVisible(rowCount() > fieldsOnPage);
     pageLabel->setText(
         QStringLiteral("%1 bis %2 von %3 Feldern")
-            .arg(numberText(firstField + 1), numberText(firstField + count), numberText(fields.size())));
+            .arg(numberText(firstField + 1), numberText(firstField + count), numberText(rowCount())));
     previousPage->setEnabled(firstField > 0);
     nextPage->setEnabled(firstField < lastPage);
 }
@@ -171,7 +191,7 @@ FieldRow& RecordDetailView::bringIntoView(std::size_t position) {
 
 void RecordDetailView::showNoRecord() {
     shown.reset();
-    marked.reset();
+    dropMark();
     const std::size_t count = store.selection().size();
     if (count > 1) {
         empty->setTexts(numberText(count) + QStringLiteral(" QSOs ausgewählt"),
@@ -198,16 +218,19 @@ void RecordDetailView::addRow() {
 }
 
 void RecordDetailView::write(std::size_t row, const QString& text) {
-    if (shown) {
-        store.setField(shown->id(), firstField + row, text.toStdString());
+    const std::size_t position = firstField + row;
+    if (position < fieldCount()) {
+        store.setField(shown->id(), position, text.toStdString());
+    } else if (offered && !text.isEmpty()) {
+        store.addField(shown->id(), std::string(*offered), text.toStdString());
     }
 }
 
 void RecordDetailView::remove(std::size_t row) {
-    if (!shown) {
+    const std::size_t position = firstField + row;
+    if (position >= fieldCount()) {
         return;
     }
-    const std::size_t position = firstField + row;
     store.removeField(shown->id(), position);
     // The keyboard goes on in the value of the field that moved up, or else of the last one, and not on the
     // button, where a second press would remove that field as well.

@@ -33,9 +33,10 @@ class RecordDetailView : public QWidget {
 
     /// Puts the cursor into the value of the record's last field, if there is one.
     void focusLastField();
-    /// Brings the record's field at `position` into view and lets it stand out until another QSO is shown;
-    /// absent for none.
-    void markField(std::optional<std::size_t> position);
+    /// Brings the record's field `name` at `position` into view and lets it stand out until another QSO is
+    /// shown. A field that the record does not have (absent) is offered in an empty row, and is added as soon
+    /// as something is typed there.
+    void showField(const std::string& name, std::optional<std::size_t> position);
 
   private:
     QWidget* makePager();
@@ -44,12 +45,15 @@ class RecordDetailView : public QWidget {
     void showNoRecord();
     /// Shows the fields from `first` on, as many as a page holds.
     void showPage(std::size_t first);
-    /// Shows the page with the field at `position`, below the number of fields, and gives its row.
+    /// Shows the page with the field at `position`, below the number of rows, and gives its row.
     FieldRow& bringIntoView(std::size_t position);
     void addRow();
     void write(std::size_t row, const QString& text);
     void remove(std::size_t row);
     std::size_t fieldCount() const { return shown ? shown->fields().size() : 0; }
+    /// Those of the fields and the one that is offered.
+    std::size_t rowCount() const { return fieldCount() + (offered ? 1 : 0); }
+    void dropMark();
 
     LogStore& store;
     std::optional<tallyrig::ADIFRecord> shown;
@@ -65,6 +69,7 @@ class RecordDetailView : public QWidget {
     std::size_t firstField = 0;   ///< The position of the field in the first row.
     std::optional<std::size_t> marked;
     std::string markedName;  ///< Of the field at `marked`, which other fields may come to stand at.
+    std::optional<std::string> offered;  ///< The field that is missing; its row is the last.
 };
 
 }  // namespace quillon

@@ -311,7 +311,7 @@ void ContentView::showResults() {
         connect(view, &CheckResultsView::findingChosen, this,
                 [this](tallyrig::UUID record, const std::string& field, std::optional<std::size_t> position) {
                     tableView->showCell(record, field);
-                    detail->markField(position);
+                    detail->showField(field, position);
                 });
         connect(view, &CheckResultsView::checkRequested, commandActions->action(CommandID::check),
                 &QAction::trigger);

@@ -76,7 +76,7 @@ TEST_F(RecordDetail, ShowsAVeryLongRecordAPageAtATime) {
     EXPECT_EQ(rows().size(), 50U);
     QTest::keyClick(&field(49), Qt::Key_Y);
     EXPECT_EQ(cell(0, "N449"), "yx");
-    view.markField(1);
+    view.showField("N1", 1);
     EXPECT_EQ(testing::shownTexts(*rows()[1]), "N1");
     view.focusLastField();
     EXPECT_EQ(fields().substr(0, 7), "N400=x ");
@@ -95,16 +95,34 @@ TEST_F(RecordDetail, MarksAFieldUntilAnotherQSOIsShown) {
     };
     openLog({"CALL=DL1ABC BAND=20m MODE=CW", "CALL=DL2ABC BAND=20m"});
     select({0});
-    view.markField(1);
+    view.showField("BAND", 1);
     EXPECT_EQ(marked(), "Band");
     type(0, "BAND", "40m");
     EXPECT_EQ(marked(), "Band");
     store.removeField(id(0), 0);
     EXPECT_EQ(marked(), "") << "another field has come to stand there";
-    view.markField(1);
+    view.showField("BAND", 1);
     select({1});
     select({0});
     EXPECT_EQ(marked(), "");
+}
+
+TEST_F(RecordDetail, OffersAFieldThatIsMissing) {
+    openLog({"CALL=DL1ABC", "CALL=DL2ABC"});
+    select({0});
+    view.showField("TIME_ON", std::nullopt);
+    EXPECT_EQ(fields(), "Rufzeichen=DL1ABC Zeit (Anfang)=");
+    EXPECT_TRUE(rows()[1]->isMarked());
+    QTest::keyClick(&field(1), Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_FALSE(store.canUndo());
+    QTest::keyClicks(&field(1), QStringLiteral("1200"));
+    EXPECT_EQ(fields(), "Rufzeichen=DL1ABC Zeit (Anfang)=1200");
+    EXPECT_EQ(cell(0, "TIME_ON") + " " + columns(), "1200 CALL TIME_ON");
+    store.undo();
+    EXPECT_EQ(fields(), "Rufzeichen=DL1ABC") << "one step back";
+    view.showField("TIME_ON", std::nullopt);
+    select({1});
+    EXPECT_EQ(fields(), "Rufzeichen=DL2ABC");
 }
 
 TEST_F(RecordDetail, WritesEachKeyAndKeepsTheCursor) {
