@@ -2,16 +2,9 @@
 
 #include "Quillon/Views/Controls/Labels.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace quillon {
-
-namespace {
-
-constexpr int indentPx = 22;
-
-}  // namespace
 
 SidebarSection::SidebarSection(const QString& title, QWidget* parent)
     : QWidget(parent), column(new QVBoxLayout(this)), heading(headingLabel(title, this)) {
@@ -28,13 +21,6 @@ void SidebarSection::add(QWidget* control) {
 void SidebarSection::addUnderHeading(QWidget* control) {
     nameBy(*heading, *control);
     column->addWidget(control);
-}
-
-void SidebarSection::addIndented(QWidget* control) {
-    auto* row = new QHBoxLayout;
-    row->addSpacing(indentPx);
-    row->addWidget(control, 1);
-    column->addLayout(row);
 }
 
 void SidebarSection::addLabelled(const QString& label, QWidget* control) {

@@ -18,8 +18,6 @@ class SidebarSection : public QWidget {
     void add(QWidget* control);
     /// Named by the heading, as the one control that the section is about.
     void addUnderHeading(QWidget* control);
-    /// Moved to the right, as belonging to what stands above.
-    void addIndented(QWidget* control);
     /// Under its own label, which belongs to it for the keyboard and for assistive technology.
     void addLabelled(const QString& label, QWidget* control);
     QLabel* addNote(const QString& text);
