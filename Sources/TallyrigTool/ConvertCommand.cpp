@@ -1,4 +1,4 @@
-#include "Quillon/Platform/Files/LogWriters.h"
+#include "Quillon/Catalogue/LogWriters.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Validation/ADIFSpec317.h"

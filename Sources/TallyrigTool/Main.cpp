@@ -1,4 +1,4 @@
-#include "Quillon/Platform/Files/LogWriters.h"
+#include "Quillon/Catalogue/LogWriters.h"
 #include "TallyrigTool/Commands.h"
 #include "TallyrigTool/Console.h"
 #include "TallyrigTool/Usage.h"

@@ -1,6 +1,6 @@
 #include "Quillon/Platform/AppInfo.h"
 
-#include "Quillon/Platform/Files/LogWriters.h"
+#include "Quillon/Catalogue/LogWriters.h"
 #include "Tallyrig/Log/ProgramName.h"
 
 #include <string_view>

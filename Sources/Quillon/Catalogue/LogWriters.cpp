@@ -1,4 +1,4 @@
-#include "Quillon/Platform/Files/LogWriters.h"
+#include "Quillon/Catalogue/LogWriters.h"
 
 #include "Tallyrig/Log/ProgramName.h"
 #include "Tallyrig/Text/Text.h"
