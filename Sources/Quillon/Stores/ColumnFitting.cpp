@@ -2,7 +2,7 @@
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Platform/TableMetrics.h"
-#include "Tallyrig/Log/PerTag.h"
+#include "Tallyrig/Log/NamedFields.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -10,7 +10,6 @@
 #include <cmath>
 #include <cstddef>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 
 namespace quillon {
@@ -44,36 +43,27 @@ double wholeWidth(const TextMeasurer& measurer, MeasuredFont font, std::string_v
 std::vector<FittedColumn> measuredContents(const std::vector<std::string>& names,
                                            const tallyrig::ADIFRecordList& records,
                                            const TextMeasurer& measurer) {
+    tallyrig::NamedFields fields(names);
     std::vector<FittedColumn> fitted(names.size());
-    // Upper-cased names by canonical key; a name given twice shares the entry of the first.
-    std::unordered_map<std::string, std::size_t> places;
     for (std::size_t column = 0; column < names.size(); ++column) {
         fitted[column].name = text::upper(names[column]);
-        fitted[column].source =
-            places.try_emplace(text::canonicalKey(fitted[column].name), column).first->second;
+        fitted[column].source = fields.positionOf(names[column]).value_or(column);
     }
 
-    tallyrig::PerTag<std::size_t> columnOfTag;
     const std::size_t step = records.size() <= mostMeasuredOneByOne ? 1 : records.size() / sampleSize;
     for (std::size_t index = 0; index < records.size(); index += step) {
-        const tallyrig::RecordStorage& record = records[index].stored();
-        const std::size_t* const columns = columnOfTag.of(record.tags(), [&](const tallyrig::FieldTag& tag) {
-            const auto found = places.find(text::canonicalKey(tag.name));
-            return found == places.end() ? none : found->second;
-        });
-        for (std::size_t field = 0; field < record.fieldCount(); ++field) {
-            const std::size_t place = columns[record.tagNumber(field)];
-            if (place == none || fitted[place].lastRecord == index) {
-                continue;
+        fields.visit(records[index], [&](std::size_t position, std::string_view value) {
+            FittedColumn& column = fitted[position];
+            if (column.lastRecord == index) {
+                return;  // Of several fields of a name, the first is shown.
             }
-            FittedColumn& column = fitted[place];
-            column.lastRecord = index;  // Of several fields of a name, the first is shown.
-            const auto [shown, isNew] = column.measured.insert(
-                ADIFFieldCatalog::displayValue(beginningOf(record.value(field)), column.name));
+            column.lastRecord = index;
+            const auto [shown, isNew] =
+                column.measured.insert(ADIFFieldCatalog::displayValue(beginningOf(value), column.name));
             if (isNew && !shown->empty()) {
                 column.content = std::max(column.content, wholeWidth(measurer, MeasuredFont::cell, *shown));
             }
-        }
+        });
     }
     return fitted;
 }

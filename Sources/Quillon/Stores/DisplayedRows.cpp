@@ -1,7 +1,7 @@
 #include "Quillon/Stores/DisplayedRows.h"
 
-#include "Quillon/Stores/RecordFilter.h"
 #include "Quillon/Stores/RecordOrder.h"
+#include "Tallyrig/Log/RecordFilter.h"
 
 #include <algorithm>
 #include <numeric>
@@ -25,7 +25,7 @@ RowsOnScreen DisplayedRows::filtered(const tallyrig::ADIFRecordList& records, co
     }
     const RowOrder unsorted{order.searchText, std::nullopt, true};
     if (!kept || !kept->isFor(records, unsorted)) {
-        kept = Known{records, unsorted, recordsContaining(records, order.searchText)};
+        kept = Known{records, unsorted, tallyrig::recordsContaining(records, order.searchText)};
     }
     return {records, &kept->positions};
 }

@@ -1,8 +1,7 @@
 #include "Quillon/Stores/RecordOrder.h"
 
 #include "Quillon/Platform/NaturalOrder.h"
-#include "Tallyrig/Log/PerTag.h"
-#include "Tallyrig/Log/RecordSearch.h"
+#include "Tallyrig/Log/RecordValues.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,44 +9,15 @@
 
 namespace quillon {
 
-namespace {
-
-using tallyrig::FieldTag;
-using tallyrig::RecordStorage;
-
-/// Reads one column of record after record.
-class ColumnReader {
-  public:
-    explicit ColumnReader(std::string_view upperName) : name(upperName) {}
-
-    /// Empty if the record has no such field.
-    std::string_view value(const RecordStorage& record) {
-        const char* const isColumn = tags.of(record.tags(), [&](const FieldTag& tag) {
-            return static_cast<char>(tallyrig::isNamed(tag, name));
-        });
-        for (std::size_t index = 0; index < record.fieldCount(); ++index) {
-            if (isColumn[record.tagNumber(index)] != 0) {
-                return record.value(index);
-            }
-        }
-        return {};
-    }
-
-  private:
-    std::string_view name;
-    tallyrig::PerTag<char> tags;
-};
-
-}  // namespace
-
 std::vector<std::uint32_t> sortedByColumn(const tallyrig::ADIFRecordList& records,
                                           const std::vector<std::uint32_t>& rows, std::string_view column,
                                           SortDirection direction) {
-    ColumnReader reader(column);
+    tallyrig::RecordValues reader{column};
     std::vector<std::string_view> values;
     values.reserve(rows.size());
     for (const std::uint32_t row : rows) {
-        values.push_back(reader.value(records[row].stored()));
+        reader.read(records[row]);
+        values.push_back(reader.valueOrEmpty(0));
     }
     const std::vector<std::uint32_t> ranks = NaturalOrder::ranks(values);
     // The rank, turned round for the other direction, stands in front of the place that keeps the order of

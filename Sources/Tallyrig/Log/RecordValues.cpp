@@ -27,10 +27,12 @@ void RecordValues::read(const ADIFRecord& record) {
     const RecordStorage& stored = record.stored();
     const std::size_t* const indexByTag =
         indices.of(stored.tags(), [this](const FieldTag& tag) { return indexOf(tag); });
-    for (std::size_t field = 0; field < stored.fieldCount(); ++field) {
+    std::size_t missing = values.size();
+    for (std::size_t field = 0; field < stored.fieldCount() && missing > 0; ++field) {
         const std::size_t index = indexByTag[stored.tagNumber(field)];
         if (index < values.size() && !values[index]) {
             values[index] = stored.value(field);
+            --missing;
         }
     }
 }

@@ -6,11 +6,10 @@
 #include <string_view>
 #include <vector>
 
-namespace quillon {
+namespace tallyrig {
 
 /// The positions, ascending, of the records in which a value or the name of a field contains `searchText`,
 /// without regard to case. `searchText` is not empty. Cost: about one pass over the bytes of the values.
-std::vector<std::uint32_t> recordsContaining(const tallyrig::ADIFRecordList& records,
-                                             std::string_view searchText);
+std::vector<std::uint32_t> recordsContaining(const ADIFRecordList& records, std::string_view searchText);
 
-}  // namespace quillon
+}  // namespace tallyrig

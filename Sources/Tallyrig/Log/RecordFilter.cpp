@@ -1,4 +1,4 @@
-#include "Quillon/Stores/RecordFilter.h"
+#include "Tallyrig/Log/RecordFilter.h"
 
 #include "Tallyrig/Log/PerTag.h"
 #include "Tallyrig/Text/ASCII.h"
@@ -9,14 +9,9 @@
 #include <cstddef>
 #include <string>
 
-namespace quillon {
+namespace tallyrig {
 
 namespace {
-
-namespace text = tallyrig::text;
-
-using tallyrig::FieldTag;
-using tallyrig::RecordStorage;
 
 /// Text as it is compared: in lower case, equal for all equivalent spellings.
 std::string folded(std::string_view text) {
@@ -162,18 +157,17 @@ class Search {
     std::string sought;
     bool isPlain;
     PlainSearch plainSearch;
-    tallyrig::PerTag<char> tagsFound;
+    PerTag<char> tagsFound;
     bool isInAnyTag = false;
 };
 
 }  // namespace
 
-std::vector<std::uint32_t> recordsContaining(const tallyrig::ADIFRecordList& records,
-                                             std::string_view searchText) {
+std::vector<std::uint32_t> recordsContaining(const ADIFRecordList& records, std::string_view searchText) {
     std::vector<std::uint32_t> found;
     Search search(searchText);
     std::uint32_t position = 0;
-    for (const tallyrig::ADIFRecord& record : records) {
+    for (const ADIFRecord& record : records) {
         if (search.keeps(record.stored())) {
             found.push_back(position);
         }
@@ -182,4 +176,4 @@ std::vector<std::uint32_t> recordsContaining(const tallyrig::ADIFRecordList& rec
     return found;
 }
 
-}  // namespace quillon
+}  // namespace tallyrig
