@@ -122,11 +122,11 @@ TEST_F(Window, SearchesAsTheUserTypes) {
 
 TEST_F(Window, SaysThatASearchFindsNothingAlsoInTheNextLog) {
     show();
-    store.setSearchText(QStringLiteral("oe1"));
+    store.setSearchText(QStringLiteral("oe\u202E1"));
     auto* noHits = window->findChild<NoHits*>();
     EXPECT_FALSE(noHits->isVisible()) << "there is nothing to search in";
     openLog({"CALL=DL1ABC"});
-    EXPECT_EQ(testing::shownTexts(*noHits), "Keine Treffer für „oe1“");
+    EXPECT_EQ(testing::shownTexts(*noHits), "Keine Treffer für „oe⟨RLO⟩1“");
     testing::shownButton(*noHits, QStringLiteral("Suche aufheben"))->click();
     EXPECT_EQ(shown(), "DL1ABC");
     EXPECT_FALSE(noHits->isVisible());
