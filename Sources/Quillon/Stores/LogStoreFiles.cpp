@@ -1,6 +1,6 @@
+#include "Quillon/Catalogue/LogWriters.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/Files.h"
-#include "Quillon/Catalogue/LogWriters.h"
 #include "Quillon/Platform/LogFileTypes.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
