@@ -1,5 +1,7 @@
 #include "GeneratedLog.h"
 
+#include "RandomNumbers.h"
+
 #include <fmt/format.h>
 
 #include <array>
@@ -9,19 +11,6 @@
 namespace tallyrig::benchmarks {
 
 namespace {
-
-/// A linear congruential generator (Knuth's constants): the library's generators may differ from machine to
-/// machine.
-class Numbers {
-  public:
-    std::uint32_t below(std::uint32_t limit) {
-        state = state * 6364136223846793005U + 1442695040888963407U;
-        return static_cast<std::uint32_t>((state >> 33) % limit);
-    }
-
-  private:
-    std::uint64_t state = 20240115;
-};
 
 void append(std::string& text, std::string_view name, std::string_view value) {
     fmt::format_to(std::back_inserter(text), "<{}:{}>{} ", name, value.size(), value);
@@ -49,7 +38,7 @@ constexpr std::array<std::string_view, 10> countries = {
 constexpr std::array<std::string_view, 10> operators = {"Jörg", "Anna", "Peter", "Karl", "Maria",
                                                         "Hans", "Eva",  "Paul",  "Otto", "Klaus"};
 
-std::string randomCall(Numbers& random, std::uint32_t country) {
+std::string randomCall(RandomNumbers& random, std::uint32_t country) {
     const std::uint32_t digit = random.below(10);
     std::string call = fmt::format("{}{}", prefixes[country], digit);
     for (int letter = 0; letter < 3; ++letter) {
@@ -61,7 +50,7 @@ std::string randomCall(Numbers& random, std::uint32_t country) {
 }  // namespace
 
 std::string generatedLog(std::size_t count) {
-    Numbers random;
+    RandomNumbers random;
     std::string text = "Logbuch\n<ADIF_VER:5>3.1.7 <PROGRAMID:7>Example <EOH>\n\n";
     text.reserve(text.size() + count * 340);
     for (std::size_t qso = 0; qso < count; ++qso) {
@@ -98,7 +87,7 @@ std::string generatedLog(std::size_t count) {
 
 std::string generatedContestLog(std::size_t count) {
     constexpr std::size_t secondsOfDay = 86400;
-    Numbers random;
+    RandomNumbers random;
     std::string text = "<ADIF_VER:5>3.1.7 <EOH>\n";
     const BandPlace* place = nullptr;
     std::string frequency;
@@ -139,7 +128,7 @@ std::string generatedContestLog(std::size_t count) {
 std::string generatedScoredLog(std::size_t count, std::string_view band) {
     constexpr std::array<std::string_view, 5> shortWave = {"80M", "40M", "20M", "15M", "10M"};
     constexpr std::size_t secondsOfDay = 86400;
-    Numbers random;
+    RandomNumbers random;
     std::string text = "<ADIF_VER:5>3.1.7 <EOH>\n";
     std::string_view place = band;
     std::string_view mode;
