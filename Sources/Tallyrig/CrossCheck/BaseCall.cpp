@@ -27,9 +27,13 @@ struct Longest {
 
 std::string baseCall(std::string_view call) {
     std::string buffer;
+    return std::string(baseCall(call, buffer));
+}
+
+std::string_view baseCall(std::string_view call, std::string& buffer) {
     const std::string_view whole = text::upper(text::trimmedOfBlanks(call), buffer);
     if (whole.find('/') == std::string_view::npos) {
-        return std::string(whole);
+        return whole;
     }
     std::size_t count = 0;
     Longest ofAll;
@@ -43,9 +47,9 @@ std::string baseCall(std::string_view call) {
         }
     });
     if (count < 2) {
-        return std::string(whole);
+        return whole;
     }
-    return std::string(ofCalls.length > 0 ? ofCalls.part : ofAll.part);
+    return ofCalls.length > 0 ? ofCalls.part : ofAll.part;
 }
 
 }  // namespace tallyrig

@@ -9,5 +9,7 @@ namespace tallyrig {
 /// between slashes the longest counts that holds a digit and a letter, or else the longest of all; of parts
 /// of one length the first. A call of one part stays whole, slashes included.
 std::string baseCall(std::string_view call);
+/// The same without a copy where `call` is in upper case already: the result refers to `call` or to `buffer`.
+std::string_view baseCall(std::string_view call, std::string& buffer);
 
 }  // namespace tallyrig

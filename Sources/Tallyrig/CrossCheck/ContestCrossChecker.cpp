@@ -4,6 +4,8 @@
 #include "Tallyrig/CrossCheck/LogCrossCheck.h"
 #include "Tallyrig/CrossCheck/LogWork.h"
 
+#include <oneapi/tbb/enumerable_thread_specific.h>
+
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -26,13 +28,14 @@ std::optional<CrossCheckReport> ContestCrossChecker::check(std::span<const Cross
     const CrossCheckIndex index(logs, crossCheckOptions, work);
     std::vector<CrossCheckSummary> summaries(logs.size());
     std::vector<CrossCheckReport::Findings> findings(logs.size());
+    tbb::enumerable_thread_specific<LogCrossCheck> checks(index, logs, crossCheckOptions);
     work.forEach(logs.size(), [&](std::size_t position) {
         const CrossCheckLog& log = logs[position];
         summaries[position] = {log.id, log.name, log.owner, {}};
         if (log.document.records().empty()) {
             return;
         }
-        findings[position] = LogCrossCheck(index, logs, position, crossCheckOptions).findings();
+        findings[position] = checks.local().findings(position);
         for (const CrossCheckFinding& finding : findings[position]) {
             summaries[position].counts.add(finding.status);
         }

@@ -52,7 +52,7 @@ std::vector<CrossCheckIndex::Number> numbersIn(KeyNumbers& all, const KeyNumbers
 /// Numbers for the calls and places that one thread comes across. Refers to the records that it has read.
 class CrossCheckIndex::Names {
   public:
-    Number base(std::string_view call) { return numberOf(bases, baseCall(call)); }
+    Number base(std::string_view call) { return numberOf(bases, baseCall(call, buffer)); }
 
     Number place(std::string_view band, std::string_view mode) {
         // Most QSOs are on the band of the one before.
@@ -68,6 +68,7 @@ class CrossCheckIndex::Names {
     KeyNumbers places;
 
   private:
+    std::string buffer;
     std::string_view lastBand;
     std::string_view lastMode;
     Number lastPlace = 0;
@@ -119,9 +120,10 @@ void CrossCheckIndex::arrangeStations(std::span<const CrossCheckLog> input) {
         const auto number = static_cast<Number>(stations.size());
         const Number begin = next;
         for (const std::size_t position : group.positions) {
-            logs[position].station = number;
-            logs[position].begin = next;
-            next += static_cast<Number>(input[position].document.records().size());
+            const ADIFRecordList& records = input[position].document.records();
+            logs[position] = {input[position].id, number, next,
+                              QSOFields(records[0].stored().tags(), fieldTables)};
+            next += static_cast<Number>(records.size());
         }
         stations.push_back({std::move(group.call), 0, begin, next});
         stationBegins.push_back(begin);
@@ -171,17 +173,21 @@ void CrossCheckIndex::readLog(const CrossCheckLog& input, std::size_t position, 
         return;
     }
     Log& log = logs[position];
-    log.fields = QSOFields(records[0].stored().tags());
     QSOValues values;
+    bool areAllExpected = true;
     QSO* qso = &qsos[log.begin];
     for (const ADIFRecord& record : records) {
         log.fields.read(record.stored(), values);
+        areAllExpected = areAllExpected && log.fields.expects(record.stored());
         qso->minutes = minutesOf(values[QSOField::date], values[QSOField::time]).value_or(noTime);
         qso->record = &record.stored();
         qso->base = names.base(values[QSOField::call]);
         qso->place = names.place(values[QSOField::band], values[QSOField::mode]);
         qso->log = static_cast<Number>(position);
         ++qso;
+    }
+    if (areAllExpected) {
+        log.fields.expectAll();
     }
 }
 

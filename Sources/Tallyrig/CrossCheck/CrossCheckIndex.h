@@ -6,6 +6,7 @@
 #include "Tallyrig/CrossCheck/QSOFields.h"
 #include "Tallyrig/CrossCheck/TimeWindow.h"
 #include "Tallyrig/Log/RecordStorage.h"
+#include "Tallyrig/Log/UUID.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -40,6 +41,7 @@ class CrossCheckIndex {
         Number log = 0;    ///< The position of the log in the input.
     };
     struct Log {
+        UUID id;
         Number station = 0;
         Number begin = 0;  ///< The number of its first QSO.
         QSOFields fields;
@@ -60,6 +62,9 @@ class CrossCheckIndex {
     CrossCheckIndex(std::span<const CrossCheckLog> logs, const CrossCheckOptions& options, LogWork& work);
 
     const QSO& qso(Number number) const { return qsos[number]; }
+    std::span<const QSO> qsosFrom(Number first, std::size_t count) const {
+        return std::span(qsos).subspan(first, count);
+    }
     /// By position in the input.
     const Log& log(std::size_t position) const { return logs[position]; }
     /// Those with a call in text order, then the one of the logs without an owner, if there are any.
@@ -105,6 +110,7 @@ class CrossCheckIndex {
     std::size_t mostDistance;
     bool isAnyAlike;
 
+    QSOFields::Tables fieldTables;
     std::vector<Log> logs;
     std::vector<Station> stations;
     std::vector<Number> stationBegins;  ///< Their first QSOs.

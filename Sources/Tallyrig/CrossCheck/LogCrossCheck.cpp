@@ -5,8 +5,8 @@
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
-#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -25,37 +25,77 @@ std::string orQuestionMark(std::string text) {
 }  // namespace
 
 LogCrossCheck::LogCrossCheck(const CrossCheckIndex& crossCheckIndex, std::span<const CrossCheckLog> allLogs,
-                             std::size_t position, const CrossCheckOptions& checkOptions)
-    : index(crossCheckIndex),
-      logs(allLogs),
-      options(checkOptions),
-      log(allLogs[position]),
-      indexed(crossCheckIndex.log(position)),
-      ownBase(crossCheckIndex.station(indexed.station).base),
-      hasOwner(!crossCheckIndex.isEmptyCall(ownBase)),
-      owner(upperTrimmed(log.owner)),
-      holders(crossCheckIndex, ownBase),
-      used(log.document.records().size()) {}
+                             const CrossCheckOptions& checkOptions)
+    : index(crossCheckIndex), logs(allLogs), options(checkOptions), holders(crossCheckIndex) {}
 
-CrossCheckReport::Findings LogCrossCheck::findings() {
-    CrossCheckReport::Findings findings(log.document.records().size());
-    for (std::size_t position = 0; position < findings.size(); ++position) {
-        const QSO& qso = index.qso(indexed.begin + static_cast<Number>(position));
-        indexed.fields.read(*qso.record, own);
-        CrossCheckFinding& finding = findings[position];
-        finding.id = qso.record->id();
-        finding.logID = log.id;
-        finding.index = position;
-        finding.call = text::upper(text::trimmedOfBlanks(own[QSOField::call]), callBuffer);
-        evaluate(qso, finding);
+CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position) {
+    turnTo(position);
+    CrossCheckReport::Findings findings(logs[position].document.records().size());
+    std::array<Outlook, blockSize> outlooks;
+    for (std::size_t begin = 0; begin < findings.size(); begin += blockSize) {
+        const std::size_t size = std::min(blockSize, findings.size() - begin);
+        const auto qsos = index.qsosFrom(log->begin + static_cast<Number>(begin), size);
+        for (std::size_t place = 0; place < size; ++place) {
+            outlooks[place] = outlook(qsos[place]);
+        }
+        fetch(qsos, outlooks);
+        for (std::size_t place = 0; place < size; ++place) {
+            const QSO& qso = qsos[place];
+            log->fields.read(*qso.record, own);
+            CrossCheckFinding& finding = findings[begin + place];
+            finding.id = qso.record->id();
+            finding.logID = log->id;
+            finding.index = begin + place;
+            finding.call = text::upper(text::trimmedOfBlanks(own[QSOField::call]), callBuffer);
+            evaluate(qso, outlooks[place], finding);
+        }
     }
     return findings;
 }
 
-void LogCrossCheck::evaluate(const QSO& qso, CrossCheckFinding& finding) {
-    const Number station = qso.base == ownBase ? CrossCheckIndex::none : index.stationOf(qso.base);
-    const bool hasOtherLog = station != CrossCheckIndex::none;
-    if (hasOtherLog && (isInLog(qso, station, finding) || isUnderMistypedOwnCall(qso, station, finding))) {
+void LogCrossCheck::turnTo(std::size_t position) {
+    log = &index.log(position);
+    ownBase = index.station(log->station).base;
+    owner = upperTrimmed(logs[position].owner);
+    holders.turnTo(ownBase);
+    used.clear(logs[position].document.records().size());
+}
+
+LogCrossCheck::Outlook LogCrossCheck::outlook(const QSO& qso) {
+    Outlook outlook;
+    if (qso.base != ownBase) {
+        outlook.station = index.stationOf(qso.base);
+    }
+    if (outlook.station != CrossCheckIndex::none) {
+        outlook.range = holders.ofStation(outlook.station);
+        outlook.hit = holders.nearest(outlook.range, qso);
+    }
+    return outlook;
+}
+
+void LogCrossCheck::fetch(std::span<const QSO> qsos, std::span<const Outlook> outlooks) const {
+    constexpr std::size_t cacheLine = 64;
+    constexpr std::size_t usualRecordSize = 320;
+    // One line of each after the other, for what takes the memory longest is to find the page.
+    for (std::size_t at = 0; at < usualRecordSize; at += cacheLine) {
+        for (std::size_t place = 0; place < qsos.size(); ++place) {
+            __builtin_prefetch(reinterpret_cast<const char*>(qsos[place].record) + at);
+            if (const auto& hit = outlooks[place].hit) {
+                __builtin_prefetch(reinterpret_cast<const char*>(holders[hit->place].record) + at);
+            }
+        }
+    }
+    for (std::size_t place = 0; place < qsos.size(); ++place) {
+        if (const auto& hit = outlooks[place].hit) {
+            __builtin_prefetch(&index.qso(holders[hit->place].number));
+        }
+    }
+}
+
+void LogCrossCheck::evaluate(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding) {
+    const bool hasOtherLog = outlook.station != CrossCheckIndex::none;
+    if (hasOtherLog &&
+        (isInLog(qso, outlook, finding) || isUnderMistypedOwnCall(qso, outlook.station, finding))) {
         return;
     }
     if (isWithLikeCall(qso, finding)) {
@@ -73,39 +113,40 @@ void LogCrossCheck::evaluate(const QSO& qso, CrossCheckFinding& finding) {
     }
 }
 
-bool LogCrossCheck::isInLog(const QSO& qso, Number station, CrossCheckFinding& finding) {
-    const CallHolders::Range range = holders.ofStation(station);
-    std::optional<CallHolders::Hit> hit = holders.nearest(range, qso);
+bool LogCrossCheck::isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding) {
+    std::optional<CallHolders::Hit> hit = outlook.hit;
+    if (hit && !holders.isLeft(hit->place)) {
+        hit = holders.nearest(outlook.range, qso);
+    }
     // A record may stand in several logs and be used under another number.
-    while (hit && isUsed(index.qso(holders.number(hit->place)))) {
+    while (hit && isUsed(*holders[hit->place].record)) {
         holders.takeOut(hit->place);
-        hit = holders.nearest(range, qso);
+        hit = holders.nearest(outlook.range, qso);
     }
     const bool isRegular = hit && hit->minutesApart <= options.timeToleranceMinutes;
     if (isRegular || (hit && hit->minutesApart <= options.extendedToleranceMinutes)) {
-        const Number number = holders.number(hit->place);
-        const QSO& other = index.qso(number);
-        used.insert(other.record->id());
+        const Number number = holders[hit->place].number;
+        used.insert(holders[hit->place].record->id());
         holders.takeOut(hit->place);
         setCounterpart(number, finding);
         if (isRegular) {
-            matched(qso, other, finding);
+            matched(qso, index.qso(number), finding);
         } else {
             matchedLate(hit->minutesApart, finding);
         }
         return true;
     }
 
-    hit = holders.nearestAnywhere(range, qso);
-    while (hit && isUsed(index.qso(holders.number(hit->place)))) {
+    hit = holders.nearestAnywhere(outlook.range, qso);
+    while (hit && isUsed(*holders[hit->place].record)) {
         holders.takeOut(hit->place);
-        hit = holders.nearestAnywhere(range, qso);
+        hit = holders.nearestAnywhere(outlook.range, qso);
     }
     if (!hit || hit->minutesApart > options.timeToleranceMinutes) {
         return false;
     }
     // It is not used up: it may be the match of a QSO that comes later.
-    const Number number = holders.number(hit->place);
+    const Number number = holders[hit->place].number;
     setCounterpart(number, finding);
     matchedElsewhere(qso, index.qso(number), finding);
     return true;
@@ -145,7 +186,7 @@ void LogCrossCheck::matchedElsewhere(const QSO& qso, const QSO& other, CrossChec
 }
 
 bool LogCrossCheck::isUnderMistypedOwnCall(const QSO& qso, Number station, CrossCheckFinding& finding) {
-    if (!hasOwner) {
+    if (index.isEmptyCall(ownBase)) {
         return false;
     }
     // Of equals the one whose call comes first in the logs of the other station.
@@ -157,7 +198,7 @@ bool LogCrossCheck::isUnderMistypedOwnCall(const QSO& qso, Number station, Cross
         const std::int64_t apart = minutesApart(candidate.minutes, qso.minutes);
         if (candidate.spot != qso.spot || (best && apart > std::get<0>(*best)) ||
             index.stationOf(candidate.base) != CrossCheckIndex::none || index.isEmptyCall(candidate.base) ||
-            !index.areAlike(candidate.base, ownBase) || isUsed(candidate)) {
+            !index.areAlike(candidate.base, ownBase) || isUsed(*candidate.record)) {
             return;
         }
         const Rank rank = {apart, *std::ranges::lower_bound(index.holders(candidate.base), other.begin),
@@ -189,7 +230,7 @@ bool LogCrossCheck::isWithLikeCall(const QSO& qso, CrossCheckFinding& finding) {
     using Rank = std::tuple<Number, std::int64_t, Number>;
     std::optional<Rank> best;
     holders.visitAround(qso, options.timeToleranceMinutes, [&](const CallHolders::Holder& holder) {
-        const Rank rank = {holder.station, minutesApart(holder.minutes, qso.minutes), holder.number};
+        const Rank rank = {holder.station, minutesApart(holder.minutes(), qso.minutes), holder.number};
         if (best && rank > *best) {
             return;
         }
@@ -225,7 +266,7 @@ void LogCrossCheck::setCounterpart(Number number, CrossCheckFinding& finding) {
     const QSO& other = index.qso(number);
     const CrossCheckIndex::Log& otherLog = index.log(other.log);
     otherLog.fields.read(*other.record, others);
-    finding.counterpartLogID = logs[other.log].id;
+    finding.counterpartLogID = otherLog.id;
     finding.counterpartIndex = number - otherLog.begin;
 }
 

@@ -11,30 +11,43 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace tallyrig {
 
-/// One pass over the QSOs of a log that looks for each of them in the logs of the others. Refers to the logs
-/// and the index.
+/// Looks for the QSOs of one log after the other in the logs of the others. Belongs to one thread, whose
+/// memory it uses again for each log. Refers to the logs, the index and the options.
 class LogCrossCheck {
   public:
-    /// Of the log at `position`, which has records.
-    LogCrossCheck(const CrossCheckIndex& index, std::span<const CrossCheckLog> logs, std::size_t position,
+    LogCrossCheck(const CrossCheckIndex& index, std::span<const CrossCheckLog> logs,
                   const CrossCheckOptions& options);
 
-    /// One finding for each record, in their order. To be asked for once.
-    CrossCheckReport::Findings findings();
+    /// One finding for each record of the log at `position`, in their order.
+    CrossCheckReport::Findings findings(std::size_t position);
 
   private:
     using Number = CrossCheckIndex::Number;
     using QSO = CrossCheckIndex::QSO;
 
-    void evaluate(const QSO& qso, CrossCheckFinding& finding);
+    /// So many QSOs are looked up before the first of them is judged, so that the memory can fetch at one go
+    /// what will be read: the records lie scattered over all logs.
+    static constexpr std::size_t blockSize = 32;
+    /// What is looked up of a QSO before.
+    struct Outlook {
+        Number station = CrossCheckIndex::none;  ///< Whose logs have to hold it; none if there is no log.
+        CallHolders::Range range;
+        std::optional<CallHolders::Hit> hit;
+    };
+
+    void turnTo(std::size_t position);
+    Outlook outlook(const QSO& qso);
+    void fetch(std::span<const QSO> qsos, std::span<const Outlook> outlooks) const;
+    void evaluate(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding);
     // What may have become of a QSO, one after the other; false where it has not.
-    bool isInLog(const QSO& qso, Number station, CrossCheckFinding& finding);
+    bool isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding);
     bool isUnderMistypedOwnCall(const QSO& qso, Number station, CrossCheckFinding& finding);
     bool isWithLikeCall(const QSO& qso, CrossCheckFinding& finding);
 
@@ -46,17 +59,16 @@ class LogCrossCheck {
     /// Enters the QSO found, and reads it.
     void setCounterpart(Number number, CrossCheckFinding& finding);
 
-    bool isUsed(const QSO& qso) const { return used.contains(qso.record->id()); }
+    bool isUsed(const RecordStorage& record) const { return used.contains(record.id()); }
 
     const CrossCheckIndex& index;
     std::span<const CrossCheckLog> logs;
     const CrossCheckOptions& options;
-    const CrossCheckLog& log;
-    const CrossCheckIndex::Log& indexed;
-    Number ownBase;
-    bool hasOwner;
-    std::string owner;  ///< Trimmed.
 
+    // Of the log at hand.
+    const CrossCheckIndex::Log* log = nullptr;
+    Number ownBase = 0;
+    std::string owner;  ///< Trimmed.
     CallHolders holders;
     RecordIDSet used;  ///< The records of others that vouch for a QSO.
     QSOValues own;     ///< Of the record at hand.

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -41,24 +42,32 @@ class QSOValues {
     std::array<std::string_view, qsoFieldCount> values;
 };
 
-/// Finds these fields in the records of one log. Refers to the document and may be asked by several threads.
+/// Finds these fields in the records of one log. Refers to the document and to one of the tables, and may be
+/// asked by several threads.
 class QSOFields {
   public:
+    /// For each tag by its number which field it is, `qsoFieldCount` if it is none of them.
+    using Table = std::vector<std::uint16_t>;
+    using Tables = std::set<Table>;
+
     QSOFields() = default;
-    /// For records whose tags, as a rule, are `expected`: those with others take longer.
-    explicit QSOFields(const FieldTags& expected) : tags(&expected), fields(fieldsByTag(expected)) {}
+    /// For records with these tags; those with others take longer. Most logs of one contest share a table.
+    QSOFields(const FieldTags& expected, Tables& tables)
+        : tags(&expected), table(&*tables.insert(tableOf(expected)).first) {}
+
+    bool expects(const RecordStorage& record) const { return &record.tags() == tags; }
+    /// Says that all records to be read are as expected, so that none is asked: its tags lie far from it.
+    void expectAll() { areAllExpected = true; }
 
     void read(const RecordStorage& record, QSOValues& values) const;
 
   private:
-    /// By tag number; `qsoFieldCount` for a tag that nobody asks for.
-    using FieldsByTag = std::vector<std::uint8_t>;
-
-    static FieldsByTag fieldsByTag(const FieldTags& tags);
-    static void read(const RecordStorage& record, const FieldsByTag& fields, QSOValues& values);
+    static Table tableOf(const FieldTags& tags);
+    static void read(const RecordStorage& record, const Table& fields, QSOValues& values);
 
     const FieldTags* tags = nullptr;
-    FieldsByTag fields;
+    const Table* table = nullptr;
+    bool areAllExpected = false;
 };
 
 }  // namespace tallyrig

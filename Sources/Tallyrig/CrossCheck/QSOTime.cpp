@@ -1,5 +1,6 @@
 #include "Tallyrig/CrossCheck/QSOTime.h"
 
+#include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
@@ -22,6 +23,18 @@ std::int64_t dayNumber(std::int64_t year, std::int64_t month, std::int64_t day) 
     return era * daysOfEra + yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear - daysTo1970;
 }
 
+/// A few characters as an integer, a sign included.
+std::optional<std::int64_t> number(std::string_view text) {
+    std::int64_t value = 0;
+    for (const char c : text) {
+        if (!text::isASCIIDigit(c)) {
+            return text::integer(text);
+        }
+        value = value * 10 + (c - '0');
+    }
+    return value;
+}
+
 }  // namespace
 
 std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view time) {
@@ -33,11 +46,11 @@ std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view ti
     if (date.size() != dateLength || time.size() != timeLength) {
         return std::nullopt;
     }
-    const auto year = text::integer(date.substr(0, 4));
-    const auto month = text::integer(date.substr(4, 2));
-    const auto day = text::integer(date.substr(6, 2));
-    const auto hour = text::integer(time.substr(0, 2));
-    const auto minute = text::integer(time.substr(2, 2));
+    const auto year = number(date.substr(0, 4));
+    const auto month = number(date.substr(4, 2));
+    const auto day = number(date.substr(6, 2));
+    const auto hour = number(time.substr(0, 2));
+    const auto minute = number(time.substr(2, 2));
     if (!year || !month || !day || !hour || !minute) {
         return std::nullopt;
     }

@@ -10,11 +10,14 @@
 
 namespace tallyrig {
 
-/// Some record ids, side by side in one piece of memory.
+/// Some record ids, side by side in one piece of memory. To be cleared before use.
 class RecordIDSet {
   public:
-    /// Has room for `most` and takes no more.
-    explicit RecordIDSet(std::size_t most) : slots(std::bit_ceil(2 * std::max<std::size_t>(most, 1))) {}
+    /// Empties it and makes room for `most`; it takes no more.
+    void clear(std::size_t most) {
+        slots.assign(std::bit_ceil(2 * std::max<std::size_t>(most, 1)), UUID());
+        hasZero = false;
+    }
 
     void insert(UUID id) {
         if (id == UUID()) {

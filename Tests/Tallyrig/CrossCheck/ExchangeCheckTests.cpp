@@ -17,7 +17,8 @@ using Lines = std::vector<std::string>;
 
 Lines mismatches(std::string_view received, std::string_view sent, bool checkRST = false) {
     const auto read = [](const ADIFRecord& record, QSOValues& values) {
-        QSOFields(record.stored().tags()).read(record.stored(), values);
+        QSOFields::Tables tables;
+        QSOFields(record.stored().tags(), tables).read(record.stored(), values);
     };
     const ADIFRecord left = testing::recordOf(received);
     const ADIFRecord right = testing::recordOf(sent);

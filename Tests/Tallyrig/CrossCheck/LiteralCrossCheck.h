@@ -218,8 +218,9 @@ class LiteralCrossCheck {
 
     std::vector<std::string> exchange(const QSO& a, const QSO& c) const {
         const auto read = [](const ADIFRecord& record) {
+            QSOFields::Tables tables;
             QSOValues values;
-            QSOFields(record.stored().tags()).read(record.stored(), values);
+            QSOFields(record.stored().tags(), tables).read(record.stored(), values);
             return values;
         };
         return options.checkExchange ? exchangeMismatches(read(a.record), read(c.record), options.checkRST)
