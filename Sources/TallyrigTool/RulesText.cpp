@@ -5,6 +5,7 @@
 #include "Tallyrig/Validation/ADIFSpec317.h"
 #include "TallyrigTool/Console.h"
 
+#include <map>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -131,6 +132,18 @@ std::string multiplierOf(const ContestMultiplier& multiplier) {
     if (multiplier.prefixLength && *multiplier.prefixLength > 0) {
         line += ", die ersten " + std::to_string(*multiplier.prefixLength) + " Zeichen";
     }
+    if (multiplier.token != MultiplierToken::whole && !multiplier.allowedValues) {
+        line += multiplier.token == MultiplierToken::last ? ", das letzte Wort" : ", das erste Wort";
+    }
+    if (multiplier.allowedValues) {
+        line += ", nur " + joined(*multiplier.allowedValues, " ");
+    }
+    if (multiplier.excludedValues) {
+        line += ", ohne " + joined(*multiplier.excludedValues, " ");
+    }
+    line += multiplier.alphabeticOnly      ? ", nur aus Buchstaben"
+            : multiplier.mustContainLetter ? ", mit einem Buchstaben"
+                                           : "";
     line += multiplier.perBand && multiplier.perMode ? ", je Band und Betriebsart"
             : multiplier.perBand                     ? ", je Band"
             : multiplier.perMode                     ? ", je Betriebsart"
@@ -154,6 +167,21 @@ std::vector<std::string> multipliersOf(const ContestRules& rules) {
 std::string stationOf(const ContestStation& station) {
     return "DXCC " + station.dxcc + ", " + station.continent + ", CQ-Zone " + station.cqZone + ", ITU-Zone " +
            station.ituZone + ", " + station.gridSquare;
+}
+
+/// The bands of each group that points are given by.
+std::vector<std::string> bandGroupsOf(const ContestRules& rules) {
+    std::map<std::string, std::vector<std::string_view>> groups;
+    if (rules.bandGroups) {
+        for (const auto& [band, group] : *rules.bandGroups) {
+            groups[group].push_back(band);
+        }
+    }
+    std::vector<std::string> lines;
+    for (const auto& [group, bands] : groups) {
+        lines.push_back(group + ": " + bandsOf(TextSet(bands)));
+    }
+    return lines;
 }
 
 std::string totalOf(const ContestRules& rules) {
@@ -185,6 +213,7 @@ std::string textOf(const ContestRules& rules, std::string_view note) {
     return visible(rules.name) + "\n" + visible(note) + "\n\n" +
            section("Eigener Standort", {stationOf(rules.station)}) +
            section("Bänder", {rules.bands ? bandsOf(*rules.bands) : "alle"}) +
+           section("Bandgruppen", bandGroupsOf(rules)) +
            section("Betriebsarten", {rules.modes ? joined(*rules.modes, ", ") : "alle"}) +
            section("Pflichtfelder", {joined(rules.requiredFields, ", ")}) +
            section("Dubletten", {duplicates}) +

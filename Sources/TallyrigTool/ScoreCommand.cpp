@@ -63,20 +63,22 @@ void writeJson(Output& output, const ContestScore& score) {
 
 using Row = std::vector<std::string>;
 
-/// Lines of columns, each as wide as its widest text; the last one is not filled up. `rightColumn` stands on
-/// the right of its place.
+/// Lines of columns, each as wide as its widest text of at most 40 characters; the last one is not filled up.
+/// `rightColumn` stands on the right of its place.
 std::string table(const std::vector<Row>& rows, std::size_t rightColumn) {
+    constexpr std::size_t widest = 40;
     std::vector<std::size_t> widths;
     for (const Row& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column < row.size(); ++column) {
-            widths[column] = std::max(widths[column], text::characterCount(row[column]));
+            widths[column] = std::max(widths[column], std::min(text::characterCount(row[column]), widest));
         }
     }
     std::string lines;
     for (const Row& row : rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
-            const std::string fill(widths[column] - text::characterCount(row[column]), ' ');
+            const std::size_t length = text::characterCount(row[column]);
+            const std::string fill(widths[column] - std::min(length, widths[column]), ' ');
             const bool isLast = column + 1 == row.size();
             lines += column == rightColumn ? fill + row[column] : row[column] + (isLast ? "" : fill);
             lines += isLast ? "\n" : "  ";

@@ -83,8 +83,12 @@ void WindowPicture::takeOf(QuillonApp& app) const {
             app.contest().setContest(*picture.contest);
             app.store().setMode(AppMode::contest);
         }
-        // What follows from that is laid out by the time the events at hand are done.
         QTimer::singleShot(0, &app.window(), [picture, &app] {
+            // A pane within a pane is laid out a turn later than what it stands in.
+            constexpr int layoutTurns = 4;
+            for (int turn = 0; turn < layoutTurns; ++turn) {
+                QApplication::processEvents();
+            }
             QApplication::exit(app.window().grab().save(picture.path) ? 0 : 1);
         });
     });

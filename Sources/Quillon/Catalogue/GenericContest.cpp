@@ -3,8 +3,8 @@
 #include "Tallyrig/Text/Pieces.h"
 #include "Tallyrig/Text/Text.h"
 
-#include <algorithm>
-#include <cstddef>
+#include <optional>
+#include <string_view>
 #include <vector>
 
 namespace quillon {
@@ -12,15 +12,6 @@ namespace quillon {
 namespace {
 
 using namespace tallyrig;
-
-constexpr std::array<std::string_view, pointsKinds.size()> pointsKindNames = {"fixed", "distance", "field"};
-constexpr std::array<std::string_view, dupeModes.size()> dupeModeNames = {"callBand", "callBandMode", "call"};
-
-template <typename Case, std::size_t count>
-std::optional<Case> caseNamed(std::string_view name, const std::array<std::string_view, count>& names) {
-    const auto found = std::ranges::find(names, name);
-    return found == names.end() ? std::nullopt : std::optional(static_cast<Case>(found - names.begin()));
-}
 
 ContestPoints pointsOf(const GenericContest& form) {
     switch (form.pointsKind) {
@@ -73,22 +64,6 @@ std::vector<ContestMultiplier> multipliersOf(const GenericContest& form) {
 }
 
 }  // namespace
-
-std::string_view rawValue(PointsKind kind) {
-    return pointsKindNames[static_cast<std::size_t>(kind)];
-}
-
-std::string_view rawValue(DupeMode mode) {
-    return dupeModeNames[static_cast<std::size_t>(mode)];
-}
-
-std::optional<PointsKind> pointsKindNamed(std::string_view rawValue) {
-    return caseNamed<PointsKind>(rawValue, pointsKindNames);
-}
-
-std::optional<DupeMode> dupeModeNamed(std::string_view rawValue) {
-    return caseNamed<DupeMode>(rawValue, dupeModeNames);
-}
 
 ContestRules GenericContest::rules(const ContestStation& station) const {
     return {

@@ -5,9 +5,7 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace quillon {
 
@@ -18,12 +16,6 @@ inline constexpr std::array pointsKinds = {PointsKind::fixed, PointsKind::distan
 /// In what its duplicates agree.
 enum class DupeMode { callBand, callBandMode, call };
 inline constexpr std::array dupeModes = {DupeMode::callBand, DupeMode::callBandMode, DupeMode::call};
-
-/// The names of the cases, such as "callBand", and the cases of these names, absent if there is none.
-std::string_view rawValue(PointsKind kind);
-std::string_view rawValue(DupeMode mode);
-std::optional<PointsKind> pointsKindNamed(std::string_view rawValue);
-std::optional<DupeMode> dupeModeNamed(std::string_view rawValue);
 
 /// The form of the contest of one's own, as filled in.
 struct GenericContest {

@@ -24,9 +24,6 @@ class ContestStore : public QObject {
     /// What the work area shows of a contest: the score of the open log, or the logs of many stations against
     /// each other.
     enum class Pane { score, crossCheck };
-    using Contest = quillon::Contest;
-    using PointsKind = quillon::PointsKind;
-    using DupeMode = quillon::DupeMode;
 
     explicit ContestStore(QObject* parent = nullptr) : QObject(parent) {}
 

@@ -21,6 +21,8 @@ struct ContestQSOResult {
     std::vector<std::string> problems;        ///< Why it is invalid: German sentences for a person.
     std::optional<CrossCheckStatus> crossCheckRemoval;  ///< What removed it from the score.
 
+    /// Whether the log itself speaks against it.
+    bool isFlagged() const { return isDupe || !problems.empty(); }
     bool isCounted() const { return problems.empty() && !isDupe && !crossCheckRemoval; }
     friend bool operator==(const ContestQSOResult&, const ContestQSOResult&) = default;
 };

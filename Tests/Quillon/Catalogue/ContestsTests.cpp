@@ -107,14 +107,5 @@ TEST(RequiredFields, StandBetweenCommasAndBlanks) {
     }
 }
 
-TEST(Cases, AreKnownByTheirRawValues) {
-    EXPECT_EQ(pointsKindNamed("distance"), PointsKind::distance);
-    EXPECT_EQ(rawValue(PointsKind::field), "field");
-    EXPECT_FALSE(pointsKindNamed("Fixed"));
-    EXPECT_EQ(dupeModeNamed("callBandMode"), DupeMode::callBandMode);
-    EXPECT_EQ(rawValue(DupeMode::call), "call");
-    EXPECT_FALSE(dupeModeNamed(""));
-}
-
 }  // namespace
 }  // namespace quillon

@@ -36,8 +36,6 @@ constexpr int marginPx = 16;
 /// So wide that the eye still goes from a name to its number.
 constexpr int widestRowPx = 420;
 
-/// With more QSOs than these, a score takes longer than the next key does to come.
-constexpr std::size_t longLog = 20'000;
 constexpr int typingPauseMs = 300;
 
 QString number(std::int64_t figure) {
@@ -50,10 +48,6 @@ QString number(std::size_t count) {
 
 QString shown(std::string_view text) {
     return toQString(tallyrig::text::visibleText(cutToShow(text)));
-}
-
-bool isIssue(const ContestQSOResult& qso) {
-    return qso.isDupe || !qso.problems.empty();
 }
 
 FindingRow rowOf(const ContestQSOResult& qso, const tallyrig::ADIFRecord& record) {
@@ -172,6 +166,11 @@ void ContestView::scoreAfter(int pauseMs) {
     }
 }
 
+void ContestView::hideEvent(QHideEvent* event) {
+    pause.stop();
+    QWidget::hideEvent(event);
+}
+
 void ContestView::showEvent(QShowEvent* event) {
     if (isStale) {
         score();
@@ -223,9 +222,10 @@ void ContestView::showMultipliers(const ContestScore& score) {
     multiplierRows->setMaximumWidth(widestRowPx);
     for (const ContestScore::Breakdown& multiplier : score.multiplierBreakdown) {
         const int row = grid->rowCount();
-        auto* name = new ElidedLabel(Qt::ElideRight, multiplierRows);
-        name->setText(shown(multiplier.name));
-        name->setToolTip(plainToolTip(name->text()));
+        auto* name = new QLabel(shown(multiplier.name), multiplierRows);
+        name->setTextFormat(Qt::PlainText);
+        name->setWordWrap(true);
+        makeCopyable(*name);
         auto* count = new QLabel(number(multiplier.count), multiplierRows);
         count->setTextFormat(Qt::PlainText);
         count->setAccessibleName(name->text() + QStringLiteral(": ") + count->text());
@@ -244,7 +244,7 @@ void ContestView::showIssues(const ContestScore& score) {
     issueRecords.clear();
     std::size_t count = 0;
     for (const ContestQSOResult& qso : score.results) {
-        if (!isIssue(qso)) {
+        if (!qso.isFlagged()) {
             continue;
         }
         ++count;

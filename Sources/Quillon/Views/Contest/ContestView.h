@@ -7,13 +7,11 @@
 
 #include <array>
 #include <cstddef>
-#include <string>
 #include <vector>
 
 class QLabel;
 class QScrollArea;
 class QStackedLayout;
-class QVBoxLayout;
 
 namespace tallyrig {
 struct ContestScore;
@@ -36,6 +34,9 @@ class ContestView : public QWidget {
     Q_OBJECT
 
   public:
+    /// With more QSOs than these, a score takes longer than the next key may wait.
+    static constexpr std::size_t longLog = 100'000;
+
     /// The stores outlive the view. At most `mostIssues` QSOs that do not count are listed.
     ContestView(LogStore& logStore, const ContestStore& contestStore, std::size_t mostIssues,
                 QWidget* parent = nullptr);
@@ -47,6 +48,7 @@ class ContestView : public QWidget {
     void qsoWanted(tallyrig::UUID record);
 
   protected:
+    void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -194,10 +195,17 @@ void FindingList::changeEvent(QEvent* event) {
     }
 }
 
-void FindingList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    CopyableList::currentChanged(current, previous);
-    if (current.isValid()) {
-        emit currentRowMoved(visualRect(current));
+/// Not with the mouse: a pane that scrolls between press and release takes the row away from under it.
+void FindingList::tellCurrentRow() {
+    if (currentIndex().isValid()) {
+        emit currentRowMoved(visualRect(currentIndex()));
+    }
+}
+
+void FindingList::focusInEvent(QFocusEvent* event) {
+    CopyableList::focusInEvent(event);
+    if (event->reason() != Qt::MouseFocusReason) {
+        tellCurrentRow();
     }
 }
 
@@ -209,6 +217,7 @@ void FindingList::keyPressEvent(QKeyEvent* event) {
         return;
     }
     CopyableList::keyPressEvent(event);
+    tellCurrentRow();
 }
 
 }  // namespace quillon

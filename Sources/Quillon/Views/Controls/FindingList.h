@@ -5,7 +5,6 @@
 #include <QRect>
 #include <QString>
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -17,8 +16,6 @@ struct FindingRow {
     QString call;      ///< As it is shown.
     std::string band;  ///< As the log writes it; empty if it says none.
     QString text;
-
-    friend bool operator==(const FindingRow&, const FindingRow&) = default;
 };
 
 /// The findings about single QSOs in a pane of figures, each a button that leads to its QSO: by a click, by
@@ -40,17 +37,19 @@ class FindingList : public CopyableList {
   signals:
     /// The user wants to see the QSO of this row.
     void pressed(int row);
-    /// The keyboard is at another row now, which stands there in the list.
+    /// The keyboard has come or gone to a row, which stands there in the list.
     void currentRowMoved(const QRect& place);
 
   protected:
     void changeEvent(QEvent* event) override;
-    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
     class Model;
     class Delegate;
+
+    void tellCurrentRow();
 
     Model* findingModel;
 };

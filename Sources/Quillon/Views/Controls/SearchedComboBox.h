@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-/// A picker of many entries, found by typing: the list opens, and what is typed goes to the next entry in
+/// A picker of many entries, found by typing: the list opens, and what is typed goes to the first entry in
 /// which it stands, best at its beginning or at that of a word.
 class SearchedComboBox : public CalmComboBox {
     Q_OBJECT

@@ -1,7 +1,9 @@
 #include "Quillon/Views/Controls/SidebarSection.h"
 
+#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/Labels.h"
 
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -28,6 +30,15 @@ void SidebarSection::addLabelled(const QString& label, QWidget* control) {
     nameBy(*caption, *control);
     column->addWidget(caption);
     column->addWidget(control);
+}
+
+QLineEdit& SidebarSection::addText(const QString& label, std::string_view text, const QString& toolTip) {
+    constexpr int longestText = 1000;
+    auto* field = new BoundedLine(longestText, this);
+    field->setText(text);
+    field->editor().setToolTip(toolTip);
+    addLabelled(label, field);
+    return field->editor();
 }
 
 QLabel* SidebarSection::addNote(const QString& text) {

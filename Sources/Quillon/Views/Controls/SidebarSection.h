@@ -2,7 +2,10 @@
 
 #include <QWidget>
 
+#include <string_view>
+
 class QLabel;
+class QLineEdit;
 class QVBoxLayout;
 
 namespace quillon {
@@ -20,6 +23,8 @@ class SidebarSection : public QWidget {
     void addUnderHeading(QWidget* control);
     /// Under its own label, which belongs to it for the keyboard and for assistive technology.
     void addLabelled(const QString& label, QWidget* control);
+    /// A text field for `text` (UTF-8), with a tool tip, under its label.
+    QLineEdit& addText(const QString& label, std::string_view text, const QString& toolTip);
     QLabel* addNote(const QString& text);
 
   private:

@@ -60,13 +60,14 @@ QSize TileLayout::minimumSize() const {
 void TileLayout::setGeometry(const QRect& area) {
     QLayout::setGeometry(area);
     const int inRow = columns(count(), area.width(), minimumSize().width(), spacing());
-    const int tileWidth = (area.width() - (inRow - 1) * spacing()) / inRow;
-    const int height = rowHeight(tileWidth);
+    const int height = rowHeight((area.width() - (inRow - 1) * spacing()) / inRow);
+    // The pixels that cannot be shared out go to some of the tiles, so that the last ends where the row does.
+    const auto leftOf = [&](int column) { return column * (area.width() + spacing()) / inRow; };
     for (int index = 0; index < count(); ++index) {
         const int column = index % inRow;
         const int row = index / inRow;
-        itemAt(index)->setGeometry(QRect(area.x() + column * (tileWidth + spacing()),
-                                         area.y() + row * (height + spacing()), tileWidth, height));
+        itemAt(index)->setGeometry(QRect(area.x() + leftOf(column), area.y() + row * (height + spacing()),
+                                         leftOf(column + 1) - leftOf(column) - spacing(), height));
     }
 }
 

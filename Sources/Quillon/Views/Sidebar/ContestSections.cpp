@@ -2,7 +2,6 @@
 
 #include "Quillon/Catalogue/Contests.h"
 #include "Quillon/Stores/ContestStore.h"
-#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/SearchedComboBox.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
@@ -17,12 +16,6 @@
 #include <utility>
 
 namespace quillon {
-
-namespace {
-
-constexpr int longestText = 1000;
-
-}  // namespace
 
 ContestSections::ContestSections(ContestStore& contestStore, QWidget* parent)
     : QWidget(parent), store(contestStore) {
@@ -82,15 +75,12 @@ SidebarSection* ContestSections::ownStation() {
 
 void ContestSections::addText(SidebarSection& section, const QString& label, std::string OwnStation::*member,
                               const QString& toolTip) {
-    auto* field = new BoundedLine(longestText, &section);
-    field->setText(store.ownStation().*member);
-    field->editor().setToolTip(toolTip);
-    connect(&field->editor(), &QLineEdit::textEdited, this, [this, member](const QString& text) {
+    QLineEdit& field = section.addText(label, store.ownStation().*member, toolTip);
+    connect(&field, &QLineEdit::textEdited, this, [this, member](const QString& text) {
         OwnStation changed = store.ownStation();
         changed.*member = text.toStdString();
         store.setOwnStation(std::move(changed));
     });
-    section.addLabelled(label, field);
 }
 
 }  // namespace quillon

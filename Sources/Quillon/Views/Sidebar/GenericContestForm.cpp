@@ -1,7 +1,6 @@
 #include "Quillon/Views/Sidebar/GenericContestForm.h"
 
 #include "Quillon/Stores/ContestStore.h"
-#include "Quillon/Views/Controls/BoundedField.h"
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/CalmSpinBox.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
@@ -17,7 +16,6 @@ namespace quillon {
 
 namespace {
 
-constexpr int longestText = 1000;
 constexpr int mostPoints = 100;
 constexpr int longestPrefix = 10;
 
@@ -138,12 +136,9 @@ SidebarSection* GenericContestForm::multiplier() {
 
 void GenericContestForm::addText(SidebarSection& section, const QString& label,
                                  std::string GenericContest::*member, const QString& toolTip) {
-    auto* field = new BoundedLine(longestText, &section);
-    field->setText(store.genericContest().*member);
-    field->editor().setToolTip(toolTip);
-    connect(&field->editor(), &QLineEdit::textEdited, this,
+    QLineEdit& field = section.addText(label, store.genericContest().*member, toolTip);
+    connect(&field, &QLineEdit::textEdited, this,
             [this, member](const QString& text) { set(member, text.toStdString()); });
-    section.addLabelled(label, field);
 }
 
 template <typename Value>

@@ -7,8 +7,6 @@
 
 #include <string>
 
-class QCheckBox;
-
 namespace quillon {
 
 class ContestStore;

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -94,7 +96,7 @@ TEST_F(Scoring, FollowsLogAndRulesOnceForEachTurn) {
 }
 
 TEST_F(Scoring, WaitsForAPauseInTypingWhereTheLogIsLong) {
-    openLog(std::vector<std::string>(20'001, "CALL=DL1ABC BAND=2M"));
+    openLog(std::vector<std::string>(ContestView::longLog + 1, "CALL=DL1ABC BAND=2M"));
     show();
     QSignalSpy scored(view.get(), &ContestView::scored);
     for (const char* typed : {"F", "Fu", "Fuchs"}) {
@@ -117,6 +119,17 @@ TEST_F(Scoring, LeadsToAQSOThatIsStillThere) {
     EXPECT_EQ(wanted.size(), 1);
     EXPECT_EQ(store.selection(), LogStore::Selection{id(1)});
     EXPECT_EQ(store.mode(), AppMode::check);
+
+    openLog(std::vector<std::string>(100, "CALL=DL1ABC BAND=2M"));
+    auto& bar = *view->findChild<QScrollArea*>()->verticalScrollBar();
+    for (int turn = 0; turn < 10 && bar.maximum() == 0; ++turn) {
+        QApplication::processEvents();
+    }
+    const int place = bar.value();
+    QTest::mousePress(list.viewport(), Qt::LeftButton, {}, list.visualRect(rows().index(60, 0)).center());
+    EXPECT_EQ(bar.value(), place) << "the row stays under the pointer until it is released";
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_GT(bar.value(), place);
 
     store.newLog();
     QTest::keyClick(&list, Qt::Key_Return);

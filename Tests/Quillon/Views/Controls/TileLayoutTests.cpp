@@ -29,6 +29,8 @@ TEST(Tiles, AreAllOfOneSize) {
     layout->setGeometry(QRect(5, 7, 300, layout->heightForWidth(300)));
     EXPECT_EQ(layout->itemAt(3)->geometry(), QRect(5 + 156, 7 + 50 + 12, 144, 50));
     EXPECT_EQ(layout->heightForWidth(300), 112);
+    layout->setGeometry(QRect(0, 0, 301, 112));
+    EXPECT_EQ(layout->itemAt(3)->geometry().right(), 300) << "the last ends where the row does";
 }
 
 }  // namespace
