@@ -15,6 +15,9 @@ class LogWork {
 
     /// The part that is done, from 0 to 1. Starts anew with each task that the work is used for.
     double progress() const;
+    /// The same as numbers of steps; 0 of 0 before it has begun.
+    std::size_t stepsDone() const { return done.load(std::memory_order_relaxed); }
+    std::size_t steps() const { return total.load(std::memory_order_relaxed); }
     /// Asks the work to end soon; what it gives then is empty. For good.
     void cancel() { cancelled.store(true, std::memory_order_relaxed); }
     bool isCancelled() const { return cancelled.load(std::memory_order_relaxed); }

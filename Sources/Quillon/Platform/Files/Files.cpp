@@ -110,7 +110,7 @@ std::variant<std::string, FileError> readStandardInput() {
     return contentOf(STDIN_FILENO, 0);
 }
 
-std::optional<FileError> replaceFile(const std::string& path, std::string_view content) {
+std::optional<FileError> replaceFile(const std::string& path, std::string_view content, Lasting lasting) {
     struct stat old = {};
     const bool isThere = ::stat(path.c_str(), &old) == 0;
     if (const int refusal = isThere ? refusalOf(old) : 0; refusal != 0) {
@@ -136,10 +136,20 @@ std::optional<FileError> replaceFile(const std::string& path, std::string_view c
         return FileError{
             "Die Datei gehört einem anderen Benutzer und würde ihm durch das Speichern genommen."};
     }
-    if (::fsync(file.number()) != 0 || !file.moveTo(*target)) {
+    if ((lasting == Lasting::atOnce && ::fsync(file.number()) != 0) || !file.moveTo(*target)) {
         return writingError(errno);
     }
-    syncFolder(folder);
+    if (lasting == Lasting::atOnce) {
+        syncFolder(folder);
+    }
+    return std::nullopt;
+}
+
+std::optional<FileError> makeLast(const std::string& folder) {
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!opened.isOpen() || ::syncfs(opened.number()) != 0) {
+        return writingError(errno);
+    }
     return std::nullopt;
 }
 

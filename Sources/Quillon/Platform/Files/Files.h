@@ -21,6 +21,10 @@ std::variant<std::string, FileError> readFile(const std::string& path);
 /// Everything up to the end of standard input, whatever that is, or why it could not be read.
 std::variant<std::string, FileError> readStandardInput();
 
+/// When what is written is safe from a loss of power. Waiting for the disk takes longer than the rest, and
+/// many files can wait together (`makeLast`).
+enum class Lasting { atOnce, later };
+
 /// Makes `content` the whole of the file at `path` (UTF-8): it is written beside the file and then renamed,
 /// so that the file is replaced whole or, on failure, not at all. Absent on success.
 ///
@@ -31,6 +35,9 @@ std::variant<std::string, FileError> readStandardInput();
 ///
 /// What is written has no name until it is complete, where the file system can do that. A process that dies
 /// leaves at most one file ".quillon-N.tmp" behind, which the next to save in that folder removes.
-std::optional<FileError> replaceFile(const std::string& path, std::string_view content);
+std::optional<FileError> replaceFile(const std::string& path, std::string_view content,
+                                     Lasting lasting = Lasting::atOnce);
+/// Waits until all that was written to the disk of this folder is there. Absent on success.
+std::optional<FileError> makeLast(const std::string& folder);
 
 }  // namespace quillon
