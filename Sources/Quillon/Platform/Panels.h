@@ -27,6 +27,11 @@ class Panels {
     /// A place to write to, absent if the user cancels. The panel has asked about replacing a file that is
     /// there.
     virtual std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) = 0;
+    /// Existing files and folders, of any kind; none if the user cancels. `message` says what for.
+    virtual QStringList filesAndFoldersToOpen(const QString& message) = 0;
+    /// An existing folder, which may have been made just now; absent if the user cancels. `button` is what
+    /// the user presses to go on.
+    virtual std::optional<QString> folderToWriteTo(const QString& message, const QString& button) = 0;
 };
 
 }  // namespace quillon

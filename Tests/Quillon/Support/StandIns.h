@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Platform/FileManager.h"
 #include "Quillon/Platform/Panels.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
@@ -9,6 +10,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillon::testing {
@@ -36,7 +38,17 @@ class ScriptedPanels : public Panels {
         return nextAnswer();
     }
 
-    QStringList answers;
+    QStringList filesAndFoldersToOpen(const QString& message) override {
+        messages.append(message);
+        return std::exchange(answers, {});
+    }
+    std::optional<QString> folderToWriteTo(const QString& message, const QString& button) override {
+        messages.append(message + QLatin1Char('|') + button);
+        return nextAnswer();
+    }
+
+    QStringList answers;  ///< One for each question; all of them for the one that takes several.
+    QStringList messages;
     QStringList proposedNames;     ///< One for each question where to save.
     QList<FileType> offeredTypes;  ///< In the last question.
 
@@ -44,6 +56,14 @@ class ScriptedPanels : public Panels {
     std::optional<QString> nextAnswer() {
         return answers.isEmpty() ? std::nullopt : std::optional(answers.takeFirst());
     }
+};
+
+/// A file manager that notes what it is asked for.
+class NotingFileManager : public FileManager {
+  public:
+    void show(const QString& folder) override { shown.append(folder); }
+
+    QStringList shown;
 };
 
 /// Fonts in which each byte has the same width.

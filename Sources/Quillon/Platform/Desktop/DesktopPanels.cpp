@@ -109,14 +109,40 @@ void widenColumns(const QFileDialog& dialog) {
     widen(dateColumn, QLocale::system().toString(longDate, QLocale::ShortFormat));
 }
 
-void setUp(QFileDialog& dialog, const QList<FileType>& types) {
+void setUp(QFileDialog& dialog) {
     static IconsByName icons;
     dialog.setIconProvider(&icons);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(nameFilters(types));
     dialog.resize(dialog.size().expandedTo(QSize(860, 520)));
     widenColumns(dialog);
 }
+
+void setUp(QFileDialog& dialog, const QList<FileType>& types) {
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(nameFilters(types));
+    setUp(dialog);
+}
+
+/// A panel for files that takes folders as well. Dialogs of the desktop take either.
+class FilesAndFoldersDialog : public QFileDialog {
+  public:
+    FilesAndFoldersDialog(QWidget* parent, const QString& title, const QString& folder)
+        : QFileDialog(parent, title, folder) {
+        setOption(DontUseNativeDialog);
+        setFileMode(ExistingFiles);
+    }
+
+    void accept() override {
+        // Qt's own would open a folder in the panel, which a double click does still.
+        const QStringList chosen = selectedFiles();
+        const bool hasFolder = std::any_of(chosen.begin(), chosen.end(),
+                                           [](const QString& path) { return QFileInfo(path).isDir(); });
+        if (hasFolder) {
+            QDialog::accept();
+        } else {
+            QFileDialog::accept();
+        }
+    }
+};
 
 bool mayReplace(const QString& path) {
     const std::string name = tallyrig::text::visibleText(QFileInfo(path).fileName().toStdString());
@@ -132,15 +158,20 @@ bool mayReplace(const QString& path) {
     return question.clickedButton() == replace;
 }
 
-std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
+QStringList choices(QFileDialog& dialog, QString& folder) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
+        return {};
     }
-    const QString path = dialog.selectedFiles().constFirst();
-    folder = folderOf(path);
+    const QStringList paths = dialog.selectedFiles();
+    folder = folderOf(paths.constFirst());
     // The store now reads or writes the file; it returns to the event loop when it is done.
     showBusyCursorUntilIdle();
-    return path;
+    return paths;
+}
+
+std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
+    const QStringList paths = choices(dialog, folder);
+    return paths.isEmpty() ? std::nullopt : std::optional(paths.constFirst());
 }
 
 }  // namespace
@@ -170,6 +201,21 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
         }
     }
     return std::nullopt;
+}
+
+QStringList DesktopPanels::filesAndFoldersToOpen(const QString& message) {
+    FilesAndFoldersDialog dialog(QApplication::activeWindow(), message, folder);
+    setUp(dialog);
+    return choices(dialog, folder);
+}
+
+std::optional<QString> DesktopPanels::folderToWriteTo(const QString& message, const QString& button) {
+    QFileDialog dialog(QApplication::activeWindow(), message, folder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setLabelText(QFileDialog::Accept, button);
+    setUp(dialog);
+    return choice(dialog, folder);
 }
 
 }  // namespace quillon

@@ -11,6 +11,8 @@ class DesktopPanels : public Panels {
     std::optional<QString> fileToOpen(const QList<FileType>& types) override;
     /// A name without extension gets the first one of `types`.
     std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) override;
+    QStringList filesAndFoldersToOpen(const QString& message) override;
+    std::optional<QString> folderToWriteTo(const QString& message, const QString& button) override;
 
     /// The folder in which the next panel begins.
     void setFolder(const QString& path) { folder = path; }

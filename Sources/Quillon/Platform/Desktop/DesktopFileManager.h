@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Quillon/Platform/FileManager.h"
+
+namespace quillon {
+
+/// The one that the desktop opens for a folder.
+class DesktopFileManager : public FileManager {
+  public:
+    void show(const QString& folder) override;
+};
+
+}  // namespace quillon
