@@ -42,7 +42,7 @@ void CallHolders::turnTo(Number base) {
             borders.push_back(place);
         }
         const CrossCheckIndex::QSO& qso = index.qso(number);
-        holders.push_back({Holder::spotTimeOf(qso.spot, qso.minutes), qso.record, number, station});
+        holders.push_back({Holder::spotTimeOf(qso.spot, qso.minutes), qso.record, number, station, qso.log});
     }
     borders.push_back(numbers.size());
     sortStations();

@@ -34,6 +34,7 @@ class CallHolders {
         const RecordStorage* record = nullptr;
         Number number = 0;
         Number station = 0;
+        Number log = 0;
 
         /// The lowest value for a spot, that of no time; a spot ends where the next one begins.
         static std::uint64_t spotBegin(Number spot) { return std::uint64_t{spot} << timeBits; }

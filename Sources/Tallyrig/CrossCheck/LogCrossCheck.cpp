@@ -35,10 +35,7 @@ CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position) {
     for (std::size_t begin = 0; begin < findings.size(); begin += blockSize) {
         const std::size_t size = std::min(blockSize, findings.size() - begin);
         const auto qsos = index.qsosFrom(log->begin + static_cast<Number>(begin), size);
-        for (std::size_t place = 0; place < size; ++place) {
-            outlooks[place] = outlook(qsos[place]);
-        }
-        fetch(qsos, outlooks);
+        lookAhead(qsos, outlooks);
         for (std::size_t place = 0; place < size; ++place) {
             const QSO& qso = qsos[place];
             log->fields.read(*qso.record, own);
@@ -61,33 +58,31 @@ void LogCrossCheck::turnTo(std::size_t position) {
     used.clear(logs[position].document.records().size());
 }
 
-LogCrossCheck::Outlook LogCrossCheck::outlook(const QSO& qso) {
-    Outlook outlook;
-    if (qso.base != ownBase) {
-        outlook.station = index.stationOf(qso.base);
-    }
-    if (outlook.station != CrossCheckIndex::none) {
-        outlook.range = holders.ofStation(outlook.station);
-        outlook.hit = holders.nearest(outlook.range, qso);
-    }
-    return outlook;
-}
-
-void LogCrossCheck::fetch(std::span<const QSO> qsos, std::span<const Outlook> outlooks) const {
+void LogCrossCheck::lookAhead(std::span<const QSO> qsos, std::span<Outlook> outlooks) {
     constexpr std::size_t cacheLine = 64;
     constexpr std::size_t usualRecordSize = 320;
-    // One line of each after the other, for what takes the memory longest is to find the page.
+    for (std::size_t place = 0; place < qsos.size(); ++place) {
+        const QSO& qso = qsos[place];
+        Outlook& outlook = outlooks[place];
+        outlook = {};
+        if (qso.base != ownBase) {
+            outlook.station = index.stationOf(qso.base);
+        }
+        if (outlook.station != CrossCheckIndex::none) {
+            outlook.range = holders.ofStation(outlook.station);
+            outlook.hit = holders.nearest(outlook.range, qso);
+        }
+    }
+    // One line of each after the other, for what takes longest is to find the page. (In a function of its own
+    // this would do nothing that g++ can see, and be left out.)
     for (std::size_t at = 0; at < usualRecordSize; at += cacheLine) {
         for (std::size_t place = 0; place < qsos.size(); ++place) {
             __builtin_prefetch(reinterpret_cast<const char*>(qsos[place].record) + at);
             if (const auto& hit = outlooks[place].hit) {
-                __builtin_prefetch(reinterpret_cast<const char*>(holders[hit->place].record) + at);
+                const CallHolders::Holder& other = holders[hit->place];
+                __builtin_prefetch(reinterpret_cast<const char*>(other.record) + at);
+                __builtin_prefetch(&index.log(other.log));
             }
-        }
-    }
-    for (std::size_t place = 0; place < qsos.size(); ++place) {
-        if (const auto& hit = outlooks[place].hit) {
-            __builtin_prefetch(&index.qso(holders[hit->place].number));
         }
     }
 }
@@ -125,12 +120,12 @@ bool LogCrossCheck::isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFi
     }
     const bool isRegular = hit && hit->minutesApart <= options.timeToleranceMinutes;
     if (isRegular || (hit && hit->minutesApart <= options.extendedToleranceMinutes)) {
-        const Number number = holders[hit->place].number;
-        used.insert(holders[hit->place].record->id());
+        const CallHolders::Holder& other = holders[hit->place];
+        used.insert(other.record->id());
         holders.takeOut(hit->place);
-        setCounterpart(number, finding);
+        setCounterpart(other.number, other.log, *other.record, finding);
         if (isRegular) {
-            matched(qso, index.qso(number), finding);
+            matched(qso.minutes != noTime && other.minutes() != noTime, finding);
         } else {
             matchedLate(hit->minutesApart, finding);
         }
@@ -152,9 +147,9 @@ bool LogCrossCheck::isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFi
     return true;
 }
 
-void LogCrossCheck::matched(const QSO& qso, const QSO& other, CrossCheckFinding& finding) {
+void LogCrossCheck::matched(bool haveTimes, CrossCheckFinding& finding) {
     addSuffixNotes(finding);
-    if (qso.minutes == noTime || other.minutes == noTime) {
+    if (!haveTimes) {
         finding.notes.emplace_back("Zeit nicht prüfbar");
     }
     finding.status = CrossCheckStatus::confirmed;
@@ -264,10 +259,15 @@ void LogCrossCheck::addSuffixNotes(CrossCheckFinding& finding) {
 
 void LogCrossCheck::setCounterpart(Number number, CrossCheckFinding& finding) {
     const QSO& other = index.qso(number);
-    const CrossCheckIndex::Log& otherLog = index.log(other.log);
-    otherLog.fields.read(*other.record, others);
-    finding.counterpartLogID = otherLog.id;
-    finding.counterpartIndex = number - otherLog.begin;
+    setCounterpart(number, other.log, *other.record, finding);
+}
+
+void LogCrossCheck::setCounterpart(Number number, Number otherLog, const RecordStorage& record,
+                                   CrossCheckFinding& finding) {
+    const CrossCheckIndex::Log& other = index.log(otherLog);
+    other.fields.read(record, others);
+    finding.counterpartLogID = other.id;
+    finding.counterpartIndex = number - other.begin;
 }
 
 }  // namespace tallyrig

@@ -43,8 +43,7 @@ class LogCrossCheck {
     };
 
     void turnTo(std::size_t position);
-    Outlook outlook(const QSO& qso);
-    void fetch(std::span<const QSO> qsos, std::span<const Outlook> outlooks) const;
+    void lookAhead(std::span<const QSO> qsos, std::span<Outlook> outlooks);
     void evaluate(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding);
     // What may have become of a QSO, one after the other; false where it has not.
     bool isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding);
@@ -52,12 +51,14 @@ class LogCrossCheck {
     bool isWithLikeCall(const QSO& qso, CrossCheckFinding& finding);
 
     // What is said of a QSO whose counterpart was found.
-    void matched(const QSO& qso, const QSO& other, CrossCheckFinding& finding);
+    void matched(bool haveTimes, CrossCheckFinding& finding);
     void matchedLate(std::int64_t minutesApart, CrossCheckFinding& finding);
     void matchedElsewhere(const QSO& qso, const QSO& other, CrossCheckFinding& finding);
     void addSuffixNotes(CrossCheckFinding& finding);
     /// Enters the QSO found, and reads it.
     void setCounterpart(Number number, CrossCheckFinding& finding);
+    void setCounterpart(Number number, Number otherLog, const RecordStorage& record,
+                        CrossCheckFinding& finding);
 
     bool isUsed(const RecordStorage& record) const { return used.contains(record.id()); }
 
