@@ -125,8 +125,11 @@ bool isNumeric(std::string_view character) {
 
 std::string_view lastNumeric(std::string_view text) {
     if (isASCII(text)) {
-        const std::size_t at = text.find_last_of("0123456789");
-        return at == std::string_view::npos ? std::string_view() : text.substr(at, 1);
+        std::size_t end = text.size();
+        while (end > 0 && !isASCIIDigit(text[end - 1])) {
+            --end;
+        }
+        return end == 0 ? std::string_view() : text.substr(end - 1, 1);
     }
     std::string_view last;
     forEachCluster(text, [&](std::string_view character) {

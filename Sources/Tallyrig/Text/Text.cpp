@@ -10,8 +10,6 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 
 namespace tallyrig::text {
 
@@ -89,21 +87,10 @@ std::string upper(std::string_view text) {
     return result;
 }
 
-std::string_view upper(std::string_view text, std::string& buffer) {
-    // Without a branch for each character, which would cost more than it saves in the short texts of a log.
-    unsigned other = 0;
-    unsigned small = 0;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        other |= byte & 0x80U;
-        small |= byte - unsigned{'a'} < 26U ? 1U : 0U;
-    }
-    if (other != 0) {
+std::string_view detail::upperSlowly(std::string_view text, std::string& buffer) {
+    if (!isASCII(text)) {
         buffer = upper(text);
         return buffer;
-    }
-    if (small == 0) {
-        return text;
     }
     buffer.resize(text.size());
     std::ranges::transform(text, buffer.begin(), upperASCII);
@@ -126,10 +113,7 @@ std::string lower(std::string_view text) {
     return result;
 }
 
-bool equal(std::string_view left, std::string_view right) {
-    if (left == right) {
-        return true;
-    }
+bool detail::areEquivalent(std::string_view left, std::string_view right) {
     // No ASCII text is canonically equivalent to another text but for a few singletons such as U+212A, KELVIN
     // SIGN; two unequal ASCII texts never are.
     if (isASCII(left) && isASCII(right)) {

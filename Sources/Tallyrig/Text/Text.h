@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Tallyrig/Text/ByteWords.h"
+
 #include <compare>
-#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +26,8 @@ inline bool needsNoTrimming(std::string_view text) {
     return text.empty() || (isPlain(text.front()) && isPlain(text.back()));
 }
 
+std::string_view upperSlowly(std::string_view text, std::string& buffer);
+bool areEquivalent(std::string_view left, std::string_view right);
 std::string_view trimmedSlowly(std::string_view text);
 std::string_view trimmedOfBlanksSlowly(std::string_view text);
 
@@ -33,30 +35,38 @@ std::string_view trimmedOfBlanksSlowly(std::string_view text);
 
 /// Whether every byte of `text` is below 128.
 inline bool isASCII(std::string_view text) {
-    const char* at = text.data();
-    std::size_t left = text.size();
     std::uint64_t seen = 0;
-    for (; left >= sizeof seen; at += sizeof seen, left -= sizeof seen) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, at, sizeof word);
-        seen |= word;
-    }
-    for (; left > 0; ++at, --left) {
-        seen |= static_cast<std::uint8_t>(*at);
-    }
-    return (seen & 0x8080808080808080U) == 0;
+    forEachWord(text, [&](std::uint64_t word) { seen |= word; });
+    return (seen & everyByte(0x80)) == 0;
+}
+
+/// Whether `text` is ASCII without a lower-case letter, so that it is its own upper case and canonical.
+inline bool isUpperASCII(std::string_view text) {
+    std::uint64_t seen = 0;
+    forEachWord(text, [&](std::uint64_t word) {
+        // In the highest bit of each byte of ASCII: whether it is "a" or above, and whether it is above "z".
+        const std::uint64_t low = word & everyByte(0x7F);
+        const std::uint64_t fromA = low + everyByte(0x80 - 'a');
+        const std::uint64_t beyondZ = low + everyByte(0x7F - 'z');
+        seen |= word | (fromA & ~beyondZ);
+    });
+    return (seen & everyByte(0x80)) == 0;
 }
 
 /// The full Unicode upper-case mapping, independent of locale: "ß" gives "SS".
 std::string upper(std::string_view text);
 /// The same without a copy where `text` is in upper case already: the result refers to `text` or to `buffer`.
-std::string_view upper(std::string_view text, std::string& buffer);
+inline std::string_view upper(std::string_view text, std::string& buffer) {
+    return isUpperASCII(text) ? text : detail::upperSlowly(text, buffer);
+}
 
 /// The full Unicode lower-case mapping, independent of locale.
 std::string lower(std::string_view text);
 
 /// Canonical equivalence.
-bool equal(std::string_view left, std::string_view right);
+inline bool equal(std::string_view left, std::string_view right) {
+    return areSameBytes(left, right) || detail::areEquivalent(left, right);
+}
 
 /// One text for all canonically equivalent spellings (the canonical composed form), to be used as a hash key
 /// wherever `equal` is the equality that is meant.

@@ -32,6 +32,27 @@ TEST(Case, UsesTheFullUnicodeMappings) {
     EXPECT_EQ(upper("a\0b"s), "A\0B"s);
 }
 
+// Texts are looked at several bytes at a time.
+TEST(Case, IsSeenAtEveryPlace) {
+    for (std::size_t size = 1; size < 20; ++size) {
+        for (std::size_t place = 0; place < size; ++place) {
+            for (const char small : {'a', 'z'}) {
+                std::string text(size, place % 2 == 0 ? '`' : '{');
+                std::string expected = text;
+                std::string buffer;
+                EXPECT_EQ(upper(text, buffer).data(), text.data());
+                text[place] = small;
+                expected[place] = static_cast<char>(small - 'a' + 'A');
+                EXPECT_EQ(upper(text, buffer), expected);
+                EXPECT_FALSE(equal(text, expected));
+                EXPECT_TRUE(equal(expected, std::string(upper(text, buffer))));
+                text[place] = '\xFF';
+                EXPECT_FALSE(isASCII(text)) << size << ' ' << place;
+            }
+        }
+    }
+}
+
 TEST(Equality, IsCanonicalEquivalence) {
     const std::string composed = "J\u00F6rg";
     const std::string decomposed = "Jo\u0308rg";
