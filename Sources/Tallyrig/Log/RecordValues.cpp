@@ -17,24 +17,49 @@ std::size_t RecordValues::add(std::string_view name) {
     const auto index = static_cast<std::size_t>(known - names.begin());
     if (known == names.end()) {
         names.push_back(upperName);
-        values.emplace_back();
     }
     return index;
 }
 
 void RecordValues::read(const ADIFRecord& record) {
-    std::ranges::fill(values, std::nullopt);
-    const RecordStorage& stored = record.stored();
+    stored = &record.stored();
+    Shape& shape = shapes[stored->fieldCount() % shapes.size()];
+    if (!shape.isOf(*stored)) {
+        learn(shape, *stored);
+    }
+    positions = shape.positions.data();
+}
+
+bool RecordValues::Shape::isOf(const RecordStorage& record) const {
+    if (&record.tags() != tags || record.fieldCount() < tagNumbers.size() ||
+        (isWhole && record.fieldCount() > tagNumbers.size())) {
+        return false;
+    }
+    // Without a branch for each field: mostly all are compared.
+    FieldTags::Number difference = 0;
+    for (std::size_t field = 0; field < tagNumbers.size(); ++field) {
+        difference |= record.tagNumber(field) ^ tagNumbers[field];
+    }
+    return difference == 0;
+}
+
+void RecordValues::learn(Shape& shape, const RecordStorage& record) {
     const std::size_t* const indexByTag =
-        indices.of(stored.tags(), [this](const FieldTag& tag) { return indexOf(tag); });
-    std::size_t missing = values.size();
-    for (std::size_t field = 0; field < stored.fieldCount() && missing > 0; ++field) {
-        const std::size_t index = indexByTag[stored.tagNumber(field)];
-        if (index < values.size() && !values[index]) {
-            values[index] = stored.value(field);
+        indices.of(record.tags(), [this](const FieldTag& tag) { return indexOf(tag); });
+    shape.tags = &record.tags();
+    shape.tagNumbers.clear();
+    shape.positions.assign(names.size(), absent);
+    std::size_t missing = names.size();
+    for (std::size_t field = 0; field < record.fieldCount() && missing > 0; ++field) {
+        const FieldTags::Number tag = record.tagNumber(field);
+        shape.tagNumbers.push_back(tag);
+        const std::size_t index = indexByTag[tag];
+        if (index < names.size() && shape.positions[index] == absent) {
+            shape.positions[index] = static_cast<Position>(field);
             --missing;
         }
     }
+    shape.isWhole = missing > 0;
 }
 
 std::size_t RecordValues::indexOf(const FieldTag& tag) const {
