@@ -1,11 +1,10 @@
 #include "Tallyrig/Validation/DuplicateGroups.h"
 
 #include "Tallyrig/Log/RecordValues.h"
+#include "Tallyrig/Text/KeyNumbers.h"
 #include "Tallyrig/Text/Text.h"
 
-#include <bit>
 #include <cstdint>
-#include <functional>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -74,35 +73,41 @@ class KeyReader {
     std::unordered_map<std::string, std::size_t> longTexts;
 };
 
-/// Gathers records by key, in a flat table with open addressing: the keys of a whole log pass through here,
-/// and nearly every one is new, so that a node for each would take twice the time. The members of a group are
-/// a chain through `next`, so that the many records that are alone with their key cost no list of their own.
+/// Gathers records by key. The members of a group are a chain through `next`, so that the many records that
+/// are alone with their key cost no list of their own.
 class Gathering {
   public:
-    explicit Gathering(std::size_t recordCount)
-        : slots(std::bit_ceil(recordCount * 2 + 1)), next(recordCount, none) {}
+    explicit Gathering(std::size_t recordCount) : keys(recordCount), next(recordCount, none) {
+        groups.reserve(recordCount);
+    }
 
+    /// `record` has this key. It waits for `gather`.
     void add(Number record, std::string_view key) {
-        const std::size_t hash = std::hash<std::string_view>()(key);
-        const auto tag = static_cast<Number>(hash >> 32);
-        for (std::size_t at = hash;; ++at) {
-            Slot& slot = slots[at & (slots.size() - 1)];
-            if (slot.group == none) {
-                slot = {tag, static_cast<Number>(groups.size())};
-                groups.push_back({keys.size(), key.size(), record, record, 1});
-                keys += key;
-                return;
-            }
-            if (slot.tag == tag && keyOf(groups[slot.group]) == key) {
-                Group& group = groups[slot.group];
-                next[group.last] = record;
-                group.last = record;
-                ++group.count;
-                return;
-            }
+        keys.append(key);
+        keys.enqueue();
+        waiting.push_back(record);
+        if (waiting.size() == mostWaiting) {
+            gather();
         }
     }
 
+    /// Puts the records that wait into their groups.
+    void gather() {
+        for (const Number record : waiting) {
+            const KeyNumbers::Entry entry = keys.addNext();
+            if (entry.isNew) {
+                groups.push_back({record, record, 1});
+                continue;
+            }
+            Group& group = groups[entry.number];
+            next[group.last] = record;
+            group.last = record;
+            ++group.count;
+        }
+        waiting.clear();
+    }
+
+    /// None waits.
     std::vector<std::vector<std::size_t>> groupsOfSeveral() const {
         std::vector<std::vector<std::size_t>> result;
         for (const Group& group : groups) {
@@ -120,27 +125,18 @@ class Gathering {
 
   private:
     static constexpr Number none = std::numeric_limits<Number>::max();
+    static constexpr std::size_t mostWaiting = 64;
 
-    struct Slot {
-        Number tag = 0;  ///< The half of the hash that does not choose the slot.
-        Number group = none;
-    };
     struct Group {
-        std::size_t keyBegin;
-        std::size_t keySize;
         Number first;
         Number last;
         Number count;
     };
 
-    std::string_view keyOf(const Group& group) const {
-        return std::string_view(keys).substr(group.keyBegin, group.keySize);
-    }
-
-    std::vector<Slot> slots;    ///< A power of two, more than twice as many as records.
-    std::vector<Group> groups;  ///< In the order of their first records.
+    KeyNumbers keys;
+    std::vector<Group> groups;  ///< By the number of the key, which is in the order of their first records.
     std::vector<Number> next;   ///< By record, the next of its group.
-    std::string keys;           ///< Of all groups, one after the other.
+    std::vector<Number> waiting;
 };
 
 }  // namespace
@@ -156,6 +152,7 @@ std::vector<std::vector<std::size_t>> duplicateGroups(const ADIFRecordList& reco
         }
         ++index;
     }
+    gathering.gather();
     return gathering.groupsOfSeveral();
 }
 
