@@ -97,15 +97,6 @@ constexpr Entity entities[] = {
 
 constexpr std::size_t longestPrefix = 3;
 
-/// `prefix`, three bytes long at most, as a number of its own; NUL counts as any other byte.
-constexpr std::uint32_t packed(std::string_view prefix) {
-    std::uint32_t number = 1;
-    for (const char c : prefix) {
-        number = number << 8U | static_cast<unsigned char>(c);
-    }
-    return number;
-}
-
 template <typename Visit>
 constexpr void forEachPrefix(Visit visit) {
     for (const Entity& entity : entities) {
@@ -117,62 +108,85 @@ constexpr void forEachPrefix(Visit visit) {
     }
 }
 
-constexpr std::size_t prefixCount = [] {
-    std::size_t count = 0;
-    forEachPrefix([&](std::string_view, const Entity&) { ++count; });
-    return count;
+/// Letters and digits have a number each, above 0; 0 is any other byte, or none.
+constexpr std::size_t signCount = 37;
+constexpr auto numberOfSign = [] {
+    std::array<std::uint8_t, 256> numbers{};
+    std::uint8_t next = 0;
+    for (const char c : std::string_view("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ")) {
+        numbers[static_cast<std::uint8_t>(c)] = ++next;
+    }
+    return numbers;
 }();
 
-/// The place of a prefix in the table below, if nothing else lies there.
-constexpr std::size_t placeOf(std::uint32_t number) {
-    return (number * 0x9E3779B1U) >> 23U;
+constexpr std::size_t signAt(std::string_view text, std::size_t place) {
+    return place < text.size() ? numberOfSign[static_cast<std::uint8_t>(text[place])] : 0;
 }
 
-struct PrefixSlot {
-    std::uint32_t number = 0;
-    std::uint32_t entity = 0;  ///< The row.
+/// The row of an entity and 1; 0 for none.
+using RowEnd = std::uint8_t;
+
+/// The entities by the first signs of a call, so that one look finds the longest prefix. Where there is one
+/// of three signs, the third has a table of its own.
+struct FrontTable {
+    struct Front {
+        RowEnd end = 0;
+        std::uint8_t thirds = 0;  ///< The table of the third sign; 0 for none.
+    };
+    std::array<Front, signCount * signCount> fronts{};
+    std::array<std::array<RowEnd, signCount>, 6> thirds{};
+
+    constexpr Front& front(std::string_view call) {
+        return fronts[signAt(call, 0) * signCount + signAt(call, 1)];
+    }
+    constexpr RowEnd find(std::string_view call) const {
+        const Front& front = fronts[signAt(call, 0) * signCount + signAt(call, 1)];
+        return front.thirds == 0 ? front.end : thirds[front.thirds][signAt(call, 2)];
+    }
 };
 
-/// The entities by prefix, each at its place or one of the next that are empty.
-constexpr auto prefixSlots = [] {
-    std::array<PrefixSlot, 512> slots{};
-    static_assert(prefixCount * 2 < slots.size());
-    forEachPrefix([&](std::string_view prefix, const Entity& entity) {
-        std::size_t place = placeOf(packed(prefix));
-        while (slots[place].number != 0) {
-            place = (place + 1) % slots.size();
-        }
-        slots[place] = {packed(prefix), static_cast<std::uint32_t>(&entity - entities)};
-    });
-    return slots;
-}();
-
-std::optional<std::string_view> codeOfPrefix(std::string_view prefix) {
-    const std::uint32_t number = packed(prefix);
-    for (std::size_t place = placeOf(number); prefixSlots[place].number != 0;
-         place = (place + 1) % prefixSlots.size()) {
-        if (prefixSlots[place].number == number) {
-            return entities[prefixSlots[place].entity].code;
-        }
+constexpr auto frontTable = [] {
+    FrontTable table;
+    std::uint8_t lastThirds = 0;
+    for (std::size_t length = 1; length <= longestPrefix; ++length) {
+        forEachPrefix([&](std::string_view prefix, const Entity& entity) {
+            if (prefix.size() != length) {
+                return;
+            }
+            const auto end = static_cast<RowEnd>(&entity - entities + 1);
+            FrontTable::Front& front = table.front(prefix);
+            if (length == 1) {
+                std::fill_n(&front, signCount, FrontTable::Front{end, 0});
+            } else if (length == 2) {
+                front.end = end;
+            } else {
+                if (front.thirds == 0) {
+                    front.thirds = ++lastThirds;
+                    table.thirds[front.thirds].fill(front.end);
+                }
+                table.thirds[front.thirds][signAt(prefix, 2)] = end;
+            }
+        });
     }
-    return std::nullopt;
+    return table;
+}();
+static_assert(std::size(entities) < 256);
+
+/// The code by the longest prefix at the front of `part`, in which every byte is a character.
+std::optional<std::string_view> codeOfPlainPart(std::string_view part) {
+    const RowEnd end = frontTable.find(part);
+    return end == 0 ? std::nullopt : std::optional(entities[end - 1].code);
 }
 
-/// The code by the longest prefix at the front of `part`.
+/// The same for any part.
 std::optional<std::string_view> codeOfPart(std::string_view part) {
     // A mark that belongs to the front would stand right behind it.
-    const bool isPlain = text::isASCII(part.substr(0, longestPrefix + 1));
-    for (std::size_t length = longestPrefix; length > 0; --length) {
-        const std::string_view prefix =
-            isPlain ? part.substr(0, length) : text::firstCharacters(part, length);
-        const bool isASCII = prefix.size() <= length;
-        if (isASCII) {
-            if (const auto code = codeOfPrefix(prefix)) {
-                return code;
-            }
-        }
+    if (text::isASCII(part.substr(0, longestPrefix + 1))) {
+        return codeOfPlainPart(part);
     }
-    return std::nullopt;
+    const std::vector<std::string_view> characters = text::characters(part);
+    const auto end = std::ranges::find_if(characters, [](std::string_view c) { return c.size() > 1; });
+    return codeOfPlainPart(part.substr(0, static_cast<std::size_t>(end - characters.begin())));
 }
 
 /// What may stand behind a call and says nothing of the country. The WPX prefix knows more of them: here "J",
@@ -210,6 +224,10 @@ constexpr auto continents = [] {
 }  // namespace
 
 std::optional<std::string_view> DXCCInfo::dxccCode(std::string_view call) {
+    if (text::isUpperASCII(call) && text::trimmedOfBlanks(call).size() == call.size() &&
+        call.find('/') == std::string_view::npos) {
+        return codeOfPlainPart(call);
+    }
     std::string buffer;
     std::string_view whole = text::trimmedOfBlanks(text::upper(call, buffer));
     std::string canonical;

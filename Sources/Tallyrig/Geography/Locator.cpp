@@ -35,43 +35,80 @@ std::array<char, 6> significantCharacters(std::string_view locator) {
     return significant;
 }
 
-/// The place of `c` in `first` to `last`, absent outside.
-std::optional<int> placeOf(char c, char first, char last) {
-    return c >= first && c <= last ? std::optional(c - first) : std::nullopt;
+/// Whether nothing about the locator needs to be trimmed or folded.
+bool isPlain(std::string_view locator) {
+    return text::isUpperASCII(locator) && text::detail::needsNoTrimming(locator);
+}
+
+/// Where the centre lies that a locator names, in squares and their subsquares.
+struct GridPlace {
+    int lonSquare;
+    int latSquare;
+    int lonSubsquare;  ///< Both `wholeSquare` where the locator names no subsquare.
+    int latSubsquare;
+};
+constexpr int squareCount = 180;  ///< Of latitude as of longitude.
+constexpr int wholeSquare = 24;
+
+/// The place of `c` behind `first`, absent if it is `count` or more.
+constexpr bool isWithin(char c, char first, int count) {
+    return c >= first && c < first + count;
+}
+
+std::optional<GridPlace> gridPlace(std::string_view locator) {
+    std::array<char, 6> c{};
+    if (locator.size() == c.size() && isPlain(locator)) {
+        std::copy_n(locator.begin(), c.size(), c.begin());
+    } else {
+        c = significantCharacters(locator);
+    }
+    if (!isWithin(c[0], 'A', 18) || !isWithin(c[1], 'A', 18) || !isWithin(c[2], '0', 10) ||
+        !isWithin(c[3], '0', 10)) {
+        return std::nullopt;
+    }
+    GridPlace place{(c[0] - 'A') * 10 + c[2] - '0', (c[1] - 'A') * 10 + c[3] - '0', wholeSquare, wholeSquare};
+    if (isWithin(c[4], 'A', wholeSquare) && isWithin(c[5], 'A', wholeSquare)) {
+        place.lonSubsquare = c[4] - 'A';
+        place.latSubsquare = c[5] - 'A';
+    }
+    return place;
+}
+
+Coordinate coordinateOf(const GridPlace& place) {
+    const double south = place.latSquare - 90.0;
+    const double west = place.lonSquare * 2 - 180.0;
+    return {south + (place.latSubsquare == wholeSquare ? 0.5 : place.latSubsquare / 24.0 + 1 / 48.0),
+            west + (place.lonSubsquare == wholeSquare ? 1.0 : place.lonSubsquare / 12.0 + 1 / 24.0)};
 }
 
 double radians(double degrees) {
     return degrees * std::numbers::pi / 180;
 }
 
+double sinOfHalfDifference(double from, double to) {
+    return std::sin((radians(to) - radians(from)) / 2);
+}
+
+double cosines(double fromLat, double toLat) {
+    return std::cos(radians(fromLat)) * std::cos(radians(toLat));
+}
+
+double kmOfHaversine(double a) {
+    // Between antipodes, rounding may take `a` a hair's breadth beyond 1.
+    return 2 * std::atan2(std::sqrt(a), std::sqrt(std::max(0.0, 1 - a))) * earthRadiusKm;
+}
+
 }  // namespace
 
 std::optional<Coordinate> maidenheadToCoordinate(std::string_view locator) {
-    const std::array<char, 6> c = significantCharacters(locator);
-    const auto fieldLon = placeOf(c[0], 'A', 'R');
-    const auto fieldLat = placeOf(c[1], 'A', 'R');
-    const auto squareLon = placeOf(c[2], '0', '9');
-    const auto squareLat = placeOf(c[3], '0', '9');
-    if (!fieldLon || !fieldLat || !squareLon || !squareLat) {
-        return std::nullopt;
-    }
-    Coordinate corner{*fieldLat * 10.0 - 90 + *squareLat, *fieldLon * 20.0 - 180 + *squareLon * 2};
-    const auto subsquareLon = placeOf(c[4], 'A', 'X');
-    const auto subsquareLat = placeOf(c[5], 'A', 'X');
-    if (subsquareLon && subsquareLat) {
-        return Coordinate{corner.lat + (*subsquareLat / 24.0 + 1 / 48.0),
-                          corner.lon + (*subsquareLon / 12.0 + 1 / 24.0)};
-    }
-    return Coordinate{corner.lat + 0.5, corner.lon + 1.0};
+    const auto place = gridPlace(locator);
+    return place ? std::optional(coordinateOf(*place)) : std::nullopt;
 }
 
 double greatCircleKm(const Coordinate& from, const Coordinate& to) {
-    const double sinLat = std::sin((radians(to.lat) - radians(from.lat)) / 2);
-    const double sinLon = std::sin((radians(to.lon) - radians(from.lon)) / 2);
-    const double a =
-        sinLat * sinLat + std::cos(radians(from.lat)) * std::cos(radians(to.lat)) * sinLon * sinLon;
-    // Between antipodes, rounding may take `a` a hair's breadth beyond 1.
-    return 2 * std::atan2(std::sqrt(a), std::sqrt(std::max(0.0, 1 - a))) * earthRadiusKm;
+    const double sinLat = sinOfHalfDifference(from.lat, to.lat);
+    const double sinLon = sinOfHalfDifference(from.lon, to.lon);
+    return kmOfHaversine(sinLat * sinLat + cosines(from.lat, to.lat) * sinLon * sinLon);
 }
 
 std::optional<double> greatCircleKm(std::string_view from, std::string_view to) {
@@ -88,6 +125,32 @@ std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view t
     const auto start = maidenheadToCoordinate(from);
     const auto end = maidenheadToCoordinate(to);
     return start && end ? std::optional(distanceKm(*start, *end)) : std::nullopt;
+}
+
+DistancesFrom::DistancesFrom(const Coordinate& start)
+    : from(start),
+      parallels(squareCount * (wholeSquare + 1), {std::nan(""), 0}),
+      meridians(squareCount * (wholeSquare + 1), std::nan("")) {}
+
+std::optional<double> DistancesFrom::greatCircleKm(std::string_view locator) {
+    const auto place = gridPlace(locator);
+    if (!place) {
+        return std::nullopt;
+    }
+    const auto index = [](int square, int subsquare) {
+        return static_cast<std::size_t>(square * (wholeSquare + 1) + subsquare);
+    };
+    Parallel& parallel = parallels[index(place->latSquare, place->latSubsquare)];
+    if (std::isnan(parallel.sinSquared)) {
+        const double lat = coordinateOf(*place).lat;
+        const double sinLat = sinOfHalfDifference(from.lat, lat);
+        parallel = {sinLat * sinLat, cosines(from.lat, lat)};
+    }
+    double& sinLon = meridians[index(place->lonSquare, place->lonSubsquare)];
+    if (std::isnan(sinLon)) {
+        sinLon = sinOfHalfDifference(from.lon, coordinateOf(*place).lon);
+    }
+    return kmOfHaversine(parallel.sinSquared + parallel.cosines * sinLon * sinLon);
 }
 
 }  // namespace tallyrig

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 /// The system's one arithmetic of Maidenhead locators ("JO62QM") and the distances between them.
 namespace tallyrig {
@@ -28,5 +29,26 @@ std::optional<double> greatCircleKm(std::string_view from, std::string_view to);
 /// The same in whole kilometres, halves away from zero.
 std::int64_t distanceKm(const Coordinate& from, const Coordinate& to);
 std::optional<std::int64_t> distanceKm(std::string_view from, std::string_view to);
+
+/// The distances of many places from one. The locators have few parallels and meridians, so that their sines
+/// and cosines are worked out once each.
+class DistancesFrom {
+  public:
+    explicit DistancesFrom(const Coordinate& from);
+
+    /// `greatCircleKm` of `from` and the centre that the locator names; absent if it names none.
+    std::optional<double> greatCircleKm(std::string_view locator);
+
+  private:
+    /// What a parallel adds to the haversine.
+    struct Parallel {
+        double sinSquared;
+        double cosines;
+    };
+
+    Coordinate from;
+    std::vector<Parallel> parallels;  ///< By the row of the grid; not a number before it is first asked for.
+    std::vector<double> meridians;    ///< The sines of half the differences, by column.
+};
 
 }  // namespace tallyrig

@@ -81,6 +81,18 @@ class Parts {
 
 }  // namespace
 
+std::string_view WPXPrefix::prefix(std::string_view call, std::string& buffer) {
+    const std::string_view trimmed = text::trimmedOfBlanks(call);
+    if (text::isUpperASCII(trimmed) && trimmed.find('/') == std::string_view::npos) {
+        const std::string_view number = text::lastNumeric(trimmed);
+        if (!number.empty()) {
+            return {trimmed.data(), number.data() + 1};
+        }
+    }
+    buffer = prefix(trimmed);
+    return buffer;
+}
+
 std::string WPXPrefix::prefix(std::string_view call) {
     std::string buffer;
     Parts parts;

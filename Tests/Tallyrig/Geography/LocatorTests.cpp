@@ -62,6 +62,13 @@ TEST(Distance, IsAlongTheGreatCircle) {
         EXPECT_NEAR(greatCircleKm(from, to).value_or(-1), km, 1e-6) << from << ' ' << to;
         EXPECT_NEAR(greatCircleKm(to, from).value_or(-1), km, 1e-6) << to << ' ' << from;
         EXPECT_EQ(distanceKm(from, to), wholeKm) << from << ' ' << to;
+        const auto start = maidenheadToCoordinate(from);
+        ASSERT_TRUE(start);
+        DistancesFrom distances(*start);
+        for (const std::string& end : {from, to, to}) {
+            EXPECT_EQ(distances.greatCircleKm(end), greatCircleKm(from, end)) << from << ' ' << end;
+        }
+        EXPECT_FALSE(distances.greatCircleKm("JO6"));
     }
 }
 
