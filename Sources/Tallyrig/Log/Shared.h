@@ -20,8 +20,14 @@ class Shared {
         return Shared(new Node{Value{std::forward<Arguments>(arguments)...}});
     }
 
-    Shared(const Shared& other) : node(other.node) { node->owners.fetch_add(1, std::memory_order_relaxed); }
-    /// Leaves `other` without a value, good only for being assigned to and for going away.
+    /// Without a value, good only for being asked whether it has one, copied, assigned to and for going away.
+    Shared() = default;
+    Shared(const Shared& other) : node(other.node) {
+        if (node != nullptr) {
+            node->owners.fetch_add(1, std::memory_order_relaxed);
+        }
+    }
+    /// Leaves `other` without a value.
     Shared(Shared&& other) noexcept : node(std::exchange(other.node, nullptr)) {}
     Shared& operator=(Shared other) noexcept {
         std::swap(node, other.node);
@@ -33,6 +39,8 @@ class Shared {
         }
     }
 
+    /// Whether there is a value.
+    explicit operator bool() const { return node != nullptr; }
     const Value& operator*() const { return node->value; }
     const Value* operator->() const { return &node->value; }
 
@@ -56,7 +64,7 @@ class Shared {
 
     explicit Shared(Node* only) : node(only) {}
 
-    Node* node;
+    Node* node = nullptr;
 };
 
 }  // namespace tallyrig

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tallyrig/Log/Shared.h"
+#include "Tallyrig/Log/SharedTexts.h"
 #include "Tallyrig/Validation/OtherRecordNumbers.h"
 
 #include <concepts>
@@ -22,21 +22,6 @@ enum class ValidationSeverity { error, warning };
 /// The kinds of finding, each with what a message about it needs. Fields are named as the record names them;
 /// values are trimmed, in their own case.
 namespace finding {
-
-/// A list of texts that many findings have in common.
-class SharedTexts {
-  public:
-    SharedTexts(std::vector<std::string> list)
-        : texts(Shared<std::vector<std::string>>::make(std::move(list))) {}
-    SharedTexts(std::initializer_list<std::string> list) : SharedTexts(std::vector<std::string>(list)) {}
-
-    operator const std::vector<std::string>&() const { return *texts; }
-    auto begin() const { return texts->begin(); }
-    auto end() const { return texts->end(); }
-
-  private:
-    Shared<std::vector<std::string>> texts;
-};
 
 struct MissingRequiredField {
     static constexpr std::string_view name = "missingRequiredField";

@@ -4,6 +4,7 @@
 #include "Tallyrig/Log/PerTag.h"
 #include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Log/Shared.h"
+#include "Tallyrig/Log/SharedTexts.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
 #include "Tallyrig/Validation/FieldRule.h"
 #include "Tallyrig/Validation/ValidationIssue.h"
@@ -55,7 +56,7 @@ class ValidationRun {
     RecordValues values;
     std::vector<std::size_t> requiredColumns;             ///< By position in the required fields.
     std::vector<Shared<ValidationKind>> missingRequired;  ///< The same.
-    finding::SharedTexts duplicateKeyFields;
+    SharedTexts duplicateKeyFields;
     std::size_t callColumn;
     std::size_t bandColumn;
     std::size_t frequencyColumn;
