@@ -3,6 +3,7 @@
 
 #include "AllocationCount.h"
 #include "GeneratedLog.h"
+#include "MemoryCount.h"
 #include "Tallyrig/Contest/ContestChecker.h"
 #include "Tallyrig/Contest/ContestTemplates.h"
 #include "Tallyrig/Geography/Locator.h"
@@ -18,6 +19,7 @@
 #include <numbers>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallyrig::benchmarks {
 namespace {
@@ -35,22 +37,28 @@ const std::string& scoredLogOf(std::size_t count, std::string_view band) {
     return text;
 }
 
-void scoring(benchmark::State& state, Template rules, std::string_view band) {
-    const auto count = static_cast<std::size_t>(state.range(0));
-    const std::string& text = scoredLogOf(count, band);
+/// Scores the log of `count` QSOs in `text` beside reading it.
+void scoreBesideReading(benchmark::State& state, ContestRules rules, const std::string& text,
+                        std::size_t count) {
     const ADIFDocument log = ADIFParser::parse(text);
-    const ContestChecker checker(rules(german));
+    const ContestChecker checker(std::move(rules));
     inTurns(
         state, "readings", [&] { benchmark::DoNotOptimize(checker.score(log)); },
         [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); });
     state.counters["nsPerQSO"] = state.counters["bestMs"] * 1e6 / static_cast<double>(count);
-    // Of these, each new multiplier and each problem costs a list and, if it is long, a text.
-    const std::size_t before = allocationCount();
+    const std::size_t allocations = allocationCount();
+    const std::size_t bytes = heapInUse();
     const ContestScore score = checker.score(log);
     state.counters["allocationsPerQSO"] =
-        static_cast<double>(allocationCount() - before) / static_cast<double>(count);
+        static_cast<double>(allocationCount() - allocations) / static_cast<double>(count);
+    state.counters["bytesPerQSO"] = static_cast<double>(heapInUse() - bytes) / static_cast<double>(count);
     state.counters["counted"] = static_cast<double>(score.countedQSOs);
     state.counters["multipliers"] = static_cast<double>(score.multiplierCount);
+}
+
+void scoring(benchmark::State& state, Template rules, std::string_view band) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    scoreBesideReading(state, rules(german), scoredLogOf(count, band), count);
 }
 #define SCORING(name, band)                                        \
     BENCHMARK_CAPTURE(scoring, name, ContestTemplates::name, band) \
@@ -64,6 +72,28 @@ SCORING(cqWPX, "");
 SCORING(iaruR1VHF, "2M");
 SCORING(wag, "");
 #undef SCORING
+
+/// 1,000,000 QSOs of which none counts, for two reasons each.
+void scoringWithoutBandAndMode(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    std::string text = "<EOH>\n";
+    for (std::size_t qso = 0; qso < count; ++qso) {
+        const std::string call = "DL" + std::to_string(qso);
+        text += "<CALL:" + std::to_string(call.size()) + ">" + call + "<EOR>\n";
+    }
+    ContestRules rules = ContestTemplates::cqWW(german);
+    rules.modes = UpperTextSet{"CW"};
+    scoreBesideReading(state, std::move(rules), text, count);
+}
+BENCHMARK(scoringWithoutBandAndMode)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// 100 points for each of 1,000,000 QSOs.
+void scoringByFixedPoints(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    ContestRules rules = {.name = "Example", .station = german, .points = points::Fixed{100}};
+    scoreBesideReading(state, std::move(rules), scoredLogOf(count, ""), count);
+}
+BENCHMARK(scoringByFixedPoints)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 struct Place {
     double lat;

@@ -1,7 +1,6 @@
 #include "Tallyrig/Contest/ContestFields.h"
 
 #include "Tallyrig/Geography/DXCCInfo.h"
-#include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
 
@@ -16,26 +15,25 @@ std::size_t ContestFields::add(std::string_view name) {
     return field;
 }
 
-void ContestFields::read(const ADIFRecord& record) {
-    values.read(record);
-    ++recordNumber;
-    derivedDXCC.reset();
-    if (dxcc && trimmed(*dxcc).empty()) {
-        derivedDXCC = DXCCInfo::dxccCode(values.valueOrEmpty(call));
+void ContestFields::deriveEntity() {
+    derivedDXCC = {};
+    if (text::trimmedOfBlanks(values.valueOrEmpty(dxcc)).empty()) {
+        derivedDXCC = DXCCInfo::dxccCode(values.valueOrEmpty(call)).value_or(std::string_view());
     }
 }
 
-std::string_view ContestFields::trimmed(std::size_t field) const {
-    return text::trimmedOfBlanks(valueOrEmpty(field));
-}
-
-std::string_view ContestFields::upper(std::size_t field) {
-    Folded& value = folded[field];
-    if (value.record != recordNumber) {
-        value.text = text::upper(trimmed(field), value.buffer);
-        value.record = recordNumber;
+const ContestFields::Folded& ContestFields::foldedOf(std::size_t field, std::string_view value) {
+    Folded& known = folded[field];
+    if (known.record != recordNumber) {
+        known.record = recordNumber;
+        known.text.assign(text::upper(text::trimmedOfBlanks(value), known.key));
+        if (text::isASCII(known.text)) {
+            known.key.assign(known.text);
+        } else {
+            known.key = text::canonicalKey(known.text);
+        }
     }
-    return value.text;
+    return known;
 }
 
 }  // namespace tallyrig

@@ -1,7 +1,7 @@
 #include "Tallyrig/Contest/ContestRun.h"
 
+#include "Tallyrig/Contest/DuplicateSearch.h"
 #include "Tallyrig/Contest/Saturation.h"
-#include "Tallyrig/Geography/DXCCInfo.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
@@ -11,8 +11,6 @@
 namespace tallyrig {
 
 namespace {
-
-constexpr char separator = '\x1F';
 
 /// What is said of a QSO for which the condition does not hold.
 struct ProblemOfRelation {
@@ -50,25 +48,15 @@ ContestRun::ContestRun(const ContestRules& contestRules, const CrossCheck& findi
     : rules(contestRules),
       crossCheck(findings),
       penalties(costs),
-      bandField(fields.add("BAND")),
-      modeField(fields.add("MODE")),
-      callField(fields.add("CALL")),
-      readsStation(rules.validRelation || std::holds_alternative<points::ByRelation>(rules.points)),
+      band(fields, "BAND"),
+      mode(fields, "MODE"),
+      readsMode(rules.modes || std::ranges::any_of(rules.multipliers, &ContestMultiplier::perMode)),
+      relations(rules, fields),
       valuation(rules, fields) {
     for (const UpperText& field : rules.requiredFields) {
         requiredFields.push_back(fields.add(field));
     }
-    for (const UpperText& field : rules.dupeFields) {
-        dupeFields.push_back(fields.add(field));
-    }
-    if (readsStation) {
-        dxccField = fields.add("DXCC");
-        cqZoneField = fields.add("CQZ");
-        ituZoneField = fields.add("ITUZ");
-        continentField = fields.add("CONT");
-    }
     for (const ContestMultiplier& multiplier : rules.multipliers) {
-        readsMode = readsMode || multiplier.perMode;
         const auto known = std::ranges::find_if(
             tallies, [&](const Tally& tally) { return text::equal(tally.name, multiplier.name); });
         const auto tally = static_cast<std::size_t>(known - tallies.begin());
@@ -86,12 +74,14 @@ ContestScore ContestRun::score(const ADIFDocument& log) {
     result.contestName = rules.name;
     result.totalQSOs = log.records().size();
     result.results.reserve(result.totalQSOs);
-    dupeKeys = KeyNumbers(dupeFields.empty() ? 0 : result.totalQSOs);
+    DuplicateSearch duplicates(rules, log.records());
     for (const ADIFRecord& record : log.records()) {
         fields.read(record);
         ContestQSOResult& qso = result.results.emplace_back();
         qso.id = record.id();
         qso.index = result.results.size() - 1;
+        // An invalid QSO is remembered too: the valid one that comes later is its duplicate.
+        qso.isDupe = duplicates.isNextDuplicate();
         scoreQSO(qso);
         result.countedQSOs += qso.isCounted() ? 1 : 0;
         result.dupeQSOs += qso.isDupe ? 1 : 0;
@@ -108,86 +98,61 @@ ContestScore ContestRun::score(const ADIFDocument& log) {
 }
 
 void ContestRun::scoreQSO(ContestQSOResult& qso) {
-    turnToBand();
-    if (readsStation) {
-        readStation();
-    }
-    findProblems(qso.problems);
-    // An invalid QSO is remembered too: the valid one that comes later is its duplicate.
-    qso.isDupe = isDuplicate();
+    turnToPlace();
+    const RelationTable::Verdict& relation = relations.read(fields);
+    findProblems(relation.validity);
+    qso.problems = problems.take();
     if (!qso.problems.empty() || qso.isDupe) {
         return;
     }
+    const std::int64_t points = valuation.points(fields, relation.rule);
     if (const auto removal = removalOf(qso.id)) {
-        remove(qso, *removal);
+        remove(qso, *removal, points);
     } else {
-        count(qso);
+        count(qso, points);
     }
 }
 
-void ContestRun::turnToBand() {
-    bandName = fields.upper(bandField);
-    // Most QSOs are on the band of the one before.
-    if (!bands.empty() && bandName == lastBandName) {
-        return;
-    }
-    lastBandName = bandName;
-    const KeyNumbers::Entry entry =
-        text::isASCII(bandName) ? bandNumbers.add(bandName) : bandNumbers.add(text::canonicalKey(bandName));
-    bandNumber = entry.number;
-    if (entry.isNew) {
-        bands.push_back({!rules.bands || (!bandName.empty() && rules.bands->contains(bandName)),
-                         !rules.dupeBands || rules.dupeBands->contains(bandName), 0, 0});
-    }
-}
-
-void ContestRun::readStation() {
-    const std::string_view continent = fields.upper(continentField);
-    worked.call = fields.upper(callField);
-    worked.dxcc = fields.trimmed(dxccField);
-    worked.cqZone = fields.trimmed(cqZoneField);
-    worked.ituZone = fields.trimmed(ituZoneField);
-    worked.continent = continent.empty() ? DXCCInfo::continentOfEntity(worked.dxcc) : continent;
-}
-
-void ContestRun::findProblems(std::vector<std::string>& problems) {
-    if (!bands[bandNumber].isAllowed) {
-        problems.push_back(bandName.empty() ? "Band fehlt"
-                                            : "Band " + std::string(bandName) + " nicht erlaubt");
-    }
-    if (rules.modes) {
-        const std::string_view mode = fields.upper(modeField);
-        if (mode.empty()) {
-            problems.emplace_back("Modus fehlt");
-        } else if (!rules.modes->contains(mode)) {
-            problems.push_back("Modus " + std::string(mode) + " nicht erlaubt");
+/// The band and the mode of the record at hand.
+void ContestRun::turnToPlace() {
+    if (band.turn(fields)) {
+        if (band.isNew()) {
+            bands.push_back(
+                {!rules.bands || (!band.name().empty() && rules.bands->contains(band.name())), 0, 0});
         }
+        valuation.turnToBand(band.key());
+    }
+    if (readsMode && mode.turn(fields)) {
+        isModeAllowed = !rules.modes || (!mode.name().empty() && rules.modes->contains(mode.name()));
+    }
+}
+
+void ContestRun::findProblems(RelationAnswer validity) {
+    if (!bands[band.number()].isAllowed) {
+        addProblemOf("Band", band.name());
+    }
+    if (!isModeAllowed) {
+        addProblemOf("Modus", mode.name());
     }
     for (std::size_t index = 0; index < requiredFields.size(); ++index) {
-        if (fields.trimmed(requiredFields[index]).empty()) {
-            problems.push_back(rules.requiredFields[index].string() + " fehlt");
+        if (fields.isBlank(requiredFields[index])) {
+            problems.add(rules.requiredFields[index].string(), " fehlt");
         }
     }
-    if (rules.validRelation) {
-        const RelationAnswer answer = rules.validRelation->matches(worked, rules.station);
-        if (answer == RelationAnswer::unknown) {
-            problems.emplace_back("Beziehung nicht prüfbar (CONT/Zone fehlt)");
-        } else if (answer == RelationAnswer::doesNotHold) {
-            problems.push_back(relationProblem);
-        }
+    if (validity == RelationAnswer::unknown) {
+        problems.add("Beziehung nicht prüfbar (CONT/Zone fehlt)");
+    } else if (validity == RelationAnswer::doesNotHold) {
+        problems.add(relationProblem);
     }
 }
 
-bool ContestRun::isDuplicate() {
-    if (dupeFields.empty() || !bands[bandNumber].hasDuplicates) {
-        return false;
+/// The band or mode of this name is missing or not allowed.
+void ContestRun::addProblemOf(const char* kind, const std::string& name) {
+    if (name.empty()) {
+        problems.add(kind, " fehlt");
+    } else {
+        problems.add(kind, " ", name, " nicht erlaubt");
     }
-    dupeKey.clear();
-    for (const std::size_t field : dupeFields) {
-        dupeKey.append(fields.upper(field)) += separator;
-    }
-    return !(text::isASCII(dupeKey) ? dupeKeys.add(dupeKey) : dupeKeys.add(text::canonicalKey(dupeKey)))
-                .isNew;
 }
 
 std::optional<ContestRun::Removal> ContestRun::removalOf(UUID id) const {
@@ -206,36 +171,35 @@ std::optional<ContestRun::Removal> ContestRun::removalOf(UUID id) const {
     return std::nullopt;
 }
 
-void ContestRun::remove(ContestQSOResult& qso, const Removal& removal) {
-    const std::int64_t penalty = saturatedProduct(removal.factor, valuation.points(fields, bandName, worked));
-    Band& band = bands[bandNumber];
+void ContestRun::remove(ContestQSOResult& qso, const Removal& removal, std::int64_t points) {
+    const std::int64_t penalty = saturatedProduct(removal.factor, points);
+    Band& gathered = bands[band.number()];
     ++result.removedQSOs;
     result.penaltyPoints = saturatedSum(result.penaltyPoints, penalty);
     result.qsoPoints = saturatedDifference(result.qsoPoints, penalty);
-    band.points = saturatedDifference(band.points, penalty);
+    gathered.points = saturatedDifference(gathered.points, penalty);
     qso.points = saturatedDifference(0, penalty);
     qso.crossCheckRemoval = removal.status;
 }
 
-void ContestRun::count(ContestQSOResult& qso) {
-    Band& band = bands[bandNumber];
-    qso.points = valuation.points(fields, bandName, worked);
-    result.qsoPoints = saturatedSum(result.qsoPoints, qso.points);
-    band.points = saturatedSum(band.points, qso.points);
-    const std::string_view mode = readsMode ? fields.upper(modeField) : std::string_view();
+void ContestRun::count(ContestQSOResult& qso, std::int64_t points) {
+    Band& gathered = bands[band.number()];
+    qso.points = points;
+    result.qsoPoints = saturatedSum(result.qsoPoints, points);
+    gathered.points = saturatedSum(gathered.points, points);
     for (Multiplier& multiplier : multipliers) {
         Tally& tally = tallies[multiplier.tally];
-        const std::string_view key = multiplier.key.read(fields, bandName, mode);
-        if (key.empty() || !tally.seen.add(key).isNew) {
+        if (!multiplier.key.addNew(fields, band, mode, tally.seen)) {
             continue;
         }
         const std::int64_t* const weight =
-            multiplier.rule.bandWeights ? multiplier.rule.bandWeights->find(bandName) : nullptr;
+            multiplier.rule.bandWeights ? multiplier.rule.bandWeights->find(band.key()) : nullptr;
         const std::int64_t worth = weight == nullptr ? 1 : *weight;
         tally.count = saturatedSum(tally.count, worth);
-        band.multiplierCount = saturatedSum(band.multiplierCount, worth);
-        qso.newMultipliers.push_back(multiplier.rule.name);
+        gathered.multiplierCount = saturatedSum(gathered.multiplierCount, worth);
+        newMultipliers.add(multiplier.rule.name);
     }
+    qso.newMultipliers = newMultipliers.take();
 }
 
 std::int64_t ContestRun::total() const {
@@ -246,8 +210,8 @@ std::int64_t ContestRun::total() const {
         return saturatedProduct(result.qsoPoints, result.multiplierCount);
     }
     std::int64_t sum = 0;
-    for (const Band& band : bands) {
-        sum = saturatedSum(sum, saturatedProduct(band.points, band.multiplierCount));
+    for (const Band& gathered : bands) {
+        sum = saturatedSum(sum, saturatedProduct(gathered.points, gathered.multiplierCount));
     }
     return sum;
 }

@@ -7,6 +7,9 @@
 #include "Tallyrig/Contest/MultiplierKey.h"
 #include "Tallyrig/Contest/QSOValuation.h"
 #include "Tallyrig/Contest/RelationCondition.h"
+#include "Tallyrig/Contest/RelationTable.h"
+#include "Tallyrig/Contest/SteadyField.h"
+#include "Tallyrig/Contest/TextLists.h"
 #include "Tallyrig/CrossCheck/CrossCheckStatus.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/UUID.h"
@@ -16,7 +19,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -36,7 +38,6 @@ class ContestRun {
     /// What the rules say of one band, and what it has gathered.
     struct Band {
         bool isAllowed = true;
-        bool hasDuplicates = true;
         std::int64_t points = 0;
         std::int64_t multiplierCount = 0;
     };
@@ -52,19 +53,19 @@ class ContestRun {
         std::size_t tally;
     };
 
-    void readStation();
-    void turnToBand();
+    void turnToPlace();
+    /// The points, multipliers and problems of the record at hand.
     void scoreQSO(ContestQSOResult& result);
-    void findProblems(std::vector<std::string>& problems);
-    bool isDuplicate();
+    void findProblems(RelationAnswer validity);
+    void addProblemOf(const char* kind, const std::string& name);
     /// What removes the QSO, and how many times its points it costs.
     struct Removal {
         CrossCheckStatus status;
         std::int64_t factor;
     };
     std::optional<Removal> removalOf(UUID id) const;
-    void remove(ContestQSOResult& result, const Removal& removal);
-    void count(ContestQSOResult& result);
+    void remove(ContestQSOResult& result, const Removal& removal, std::int64_t points);
+    void count(ContestQSOResult& result, std::int64_t points);
     std::int64_t total() const;
 
     const ContestRules& rules;
@@ -72,32 +73,20 @@ class ContestRun {
     const CrossCheckPenalties& penalties;
 
     ContestFields fields;
-    std::size_t bandField;
-    std::size_t modeField;
-    std::vector<std::size_t> requiredFields;  ///< By position in the rules, as the duplicate fields are.
-    std::vector<std::size_t> dupeFields;
-    std::size_t callField;
-    std::size_t dxccField = 0;
-    std::size_t cqZoneField = 0;
-    std::size_t ituZoneField = 0;
-    std::size_t continentField = 0;
-    bool readsStation;       ///< Whether any rule asks for the relation to the station worked.
-    bool readsMode = false;  ///< Whether any multiplier counts anew in each mode.
+    SteadyField band;
+    SteadyField mode;
+    bool readsMode;  ///< Whether any rule asks for the mode.
+    bool isModeAllowed = true;
+    std::vector<std::size_t> requiredFields;  ///< By position in the rules.
+    RelationTable relations;
     QSOValuation valuation;
     std::vector<Multiplier> multipliers;
     std::vector<Tally> tallies;
     std::string relationProblem;  ///< What is said of a QSO that does not pass the test of the rules.
 
-    KeyNumbers bandNumbers;
-    std::vector<Band> bands;  ///< In the order in which they come.
-    KeyNumbers dupeKeys;
-    std::string dupeKey;
-
-    // Of the record at hand.
-    std::string_view bandName;
-    std::size_t bandNumber = 0;
-    std::string lastBandName;  ///< That of the record before, in memory of its own.
-    WorkedStation worked;
+    std::vector<Band> bands;  ///< By number.
+    TextLists problems;
+    TextLists newMultipliers;
 
     ContestScore result;
 };

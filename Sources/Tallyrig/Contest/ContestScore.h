@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tallyrig/CrossCheck/CrossCheckStatus.h"
+#include "Tallyrig/Log/SharedTexts.h"
 #include "Tallyrig/Log/UUID.h"
 
 #include <cstddef>
@@ -17,8 +18,8 @@ struct ContestQSOResult {
     std::size_t index = 0;    ///< The position of the record in its log, from 0.
     std::int64_t points = 0;  ///< 0 for an invalid QSO or a duplicate; the penalty below 0 for a removed one.
     bool isDupe = false;
-    std::vector<std::string> newMultipliers;  ///< The names of those that this QSO was the first for.
-    std::vector<std::string> problems;        ///< Why it is invalid: German sentences for a person.
+    SharedTexts newMultipliers;  ///< The names of those that this QSO was the first for.
+    SharedTexts problems;        ///< Why it is invalid: German sentences for a person.
     std::optional<CrossCheckStatus> crossCheckRemoval;  ///< What removed it from the score.
 
     /// Whether the log itself speaks against it.

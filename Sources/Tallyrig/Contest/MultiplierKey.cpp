@@ -28,7 +28,9 @@ std::string_view wordOf(std::string_view value, MultiplierToken token) {
 }  // namespace
 
 MultiplierKey::MultiplierKey(const ContestMultiplier& source, ContestFields& fields)
-    : multiplier(source), call(fields.add("CALL")) {
+    : multiplier(source),
+      call(fields.add("CALL")),
+      isKnownByField(source.kind == MultiplierKind::field && !source.prefixLength) {
     switch (multiplier.kind) {
         case MultiplierKind::field:
             candidates.push_back(fields.add(multiplier.field));
@@ -42,72 +44,98 @@ MultiplierKey::MultiplierKey(const ContestMultiplier& source, ContestFields& fie
             dxcc = fields.add("DXCC");
             break;
     }
+    if (!candidates.empty()) {
+        firstField = candidates.front();
+    }
 }
 
-std::string_view MultiplierKey::read(ContestFields& fields, std::string_view band, std::string_view mode) {
-    std::string_view value = rawValue(fields);
-    if (value.empty() || (multiplier.alphabeticOnly && !text::isAllLetters(value)) ||
-        (multiplier.mustContainLetter && !text::hasLetter(value))) {
+bool MultiplierKey::addNew(ContestFields& fields, const SteadyField& band, const SteadyField& mode,
+                           KeyNumbers& seen) {
+    const std::string_view known =
+        isKnownByField ? fields.valueOrEmpty(firstField) : countedOf(rawValue(fields).value);
+    Settled* place = nullptr;
+    Settled now;
+    if (known.size() <= sizeof(std::uint64_t)) {
+        now = {text::shortWord(known), known.size(), multiplier.perBand ? band.number() : 0,
+               multiplier.perMode ? mode.number() : 0};
+        place = &settled[((now.word ^ now.band) * 0x9E3779B97F4A7C15U) >> 56U];
+        if (*place == now) {
+            return false;
+        }
+    }
+    const Raw raw = isKnownByField ? rawValue(fields) : Raw{known, true};
+    if (place != nullptr && raw.isOfFirst) {
+        *place = now;
+    }
+    return addCounted(isKnownByField ? countedOf(raw.value) : known, band, mode, seen);
+}
+
+bool MultiplierKey::addCounted(std::string_view value, const SteadyField& band, const SteadyField& mode,
+                               KeyNumbers& seen) const {
+    if (value.empty()) {
+        return false;
+    }
+    if (multiplier.perMode) {
+        seen.append(mode.key());
+        seen.append(separator);
+    }
+    if (multiplier.perBand) {
+        seen.append(band.key());
+        seen.append(separator);
+    }
+    return (text::isASCII(value) ? seen.add(value) : seen.add(text::canonicalKey(value))).isNew;
+}
+
+/// What counts of a raw value, empty if nothing does.
+std::string_view MultiplierKey::countedOf(std::string_view raw) const {
+    if (raw.empty() || (multiplier.alphabeticOnly && !text::isAllLetters(raw)) ||
+        (multiplier.mustContainLetter && !text::hasLetter(raw))) {
         return {};
     }
     if (multiplier.prefixLength && *multiplier.prefixLength > 0) {
-        value = text::firstCharacters(value, static_cast<std::size_t>(*multiplier.prefixLength));
+        raw = text::firstCharacters(raw, static_cast<std::size_t>(*multiplier.prefixLength));
     }
-    if (!counts(value)) {
-        return {};
-    }
-    key.clear();
-    if (multiplier.perMode) {
-        key.append(mode) += separator;
-    }
-    if (multiplier.perBand) {
-        key.append(band) += separator;
-    }
-    key.append(value);
-    if (!text::isASCII(key)) {
-        key = text::canonicalKey(key);
-    }
-    return key;
+    return counts(raw) ? raw : std::string_view();
 }
 
-std::string_view MultiplierKey::rawValue(ContestFields& fields) {
+MultiplierKey::Raw MultiplierKey::rawValue(ContestFields& fields) {
     switch (multiplier.kind) {
         case MultiplierKind::field:
             return multiplier.allowedValues ? allowedValue(fields) : firstValue(fields);
         case MultiplierKind::wpxPrefix:
-            held = WPXPrefix::prefix(fields.valueOrEmpty(call));
-            return held;
+            return {WPXPrefix::prefix(fields.valueOrEmpty(call), held), true};
         case MultiplierKind::callAreaPerDxcc:
-            return callArea(fields);
+            return {callArea(fields), false};
     }
     return {};
 }
 
 /// An exchange such as "599 ZH" holds the value in one of its words.
-std::string_view MultiplierKey::allowedValue(ContestFields& fields) const {
+MultiplierKey::Raw MultiplierKey::allowedValue(ContestFields& fields) const {
     for (const std::size_t candidate : candidates) {
         const std::string_view value = fields.upper(candidate);
-        if (!value.empty() && multiplier.allowedValues->contains(value)) {
-            return value;
-        }
         std::string_view allowed;
-        text::forEachPiece(value, ' ', [&](std::string_view word) {
-            if (allowed.empty() && multiplier.allowedValues->contains(word)) {
-                allowed = word;
-            }
-        });
+        if (!value.empty() && multiplier.allowedValues->contains(value)) {
+            allowed = value;
+        } else {
+            text::forEachPiece(value, ' ', [&](std::string_view word) {
+                if (allowed.empty() && multiplier.allowedValues->contains(word)) {
+                    allowed = word;
+                }
+            });
+        }
         if (!allowed.empty()) {
-            return allowed;
+            return {allowed, candidate == firstField};
         }
     }
     return {};
 }
 
-std::string_view MultiplierKey::firstValue(ContestFields& fields) const {
+MultiplierKey::Raw MultiplierKey::firstValue(ContestFields& fields) const {
     for (const std::size_t candidate : candidates) {
         const std::string_view value = fields.upper(candidate);
         if (!value.empty()) {
-            return wordOf(value, multiplier.token);
+            return {wordOf(value, multiplier.token), candidate == firstField};
         }
     }
     return {};
@@ -118,8 +146,7 @@ std::string_view MultiplierKey::callArea(ContestFields& fields) {
     if (entity.empty()) {
         return {};
     }
-    const std::string prefix = WPXPrefix::prefix(fields.valueOrEmpty(call));
-    const std::string_view digit = text::lastNumeric(prefix);
+    const std::string_view digit = text::lastNumeric(WPXPrefix::prefix(fields.valueOrEmpty(call), prefix));
     held.assign(entity).append("-").append(digit.empty() ? "0" : digit);
     return held;
 }

@@ -9,6 +9,9 @@ namespace tallyrig {
 
 namespace {
 
+/// From so many QSOs at one place on, the tables for its distances are worth their while.
+constexpr std::size_t manyQSOs = 200;
+
 /// The number in `value`, rounded; 0 if it is none or has no place in 64 bits.
 std::int64_t roundedNumber(std::string_view value) {
     return text::wholeNumber(std::round(text::number(value).value_or(0))).value_or(0);
@@ -19,39 +22,29 @@ std::int64_t roundedNumber(std::string_view value) {
 struct QSOValuation::QSO {
     QSOValuation& valuation;
     const ContestFields& fields;
-    std::string_view band;
-    const WorkedStation& worked;
+    const RelationRule* rule;
 
     std::int64_t operator()(const points::Fixed& fixed) const { return fixed.points; }
-    std::int64_t operator()(const points::PerBand& perBand) const {
-        const std::int64_t* const entry = perBand.table.find(band);
-        return entry == nullptr ? perBand.fallback : *entry;
-    }
+    std::int64_t operator()(const points::PerBand&) const { return valuation.bandPoints; }
     std::int64_t operator()(const points::DistanceKm&) const {
-        const auto ends = valuation.ends(fields);
-        return ends ? distanceKm(ends->own, ends->other) : 0;
+        const auto km = valuation.greatCircleKm(fields);
+        return km ? std::llround(*km) : 0;
     }
     std::int64_t operator()(const points::DistanceKmIaru&) const {
-        const auto ends = valuation.ends(fields);
-        return ends ? static_cast<std::int64_t>(greatCircleKm(ends->own, ends->other)) + 1 : 0;
+        const auto km = valuation.greatCircleKm(fields);
+        return km ? static_cast<std::int64_t>(*km) + 1 : 0;
     }
     std::int64_t operator()(const points::AdifField&) const {
         return roundedNumber(fields.valueOrEmpty(valuation.theirField));
     }
-    std::int64_t operator()(const points::ByRelation& table) const {
-        const ContestRules& all = valuation.rules;
-        for (const RelationRule& rule : table.rules) {
-            if (rule.condition.matches(worked, all.station) == RelationAnswer::holds) {
-                return pointsOf(rule, all.bandGroups ? all.bandGroups->find(band) : nullptr);
-            }
+    std::int64_t operator()(const points::ByRelation&) const {
+        if (rule == nullptr) {
+            return 0;
         }
-        return 0;
-    }
-
-    static std::int64_t pointsOf(const RelationRule& rule, const std::string* group) {
-        const std::int64_t* const groupPoints =
-            group != nullptr && rule.bandGroupPoints ? rule.bandGroupPoints->find(*group) : nullptr;
-        return groupPoints == nullptr ? rule.points : *groupPoints;
+        const std::int64_t* const groupPoints = valuation.bandGroup != nullptr && rule->bandGroupPoints
+                                                    ? rule->bandGroupPoints->find(*valuation.bandGroup)
+                                                    : nullptr;
+        return groupPoints == nullptr ? rule->points : *groupPoints;
     }
 };
 
@@ -67,12 +60,19 @@ QSOValuation::QSOValuation(const ContestRules& contestRules, ContestFields& fiel
     }
 }
 
-std::int64_t QSOValuation::points(const ContestFields& fields, std::string_view band,
-                                  const WorkedStation& worked) {
-    return std::visit(QSO{*this, fields, band, worked}, rules.points);
+void QSOValuation::turnToBand(std::string_view band) {
+    bandGroup = rules.bandGroups ? rules.bandGroups->find(band) : nullptr;
+    if (const auto* const perBand = std::get_if<points::PerBand>(&rules.points)) {
+        const std::int64_t* const entry = perBand->table.find(band);
+        bandPoints = entry == nullptr ? perBand->fallback : *entry;
+    }
 }
 
-std::optional<QSOValuation::Ends> QSOValuation::ends(const ContestFields& fields) {
+std::int64_t QSOValuation::points(const ContestFields& fields, const RelationRule* rule) {
+    return std::visit(QSO{*this, fields, rule}, rules.points);
+}
+
+std::optional<double> QSOValuation::greatCircleKm(const ContestFields& fields) {
     std::string_view own = fields.valueOrEmpty(myField);
     if (own.empty()) {
         own = rules.station.gridSquare;
@@ -81,9 +81,21 @@ std::optional<QSOValuation::Ends> QSOValuation::ends(const ContestFields& fields
         // A log has one own locator or a few, so it is not read anew for each QSO.
         ownLocator = own;
         ownPlace = maidenheadToCoordinate(own);
+        qsosFromThere = 0;
+        distances.reset();
     }
-    const auto other = ownPlace ? maidenheadToCoordinate(fields.valueOrEmpty(theirField)) : std::nullopt;
-    return other ? std::optional(Ends{*ownPlace, *other}) : std::nullopt;
+    if (!ownPlace) {
+        return std::nullopt;
+    }
+    const std::string_view their = fields.valueOrEmpty(theirField);
+    if (++qsosFromThere < manyQSOs) {
+        const auto place = maidenheadToCoordinate(their);
+        return place ? std::optional(tallyrig::greatCircleKm(*ownPlace, *place)) : std::nullopt;
+    }
+    if (!distances) {
+        distances.emplace(*ownPlace);
+    }
+    return distances->greatCircleKm(their);
 }
 
 }  // namespace tallyrig

@@ -2,7 +2,6 @@
 
 #include "Tallyrig/Contest/ContestFields.h"
 #include "Tallyrig/Contest/ContestRules.h"
-#include "Tallyrig/Contest/RelationCondition.h"
 #include "Tallyrig/Geography/Locator.h"
 
 #include <cstddef>
@@ -19,27 +18,29 @@ class QSOValuation {
     /// Adds the fields that it reads.
     QSOValuation(const ContestRules& rules, ContestFields& fields);
 
-    /// The points of the record that `fields` stands at. `worked` is looked at only where points go by
-    /// relation.
-    std::int64_t points(const ContestFields& fields, std::string_view band, const WorkedStation& worked);
+    /// The records that follow are on this band.
+    void turnToBand(std::string_view band);
+
+    /// The points of the record that `fields` stands at. `rule` is the one that holds for it where points go
+    /// by relation, null if there is none.
+    std::int64_t points(const ContestFields& fields, const RelationRule* rule);
 
   private:
-    /// The two ends of a distance.
-    struct Ends {
-        Coordinate own;
-        Coordinate other;
-    };
     /// A QSO, to be valued by one case after the other.
     struct QSO;
 
-    /// Absent if one of the locators is none.
-    std::optional<Ends> ends(const ContestFields& fields);
+    /// The distance of the locators, absent if one of them is none.
+    std::optional<double> greatCircleKm(const ContestFields& fields);
 
     const ContestRules& rules;
+    const std::string* bandGroup = nullptr;  ///< Null where the band is in none.
+    std::int64_t bandPoints = 0;             ///< Where points go by band.
     std::size_t myField = 0;
     std::size_t theirField = 0;             ///< Also the one field that holds the points.
     std::optional<std::string> ownLocator;  ///< The last one, as it was read, and its place.
     std::optional<Coordinate> ownPlace;
+    std::size_t qsosFromThere = 0;
+    std::optional<DistancesFrom> distances;  ///< Made when there are many.
 };
 
 }  // namespace tallyrig

@@ -70,6 +70,20 @@ TEST(Problems, StandInTheOrderOfTheirTests) {
     }
 }
 
+TEST(Problems, OfManyQSOsAreOneListInMemory) {
+    ContestRules rules = onePoint();
+    rules.bands = UpperTextSet{"20M"};
+    rules.requiredFields = {"SRX"};
+    const ContestScore result = score(rules, {"A=1", "A=2 | BAND=2M", "A=3", "A=4 | SRX=1"});
+    const auto list = [&](std::size_t index) -> const std::vector<std::string>& {
+        return result.results[index].problems;
+    };
+    EXPECT_EQ(list(0), (std::vector<std::string>{"Band fehlt", "SRX fehlt"}));
+    EXPECT_EQ(list(1), (std::vector<std::string>{"Band 2M nicht erlaubt", "SRX fehlt"}));
+    EXPECT_EQ(&list(2), &list(0));
+    EXPECT_EQ(list(3), std::vector<std::string>{"Band fehlt"});
+}
+
 TEST(Problems, NameTheRelationThatIsMissing) {
     const std::pair<RelationCondition, std::string_view> cases[] = {
         {WorkedCountryIs{"230"}, "Partner nicht im DXCC-Gebiet 230"},
@@ -130,6 +144,21 @@ TEST(Duplicates, AgreeInTheirFieldsWhateverElseIsWrong) {
     EXPECT_EQ(dupesOf(score(rules, qsos)), ".....d.d");
 }
 
+TEST(Duplicates, AreFoundThroughoutALongLog) {
+    std::vector<testing::Pairs> records;
+    for (const std::size_t call : {0, 1, 1, 2, 63, 64, 65, 200, 0, 201, 200, 63}) {
+        while (records.size() < call) {
+            records.push_back({{"CALL", std::to_string(records.size())}, {"BAND", "40M"}});
+        }
+        records.push_back({{"CALL", std::to_string(call)}, {"BAND", "40m"}});
+    }
+    std::string expected(records.size(), '.');
+    for (const std::size_t index : {2, 201, 203, 204}) {
+        expected[index] = 'd';
+    }
+    EXPECT_EQ(dupesOf(ContestChecker(onePoint()).score(testing::document(records))), expected);
+}
+
 TEST(Points, GoByTheKindOfValuation) {
     const TextMap<std::int64_t> low = {{"low", 6}};
     const ContestPoints byRelation = ByRelation{{{SameContinent{}, 3, low},
@@ -175,6 +204,21 @@ TEST(Points, GoByTheKindOfValuation) {
         rules.points = points;
         EXPECT_EQ(score(rules, {qso}).qsoPoints, expected) << points.index() << ": " << qso;
     }
+}
+
+// What comes again and again is kept.
+TEST(Points, AreTheSameInALongLog) {
+    ContestRules rules = {.name = "Probe", .station = swiss, .points = DistanceKm{"MY_GRIDSQUARE", "GRID"}};
+    std::vector<std::string_view> qsos(300, "GRID=JN47 | MY_GRIDSQUARE=JN48");
+    qsos.insert(qsos.end(), 300, "GRID=JN48");
+    qsos.insert(qsos.end(), {"GRID=JN49 | MY_GRIDSQUARE=JN48", "GRID=JN49", "GRID=JN"});
+    EXPECT_EQ(score(rules, qsos).qsoPoints, 600 * 111 + 111 + 222);
+
+    rules.points = ByRelation{{{IsPortable{}, 7}, {SameCqZone{}, 5}, {SameContinent{}, 3}}};
+    qsos = {"DXCC=287", "DXCC=287 | CQZ=14", "DXCC=287 | CQZ=1", "DXCC=287 | CONT=as", "DXCC=287 | CALL=A/P",
+            "DXCC=2",   "DXCC=2 | CONT=EU",  "DXCC=287 | CQZ=4"};
+    qsos.insert(qsos.end(), qsos.begin(), qsos.end());
+    EXPECT_EQ(score(rules, qsos).qsoPoints, 2 * (3 + 5 + 3 + 0 + 7 + 0 + 3 + 3));
 }
 
 TEST(Multiplier, IsTheValueThatPassesItsTests) {
@@ -226,6 +270,14 @@ TEST(Multiplier, IsTheValueThatPassesItsTests) {
           "CALL=SM5A | DXCC=A"},
          4},
         {{.name = "M", .field = ""}, {"A=x"}, 0},
+        // A value that was not allowed before leaves the next field to be asked again.
+        {{.name = "M", .field = "A", .fallbackFields = {"B"}, .allowedValues = UpperTextSet{"X", "Y"}},
+         {"A=q | B=x", "A=x | B=y", "A=q | B=y", "A=q | B=z"},
+         2},
+        {{.name = "M", .field = "A", .perBand = true, .perMode = true},
+         {"A=x | BAND=2M", "A=x | BAND=2m | MODE=cw", "A=x | BAND=2M | MODE=SSB", "A=X | BAND=2M | MODE=CW",
+          "A=long enough | BAND=2M", "A=Long enough | BAND=2M", "A=long enough | BAND=6M"},
+         5},
     };
     for (const auto& [multiplier, qsos, count] : cases) {
         ContestRules rules = with(multiplier);
