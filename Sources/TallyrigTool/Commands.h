@@ -25,5 +25,6 @@ Command callCommand(CLI::App& program);
 Command contestsCommand(CLI::App& program);
 Command rulesCommand(CLI::App& program);
 Command scoreCommand(CLI::App& program);
+Command crossCheckCommand(CLI::App& program);
 
 }  // namespace tallyrig::tool

@@ -41,13 +41,17 @@ quillon::Contest ContestOptions::chosen() const {
     return quillon::contestNamed(contest).value_or(quillon::Contest::generic);
 }
 
-ContestRules ContestOptions::rules() const {
+ContestStation ContestOptions::ownStation() const {
     // An argument may be any bytes; what is written has to be text.
     ContestStation own = station.station();
     for (std::string* const text : {&own.dxcc, &own.continent, &own.cqZone, &own.ituZone, &own.gridSquare}) {
         *text = text::repaired(*text);
     }
-    return quillon::rulesOf(chosen(), quillon::GenericContest(), own);
+    return own;
+}
+
+ContestRules ContestOptions::rules(const ContestStation& ofStation) const {
+    return quillon::rulesOf(chosen(), quillon::GenericContest(), ofStation);
 }
 
 }  // namespace tallyrig::tool

@@ -3,6 +3,7 @@
 #include "Quillon/Catalogue/Contests.h"
 #include "Quillon/Catalogue/OwnStation.h"
 #include "Tallyrig/Contest/ContestRules.h"
+#include "Tallyrig/Contest/ContestStation.h"
 
 #include <string>
 
@@ -21,7 +22,11 @@ struct ContestOptions {
     void addTo(CLI::App& usage, const std::string& name);
 
     quillon::Contest chosen() const;
-    ContestRules rules() const;
+    /// The own station, as well-formed text.
+    ContestStation ownStation() const;
+    ContestRules rules() const { return rules(ownStation()); }
+    /// The same for another station.
+    ContestRules rules(const ContestStation& ofStation) const;
 };
 
 }  // namespace tallyrig::tool
