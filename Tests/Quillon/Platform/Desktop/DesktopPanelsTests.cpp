@@ -51,6 +51,29 @@ TEST(FilePanel, TellsFilesByTheirNames) {
     EXPECT_EQ(told.toStdString(), "Ordner ADI-Datei Datei");
 }
 
+TEST(FolderPanel, TakesFilesAndFoldersTogetherAndAFolderAlone) {
+    const testing::TemporaryFolder folder;
+    DesktopPanels panels;
+    panels.setFolder(folder.path(QStringLiteral(".")));
+    QDir(folder.path(QStringLiteral("."))).mkdir(QStringLiteral("logs"));
+    folder.write(QStringLiteral("a.adi"), "");
+    const auto choosesIn = [](const QString& title, const QString& names) {
+        whenShown<QFileDialog>([=](QFileDialog& panel) {
+            EXPECT_EQ(panel.windowTitle(), title);
+            choose(panel, names);
+        });
+    };
+    choosesIn(QStringLiteral("Logs"), QStringLiteral("\"logs\" \"a.adi\""));
+    QString chosen;
+    for (const QString& path : panels.filesAndFoldersToOpen(QStringLiteral("Logs"))) {
+        chosen += QFileInfo(path).fileName() + u' ';
+    }
+    EXPECT_EQ(chosen.toStdString(), "logs a.adi ");
+    choosesIn(QStringLiteral("Reports"), QStringLiteral("logs"));
+    const auto path = panels.folderToWriteTo(QStringLiteral("Reports"), QStringLiteral("Write"));
+    EXPECT_EQ(QFileInfo(path.value_or(QString())).fileName().toStdString(), "logs");
+}
+
 TEST(SavePanel, AddsTheExtensionThatIsMissing) {
     const testing::TemporaryFolder folder;
     DesktopPanels panels;
