@@ -73,7 +73,8 @@ LoadedLog readLogAmongOthers(const std::string& path, std::mutex& largeFile) {
 }  // namespace
 
 std::string fileName(const std::string& path) {
-    return tallyrig::text::repaired(path.substr(path.rfind('/') + 1));
+    const std::string_view whole = std::string_view(path).substr(0, path.find_last_not_of('/') + 1);
+    return tallyrig::text::repaired(whole.substr(whole.rfind('/') + 1));
 }
 
 bool isFolder(const std::string& path) {

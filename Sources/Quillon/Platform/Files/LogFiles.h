@@ -17,7 +17,7 @@ namespace quillon {
 
 // Paths are as the system has them, of whatever encoding.
 
-/// The last part of a path, as well-formed UTF-8.
+/// The last part of a path, as well-formed UTF-8. Slashes behind it do not count.
 std::string fileName(const std::string& path);
 
 /// Whether a folder is there, or a symbolic link to one.

@@ -81,6 +81,7 @@ TEST_F(ManyLogs, ComeInTheOrderOfTheirPathsEachWithItsOwnerOrItsError) {
     EXPECT_EQ(fileName(latin1),
               "Gr\uFFFD\uFFFD"
               "e.adi");
+    EXPECT_EQ(fileName("/logs//"), "logs");
     EXPECT_EQ(work.progress(), 1);
     work.cancel();
     EXPECT_FALSE(readLogs(paths, work));
