@@ -78,6 +78,29 @@ TEST_F(CrossCheckCommand, TellsAPersonTheRankingAndTheProblems) {
     EXPECT_EQ(run("tallyrig crosscheck logs --no-exchange").status, 0);
 }
 
+TEST_F(CrossCheckCommand, ShowsAllThatItCanSayByTheExample) {
+    const std::string output = run("tallyrig crosscheck Examples/crosscheck --rst").output;
+    const std::string_view words[] = {"  bestätigt  ",
+                                      "  Busted Exchange  Austausch: empfangen 12, gesendet 013\n",
+                                      "  Nummer: empfangen 5, gesendet 4\n",
+                                      "  RST: empfangen 57, gesendet 59\n",
+                                      "  Locator: empfangen JO54, gesendet JO55QM\n",
+                                      "  Zeit abweichend        Zeitdifferenz 12 min\n",
+                                      "  Band/Modus abweichend  bei Gegenstation auf 70cm\n",
+                                      "  bei Gegenstation in CW\n",
+                                      "  Busted Call            vermutlich DL1QZA\n",
+                                      "  NIL\n",
+                                      "  Unique\n",
+                                      "  nicht prüfbar    in 1 weiteren Log(s)\n",
+                                      "  Zeit nicht prüfbar\n",
+                                      "  Zusatz abweichend: DK5QMB ≠ DK5QMB/P\n",
+                                      "  Gegenstation loggte DK5QMB statt DK5QMB/P\n",
+                                      "  Gegenstation loggte dein Rufzeichen als DL1QZE\n"};
+    for (const std::string_view word : words) {
+        EXPECT_NE(output.find(word), std::string::npos) << word << " in " << output;
+    }
+}
+
 TEST_F(CrossCheckCommand, WritesAFolderOfReports) {
     const std::string command =
         "tallyrig crosscheck logs --no-scoring --reports . --date 2024-04-01 --evaluator ' DL0EV '";

@@ -297,7 +297,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 13);
+    EXPECT_EQ(commands, 14);
 }
 
 }  // namespace
