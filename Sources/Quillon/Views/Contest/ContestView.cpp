@@ -14,6 +14,7 @@
 #include "Tallyrig/Contest/ContestChecker.h"
 #include "Tallyrig/Text/VisibleText.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollArea>
@@ -53,9 +54,12 @@ QString shown(std::string_view text) {
 FindingRow rowOf(const ContestQSOResult& qso, const tallyrig::ADIFRecord& record) {
     const QString call = shown(record.valueOrEmpty("CALL"));
     return {.number = QStringLiteral("#") + number(qso.index + 1),
+            .time = {},
             .call = call.isEmpty() ? QStringLiteral("—") : call,
             .band = std::string(cutToShow(record.valueOrEmpty("BAND"))),
-            .text = shown(ScoreWords::reason(qso))};
+            .badge = {},
+            .text = shown(ScoreWords::reason(qso)),
+            .counterpart = {}};
 }
 
 }  // namespace
@@ -87,6 +91,7 @@ ContestView::ContestView(LogStore& logStore, const ContestStore& contestStore, s
                                    this));
     body->addWidget(page);
     setFocusProxy(page);
+    page->installEventFilter(this);
 
     pause.setSingleShot(true);
     connect(&pause, &QTimer::timeout, this, &ContestView::score);
@@ -98,8 +103,8 @@ ContestView::ContestView(LogStore& logStore, const ContestStore& contestStore, s
 
 Card* ContestView::scoreCard() {
     auto* card = new Card(QString(), this);
+    head = card;
     contestName = titleLabel(QString(), card);
-    contestName->setWordWrap(true);
     makeCopyable(*contestName);
     total = figureLabel(2.8, card);
     QLabel* caption = noteLabel(QStringLiteral("Punkte"), card);
@@ -135,7 +140,8 @@ Card* ContestView::multiplierCard() {
 Card* ContestView::issuesCard() {
     issues = new Card(QString(), this);
     noIssues = new QLabel(QStringLiteral("Keine – alle QSOs werden gewertet."), issues);
-    issueList = new FindingList(QStringLiteral("Zum QSO springen (öffnet die Check-Ansicht)"), issues);
+    issueList = new FindingList(QStringLiteral("Zum QSO springen (öffnet die Check-Ansicht)"),
+                                FindingList::Height::ofRows, issues);
     issueList->setAccessibleName(QStringLiteral("Auffälligkeiten"));
     furtherIssues = noteLabel(QString(), issues);
     for (QWidget* part : {static_cast<QWidget*>(noIssues), static_cast<QWidget*>(issueList),
@@ -164,6 +170,14 @@ void ContestView::scoreAfter(int pauseMs) {
     if (isVisible()) {
         pause.start(pauseMs);
     }
+}
+
+/// A pane that takes the keyboard, to be scrolled by it, shows that it has it.
+bool ContestView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == page && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+        head->setFramed(event->type() == QEvent::FocusIn);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ContestView::hideEvent(QHideEvent* event) {
@@ -201,7 +215,7 @@ void ContestView::score() {
 }
 
 void ContestView::showFigures(const ContestScore& score) {
-    contestName->setText(shown(score.contestName));
+    setWrappedText(*contestName, shown(score.contestName));
     total->setText(number(score.total));
     total->setAccessibleName(number(score.total) + QStringLiteral(" Punkte"));
     formula->setText(toQString(ScoreWords::formula(score)));
@@ -222,9 +236,9 @@ void ContestView::showMultipliers(const ContestScore& score) {
     multiplierRows->setMaximumWidth(widestRowPx);
     for (const ContestScore::Breakdown& multiplier : score.multiplierBreakdown) {
         const int row = grid->rowCount();
-        auto* name = new QLabel(shown(multiplier.name), multiplierRows);
+        auto* name = new QLabel(multiplierRows);
         name->setTextFormat(Qt::PlainText);
-        name->setWordWrap(true);
+        setWrappedText(*name, shown(multiplier.name));
         makeCopyable(*name);
         auto* count = new QLabel(number(multiplier.count), multiplierRows);
         count->setTextFormat(Qt::PlainText);

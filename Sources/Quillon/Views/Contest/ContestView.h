@@ -48,6 +48,7 @@ class ContestView : public QWidget {
     void qsoWanted(tallyrig::UUID record);
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -74,6 +75,7 @@ class ContestView : public QWidget {
 
     QStackedLayout* body;
     QScrollArea* page;
+    Card* head = nullptr;
     QLabel* contestName = nullptr;
     QLabel* total = nullptr;
     QLabel* formula = nullptr;

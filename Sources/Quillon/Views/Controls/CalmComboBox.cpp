@@ -1,13 +1,29 @@
 #include "Quillon/Views/Controls/CalmComboBox.h"
 
+#include "Quillon/Views/Controls/Labels.h"
+
+#include <QHelpEvent>
 #include <QStyleOption>
 #include <QStylePainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace quillon {
 
 CalmComboBox::CalmComboBox(QWidget* parent) : QComboBox(parent) {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+}
+
+bool CalmComboBox::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const bool isCut = fontMetrics().horizontalAdvance(option.currentText) > textRoom(option);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           isCut ? plainToolTip(option.currentText) : QString(), this);
+        return true;
+    }
+    return QComboBox::event(event);
 }
 
 void CalmComboBox::paintEvent(QPaintEvent*) {
@@ -18,11 +34,15 @@ void CalmComboBox::paintEvent(QPaintEvent*) {
         option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
         option.currentText = placeholderText();
     }
-    const int room =
-        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
-    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, room - 4);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, textRoom(option));
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+int CalmComboBox::textRoom(const QStyleOptionComboBox& option) const {
+    constexpr int marginsPx = 4;
+    return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width() -
+           marginsPx;
 }
 
 void CalmComboBox::wheelEvent(QWheelEvent* event) {

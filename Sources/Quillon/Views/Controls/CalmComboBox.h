@@ -2,10 +2,13 @@
 
 #include <QComboBox>
 
+class QStyleOptionComboBox;
+
 namespace quillon {
 
 /// A picker for panes that scroll: turning the wheel over it scrolls the pane instead of changing what is
-/// chosen, and a choice that is too long for the pane does not make the pane wider but ends in "…".
+/// chosen, and a choice that is too long for the pane does not make the pane wider but ends in "…", with the
+/// whole as its tool tip.
 class CalmComboBox : public QComboBox {
     Q_OBJECT
 
@@ -13,8 +16,12 @@ class CalmComboBox : public QComboBox {
     explicit CalmComboBox(QWidget* parent = nullptr);
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    int textRoom(const QStyleOptionComboBox& option) const;
 };
 
 }  // namespace quillon

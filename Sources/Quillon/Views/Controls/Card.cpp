@@ -1,5 +1,6 @@
 #include "Quillon/Views/Controls/Card.h"
 
+#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Labels.h"
 
@@ -22,17 +23,26 @@ void Card::setHeading(const QString& heading) {
     setAccessibleName(heading);
 }
 
-void Card::paintEvent(QPaintEvent*) {
-    paintCardGround(*this);
+void Card::setFramed(bool framed) {
+    isFramed = framed;
+    update();
 }
 
-void paintCardGround(QWidget& widget) {
+void Card::paintEvent(QPaintEvent*) {
+    paintCardGround(*this, isFramed);
+}
+
+void paintCardGround(QWidget& widget, bool isFramed) {
     constexpr double cornerPx = 8;
     QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double line = hairlineWidth(painter);
-    painter.setPen(QPen(widget.palette().color(QPalette::Mid), line));
-    painter.setBrush(widget.palette().color(QPalette::Base));
+    const QColor base = widget.palette().color(QPalette::Base);
+    const double line = isFramed ? 2 : hairlineWidth(painter);
+    const QColor frame = isFramed
+                             ? standingOut(widget.palette().color(QPalette::Highlight), {base}, shapeContrast)
+                             : widget.palette().color(QPalette::Mid);
+    painter.setPen(QPen(frame, line));
+    painter.setBrush(base);
     painter.drawRoundedRect(QRectF(widget.rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2),
                             cornerPx, cornerPx);
 }

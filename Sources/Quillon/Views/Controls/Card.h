@@ -17,6 +17,8 @@ class Card : public QWidget {
     explicit Card(const QString& heading, QWidget* parent = nullptr);
 
     void setHeading(const QString& heading);
+    /// Frames the card as what has the keyboard.
+    void setFramed(bool framed);
     /// Where the content goes, from top to bottom.
     QVBoxLayout& content() const { return *column; }
 
@@ -26,9 +28,11 @@ class Card : public QWidget {
   private:
     QVBoxLayout* column;
     QLabel* headingLine;
+    bool isFramed = false;
 };
 
-/// Paints the ground of a card or a tile into the whole of `widget`.
-void paintCardGround(QWidget& widget);
+/// Paints the ground of a card or a tile into the whole of `widget`, with the frame of what has the keyboard
+/// or without.
+void paintCardGround(QWidget& widget, bool isFramed = false);
 
 }  // namespace quillon

@@ -1,6 +1,7 @@
 #include "Quillon/Views/Controls/FindingList.h"
 
 #include "Quillon/Views/Controls/BandDot.h"
+#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/VisibleText.h"
@@ -13,6 +14,8 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -22,19 +25,64 @@ namespace {
 
 constexpr int marginPx = 8;
 constexpr int gapPx = 14;
+constexpr int rowPaddingPx = 10;
 constexpr int dotRoomPx = 14;
-constexpr int widestCallPx = 220;
-constexpr int widestBandPx = 110;
+constexpr int badgePaddingPx = 6;
 
-QString shownBand(const FindingRow& row) {
-    return toQString(tallyrig::text::visibleText(cutToShow(row.band)));
+/// What a row is made of, from left to right.
+enum class Part { number, time, call, dot, band, badge, text, counterpart };
+constexpr std::size_t partCount = 8;
+
+/// At most so wide; the text takes what is left.
+constexpr std::array<int, partCount> widestPx = {200, 100, 220, dotRoomPx, 110, 260, 0, 260};
+
+QString wordsOf(const FindingRow& row, Part part) {
+    switch (part) {
+        case Part::number:
+            return row.number;
+        case Part::time:
+            return row.time;
+        case Part::call:
+            return row.call;
+        case Part::band:
+            return toQString(tallyrig::text::visibleText(cutToShow(row.band)));
+        case Part::badge:
+            return row.badge.text;
+        case Part::text:
+            return row.text;
+        case Part::counterpart:
+            return row.counterpart;
+        case Part::dot:
+            break;
+    }
+    return {};
+}
+
+constexpr std::array<Part, partCount> parts = {Part::number, Part::time,  Part::call, Part::dot,
+                                               Part::band,   Part::badge, Part::text, Part::counterpart};
+
+QStringList toldOf(const FindingRow& row) {
+    QStringList told;
+    for (const Part part : parts) {
+        if (const QString words = wordsOf(row, part); !words.isEmpty()) {
+            told.append(QString(words).replace(QLatin1Char('\n'), QStringLiteral("; ")));
+        }
+    }
+    return told;
+}
+
+int linesOf(const FindingRow& row) {
+    return static_cast<int>(row.text.count(QLatin1Char('\n'))) + 1;
 }
 
 }  // namespace
 
-/// The rows, and how wide their columns are.
+/// The rows, and how wide the parts of all of them are.
 class FindingList::Model : public QAbstractListModel {
   public:
+    /// By part. Nothing takes the place of what no row has.
+    using Widths = std::array<int, partCount>;
+
     explicit Model(QString rowToolTip, QObject* parent)
         : QAbstractListModel(parent), toolTip(std::move(rowToolTip)) {}
 
@@ -58,39 +106,38 @@ class FindingList::Model : public QAbstractListModel {
         const FindingRow& finding = row(index);
         switch (role) {
             case Qt::DisplayRole:
-                return QStringList({finding.number, finding.call, shownBand(finding), finding.text})
-                    .join(QLatin1Char('\t'));
-            case Qt::AccessibleTextRole: {
-                QStringList told = {finding.number, finding.call, shownBand(finding), finding.text};
-                told.removeAll(QString());
-                return told.join(QStringLiteral(", "));
-            }
+                return toldOf(finding).join(QLatin1Char('\t'));
+            case Qt::AccessibleTextRole:
+                return toldOf(finding).join(QStringLiteral(", "));
             case Qt::ToolTipRole:
-                return plainToolTip(finding.text + QLatin1Char('\n') + toolTip);
+                return finding.leads ? plainToolTip(finding.text + QLatin1Char('\n') + toolTip)
+                                     : plainToolTip(finding.text);
             default:
                 return {};
         }
     }
 
-    struct Widths {
-        int number = 0;
-        int call = 0;
-        int band = 0;
-    };
     /// In letters of `font`. Cost: nothing as long as rows and font stay.
     const Widths& widths(const QFont& font) const {
         if (!measured || measuredFont != font) {
             const QFontMetrics letters(font);
-            // With a pixel to spare, for painting rounds otherwise than measuring.
-            const auto room = [&letters](const QString& text) { return letters.horizontalAdvance(text) + 1; };
-            Widths widest;
+            Widths widest{};
             for (const FindingRow& finding : rows) {
-                widest.number = std::max(widest.number, room(finding.number));
-                widest.call = std::max(widest.call, room(finding.call));
-                widest.band = std::max(widest.band, room(shownBand(finding)));
+                for (const Part part : parts) {
+                    int& width = widest[static_cast<std::size_t>(part)];
+                    const QString words = wordsOf(finding, part);
+                    if (part == Part::dot) {
+                        width = std::max(width, finding.band.empty() ? 0 : dotRoomPx);
+                    } else if (part != Part::text && !words.isEmpty()) {
+                        // With a pixel to spare, for painting rounds otherwise than measuring.
+                        const int padding = part == Part::badge ? 2 * badgePaddingPx : 0;
+                        width = std::max(width, letters.horizontalAdvance(words) + 1 + padding);
+                    }
+                }
             }
-            widest.call = std::min(widest.call, widestCallPx);
-            widest.band = std::min(widest.band, widestBandPx);
+            for (std::size_t part = 0; part < partCount; ++part) {
+                widest[part] = std::min(widest[part], widestPx[part]);
+            }
             measured = widest;
             measuredFont = font;
         }
@@ -104,7 +151,7 @@ class FindingList::Model : public QAbstractListModel {
     mutable QFont measuredFont;
 };
 
-/// Paints a row: number, call, dot and name of the band, and the text in what is left.
+/// Paints a row: each part in its column, all on the first line but the text, which may have several.
 class FindingList::Delegate : public QStyledItemDelegate {
   public:
     Delegate(const Model& rowModel, QObject* parent) : QStyledItemDelegate(parent), model(rowModel) {}
@@ -117,59 +164,102 @@ class FindingList::Delegate : public QStyledItemDelegate {
         const QStyle& style = item.widget != nullptr ? *item.widget->style() : *QApplication::style();
         style.drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
 
-        const bool isSelected = item.state.testFlag(QStyle::State_Selected);
-        const QColor text = item.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
-        const QColor secondary =
-            item.palette.color(isSelected ? QPalette::HighlightedText : QPalette::PlaceholderText);
         const FindingRow& finding = model.row(index);
         const Model::Widths& widths = model.widths(item.font);
-        const QRect row = item.rect.adjusted(marginPx, 0, -marginPx, 0);
-        int x = row.left();
+        const QRect row = item.rect.adjusted(marginPx, rowPaddingPx / 2, -marginPx, -rowPaddingPx / 2);
+        const int lineHeight = item.fontMetrics.height();
+        const int counterpartWidth = widths[static_cast<std::size_t>(Part::counterpart)];
         painter->save();
         painter->setFont(item.font);
-        const auto draw = [&](const QString& words, int width, const QColor& color, Qt::Alignment side) {
-            painter->setPen(color);
-            painter->drawText(QRect(x, row.top(), width, row.height()),
-                              static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
-                              item.fontMetrics.elidedText(words, Qt::ElideRight, width));
-            x += width;
-        };
-        draw(finding.number, widths.number, secondary, Qt::AlignRight);
-        x += gapPx;
-        draw(finding.call, widths.call, text, Qt::AlignLeft);
-        x += gapPx;
-        if (!finding.band.empty()) {
-            BandDot{finding.band}.paint(*painter, QPointF(x + BandDot::diameter / 2, row.center().y() + 0.5));
+        int x = row.left();
+        for (const Part part : parts) {
+            int width = widths[static_cast<std::size_t>(part)];
+            if (part == Part::text) {
+                const int behind = counterpartWidth > 0 ? counterpartWidth + gapPx : 0;
+                width = std::max(0, row.right() + 1 - behind - x);
+            }
+            if (width == 0) {
+                continue;
+            }
+            paintPart(*painter, item, finding, part, QRect(x, row.top(), width, lineHeight));
+            x += width + (part == Part::dot ? 0 : gapPx);
         }
-        x += dotRoomPx;
-        draw(shownBand(finding), widths.band, secondary, Qt::AlignLeft);
-        x += gapPx;
-        draw(finding.text, std::max(0, row.right() + 1 - x), text, Qt::AlignLeft);
         painter->restore();
     }
 
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return {1, option.fontMetrics.height() + 10};
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {1, linesOf(model.row(index)) * option.fontMetrics.height() + rowPaddingPx};
     }
 
   private:
+    /// `place` is the first line of the part.
+    static void paintPart(QPainter& painter, const QStyleOptionViewItem& item, const FindingRow& finding,
+                          Part part, const QRect& place) {
+        const bool isSelected = item.state.testFlag(QStyle::State_Selected);
+        const QColor ground = item.palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
+        if (part == Part::dot) {
+            if (!finding.band.empty()) {
+                BandDot{finding.band}.paint(
+                    painter, QPointF(place.left() + BandDot::diameter / 2, place.center().y() + 0.5));
+            }
+            return;
+        }
+        const bool standsBack = part != Part::call && part != Part::text && part != Part::badge;
+        QColor ink = item.palette.color(isSelected   ? QPalette::HighlightedText
+                                        : standsBack ? QPalette::PlaceholderText
+                                                     : QPalette::Text);
+        QRect line = place;
+        if (part == Part::badge && !finding.badge.text.isEmpty()) {
+            constexpr double tint = 0.18;
+            constexpr double cornerPx = 4;
+            const QColor color = screenColor(finding.badge.color);
+            const QColor tinted = blended(color, tint, ground);
+            ink = standingOut(color, {tinted}, textContrast);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(tinted);
+            const int words = item.fontMetrics.horizontalAdvance(finding.badge.text) + 2 * badgePaddingPx + 1;
+            painter.drawRoundedRect(
+                QRectF(place.left(), place.top() - 1, std::min(words, place.width()), place.height() + 2),
+                cornerPx, cornerPx);
+            line.adjust(badgePaddingPx, 0, -badgePaddingPx, 0);
+        }
+        painter.setPen(ink);
+        const int side = part == Part::number ? Qt::AlignRight : Qt::AlignLeft;
+        for (const QString& words : wordsOf(finding, part).split(QLatin1Char('\n'))) {
+            painter.drawText(line, side | Qt::AlignVCenter | Qt::TextSingleLine,
+                             item.fontMetrics.elidedText(words, Qt::ElideRight, line.width()));
+            line.translate(0, line.height());
+        }
+    }
+
     const Model& model;
 };
 
-FindingList::FindingList(QString rowToolTip, QWidget* parent)
-    : CopyableList(Qt::DisplayRole, parent), findingModel(new Model(std::move(rowToolTip), this)) {
+FindingList::FindingList(QString rowToolTip, Height listHeight, QWidget* parent)
+    : CopyableList(Qt::DisplayRole, parent),
+      findingModel(new Model(std::move(rowToolTip), this)),
+      height(listHeight) {
     setModel(findingModel);
     setItemDelegate(new Delegate(*findingModel, this));
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // A row is as high as its text has lines.
+    setUniformItemSizes(false);
+    setResizeMode(QListView::Adjust);
+    if (height == Height::ofRows) {
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
     setMouseTracking(true);
-    viewport()->setCursor(Qt::PointingHandCursor);
     connect(this, &QListView::clicked, this, [this](const QModelIndex& index) {
         // With a key held, several are being chosen, to be copied.
-        if (QGuiApplication::keyboardModifiers() == Qt::NoModifier) {
+        if (QGuiApplication::keyboardModifiers() == Qt::NoModifier && findingModel->row(index).leads) {
             emit pressed(index.row());
         }
     });
+    connect(this, &QListView::entered, this, [this](const QModelIndex& index) {
+        viewport()->setCursor(findingModel->row(index).leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    });
+    connect(this, &QListView::viewportEntered, this, [this] { viewport()->unsetCursor(); });
 }
 
 FindingList::~FindingList() = default;
@@ -180,12 +270,18 @@ void FindingList::setFindings(std::vector<FindingRow> findings) {
 }
 
 QSize FindingList::sizeHint() const {
-    const int rows = findingModel->rowCount();
-    return {1, rows > 0 ? rows * sizeHintForRow(0) : 0};
+    if (height == Height::ofPane) {
+        return CopyableList::sizeHint();
+    }
+    int rows = 0;
+    for (int row = 0; row < findingModel->rowCount(); ++row) {
+        rows += sizeHintForRow(row);
+    }
+    return {1, rows};
 }
 
 QSize FindingList::minimumSizeHint() const {
-    return sizeHint();
+    return height == Height::ofPane ? CopyableList::minimumSizeHint() : sizeHint();
 }
 
 void FindingList::changeEvent(QEvent* event) {
@@ -204,7 +300,11 @@ void FindingList::tellCurrentRow() {
 
 void FindingList::focusInEvent(QFocusEvent* event) {
     CopyableList::focusInEvent(event);
-    if (event->reason() != Qt::MouseFocusReason) {
+    if (event->reason() != Qt::MouseFocusReason && currentIndex().isValid()) {
+        if (!selectionModel()->hasSelection()) {
+            // What the copying key takes is what the frame is on.
+            selectionModel()->select(currentIndex(), QItemSelectionModel::Select);
+        }
         tellCurrentRow();
     }
 }
@@ -213,7 +313,9 @@ void FindingList::keyPressEvent(QKeyEvent* event) {
     const bool isPress = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                          (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier);
     if (isPress && currentIndex().isValid()) {
-        emit pressed(currentIndex().row());
+        if (findingModel->row(currentIndex()).leads) {
+            emit pressed(currentIndex().row());
+        }
         return;
     }
     CopyableList::keyPressEvent(event);

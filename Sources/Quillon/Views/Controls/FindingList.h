@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Catalogue/BandColors.h"
 #include "Quillon/Views/Controls/CopyableList.h"
 
 #include <QRect>
@@ -10,25 +11,40 @@
 
 namespace quillon {
 
-/// What is told of one QSO in a list of findings.
+/// A word on a ground of its colour.
+struct Badge {
+    QString text;
+    SystemColor color = SystemColor::gray;
+};
+
+/// What is told of one QSO in a list of findings. What is empty takes no room.
 struct FindingRow {
     QString number;    ///< Such as "#12".
+    QString time;      ///< Such as "14:05".
     QString call;      ///< As it is shown.
-    std::string band;  ///< As the log writes it; empty if it says none.
-    QString text;
+    std::string band;  ///< As the log writes it.
+    Badge badge;
+    QString text;         ///< In as many lines as it has.
+    QString counterpart;  ///< The other station's QSO.
+    bool leads = true;    ///< Whether pressing the row leads to the QSO.
 };
 
 /// The findings about single QSOs in a pane of figures, each a button that leads to its QSO: by a click, by
-/// Return or by the space bar. The list is as high as its rows; the pane around it scrolls.
+/// Return or by the space bar.
 class FindingList : public CopyableList {
     Q_OBJECT
 
   public:
+    enum class Height {
+        ofRows,  ///< The list is as high as its rows; the pane around it scrolls.
+        ofPane,  ///< The list takes what room it gets, and scrolls itself.
+    };
+
     /// `rowToolTip` says what pressing a row does.
-    explicit FindingList(QString rowToolTip, QWidget* parent = nullptr);
+    FindingList(QString rowToolTip, Height listHeight, QWidget* parent = nullptr);
     ~FindingList() override;
 
-    /// All rows are shown and laid out: some hundred at most.
+    /// All rows are laid out: some hundred at most.
     void setFindings(std::vector<FindingRow> findings);
 
     QSize sizeHint() const override;
@@ -52,6 +68,7 @@ class FindingList : public CopyableList {
     void tellCurrentRow();
 
     Model* findingModel;
+    Height height;
 };
 
 }  // namespace quillon

@@ -118,6 +118,13 @@ QLabel* figureLabel(double factor, QWidget* parent) {
     return label;
 }
 
+void setWrappedText(QLabel& label, const QString& text) {
+    label.setWordWrap(true);
+    label.setMinimumWidth(1);
+    label.setText(text);
+    label.setToolTip(plainToolTip(text));
+}
+
 void makeCopyable(QLabel& label) {
     label.setTextInteractionFlags(Qt::TextSelectableByMouse);
 }

@@ -35,6 +35,10 @@ QLabel* headingLabel(const QString& text, QWidget* parent = nullptr);
 /// copied.
 QLabel* figureLabel(double factor, QWidget* parent = nullptr);
 
+/// Lets `label`, which wraps, be as narrow as its pane: a word that is too long is cut off at the end, and
+/// the whole is its tool tip.
+void setWrappedText(QLabel& label, const QString& text);
+
 /// Lets the user select and copy what `label` says.
 void makeCopyable(QLabel& label);
 

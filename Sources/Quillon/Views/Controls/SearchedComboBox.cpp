@@ -6,6 +6,8 @@
 #include <QProxyStyle>
 #include <QRegularExpression>
 
+#include <vector>
+
 namespace quillon {
 
 namespace {
@@ -22,8 +24,29 @@ class SearchedList : public QListView {
         }
         sinceLastKey.start();
         typed += search;
+        findTyped();
+    }
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        typed.clear();
+        chosen = currentIndex();
+        QListView::showEvent(event);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Backspace) {
+            typed.chop(1);
+            findTyped();
+        } else {
+            QListView::keyPressEvent(event);
+        }
+    }
+
+  private:
+    /// Goes back to what is chosen where nothing holds what is typed.
+    void findTyped() {
         // Best at the beginning of the entry, else of a word in it, else anywhere.
-        for (const char* before : {"^", "[ (/]", ""}) {
+        for (const char* before : typed.isEmpty() ? Places{} : Places{"^", "[ (/]", ""}) {
             const QString pattern = QLatin1String(before) + QRegularExpression::escape(typed);
             const QModelIndexList found = model()->match(model()->index(0, modelColumn()), Qt::DisplayRole,
                                                          pattern, 1, Qt::MatchRegularExpression);
@@ -32,15 +55,12 @@ class SearchedList : public QListView {
                 return;
             }
         }
+        setCurrentIndex(chosen);
     }
 
-  protected:
-    void showEvent(QShowEvent* event) override {
-        typed.clear();
-        QListView::showEvent(event);
-    }
+    using Places = std::vector<const char*>;
 
-  private:
+    QPersistentModelIndex chosen;  ///< When the list opened.
     QString typed;
     QElapsedTimer sinceLastKey;
 };

@@ -1,7 +1,6 @@
 #include "Quillon/Views/Controls/Tile.h"
 
 #include "Quillon/Views/Controls/Card.h"
-#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Labels.h"
 
 #include <QEvent>
@@ -9,22 +8,6 @@
 #include <QVBoxLayout>
 
 namespace quillon {
-
-namespace {
-
-QColor toneColor(Tone tone, const QPalette& palette) {
-    switch (tone) {
-        case Tone::warning:
-            return screenColor(SystemColor::orange);
-        case Tone::error:
-            return screenColor(SystemColor::red);
-        case Tone::plain:
-            break;
-    }
-    return palette.color(QPalette::Text);
-}
-
-}  // namespace
 
 Tile::Tile(const QString& caption, QWidget* parent)
     : QWidget(parent), number(figureLabel(1.6, this)), word(noteLabel(caption, this)) {
@@ -58,8 +41,7 @@ void Tile::paintEvent(QPaintEvent*) {
 
 void Tile::color() {
     QPalette colors = palette();
-    colors.setColor(QPalette::WindowText,
-                    standingOut(toneColor(figureTone, colors), {colors.color(QPalette::Base)}, textContrast));
+    colors.setColor(QPalette::WindowText, toneColor(figureTone, colors, colors.color(QPalette::Base)));
     number->setPalette(colors);
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "Quillon/Views/Controls/Tone.h"
+
 #include <QWidget>
 
 class QLabel;
 
 namespace quillon {
-
-/// How a figure strikes the reader.
-enum class Tone { plain, warning, error };
 
 /// A key figure with the word for it below, on a ground of its own. The figure can be copied.
 class Tile : public QWidget {

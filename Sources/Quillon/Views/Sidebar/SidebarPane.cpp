@@ -6,6 +6,7 @@
 #include "Quillon/Views/Sidebar/CheckSections.h"
 #include "Quillon/Views/Sidebar/ContestSections.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -55,6 +56,11 @@ SidebarPane::SidebarPane(LogStore& logStore, ContestStore& contestStore, Setting
     connect(modePicker, &QComboBox::activated, this,
             [this](int index) { store.setMode(static_cast<AppMode>(modePicker->itemData(index).toInt())); });
     connect(&store, &LogStore::modeChanged, this, &SidebarPane::showMode);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
+        if (now != nullptr && widget()->isAncestorOf(now)) {
+            showWhole(*now);
+        }
+    });
     showMode();
 }
 
@@ -87,6 +93,13 @@ void SidebarPane::showMode() {
         column->insertWidget(1, sections);
         putIntoTabOrder();
     }
+}
+
+/// Qt brings into view no more than the place where the next letter goes.
+void SidebarPane::showWhole(const QWidget& control) {
+    constexpr int marginPx = 6;
+    const QPoint middle = control.mapTo(widget(), control.rect().center());
+    ensureVisible(middle.x(), middle.y(), 0, control.height() / 2 + marginPx);
 }
 
 /// What is made last comes last, behind the other panes, unless it is told its place.

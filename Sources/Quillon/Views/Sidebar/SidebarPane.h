@@ -35,6 +35,7 @@ class SidebarPane : public QScrollArea {
   private:
     void showMode();
     void putIntoTabOrder();
+    void showWhole(const QWidget& control);
     void makeRoom();
 
     LogStore& store;

@@ -22,6 +22,7 @@
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/NoHits.h"
 #include "Quillon/Views/Window/PaneKeys.h"
+#include "Quillon/Views/Window/RedoKey.h"
 #include "Quillon/Views/Window/SearchField.h"
 #include "Quillon/Views/Window/StatusLine.h"
 #include "Quillon/Views/Window/StoreSheets.h"
@@ -95,6 +96,7 @@ ContentView::ContentView(LogStore& store, ContestStore& contestStore, Settings& 
     paneKeys = std::make_unique<PaneKeys>(*this, [this] { return panes(); });
     dropHint = new DropHint(*this);
     new StoreSheets(logStore, *this);
+    new RedoKey(this);
     followStore();
     auto* alert = new ErrorAlert(
         QStringLiteral("Fehler"), [this] { return logStore.errorMessage(); },

@@ -181,6 +181,15 @@ TEST_F(ContestSidebar, FindsAContestByTyping) {
     QTest::keyClick(picker.view(), Qt::Key_Return);
     EXPECT_EQ(contest.contest(), Contest::cqWPXRtty);
     EXPECT_TRUE(offers(std::string(info(Contest::cqWPXRtty)).c_str()));
+    QTest::keyClick(&picker, 'm');
+    QTest::keyClicks(picker.view(), QStringLiteral("zz"));
+    QTest::keyClick(picker.view(), Qt::Key_Return);
+    EXPECT_EQ(contest.contest(), Contest::cqWPXRtty) << "no contest is called so";
+    QTest::keyClick(&picker, 'm');
+    QTest::keyClick(picker.view(), Qt::Key_Backspace);
+    QTest::keyClicks(picker.view(), QStringLiteral("50"));
+    QTest::keyClick(picker.view(), Qt::Key_Return);
+    EXPECT_EQ(contest.contest(), Contest::mhz50);
     EXPECT_FALSE(offers("Regeln"));
 }
 

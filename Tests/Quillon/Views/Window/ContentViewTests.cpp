@@ -285,6 +285,23 @@ TEST_F(Window, ShowsTheTableToWhomItsCommandsSearchOrAdd) {
     EXPECT_TRUE(window->table().isVisible());
 }
 
+TEST_F(Window, BringsBackWhatWasTypedInAFieldAndNotTheLog) {
+    openLog({"CALL=DL1ABC"});
+    show();
+    store.addRecord();
+    store.undo();
+    store.setMode(AppMode::contest);
+    auto& field = testing::namedChild<QLineEdit>(*window, "DXCC-Gebiet");
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("5"));
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), QStringLiteral("287"));
+    QTest::keyClick(&field, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), QStringLiteral("2875"));
+    QTest::keyClick(&field, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(store.document().records().size(), 1U) << "there is nothing to bring back in the field";
+}
+
 TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
     openLog({"CALL=DL1ABC NAME=Anna"});
     show();
