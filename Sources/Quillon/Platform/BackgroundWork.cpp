@@ -11,36 +11,42 @@ BackgroundWork::BackgroundWork(QObject* parent) : QObject(parent) {
 }
 
 BackgroundWork::~BackgroundWork() {
+    cancelRunning();
     if (thread.joinable()) {
-        work->cancel();
         thread.join();
     }
 }
 
-void BackgroundWork::start(Task task) {
-    waiting = std::move(task);
+void BackgroundWork::cancel() {
+    waiting = {};
+    cancelRunning();
+}
+
+void BackgroundWork::begin(Job job) {
+    waiting = std::move(job);
     if (thread.joinable()) {
-        work->cancel();
+        cancelRunning();
     } else {
         runWaiting();
         emit runningChanged();
     }
 }
 
-void BackgroundWork::cancel() {
-    waiting = nullptr;
+void BackgroundWork::cancelRunning() {
     if (thread.joinable()) {
-        work->cancel();
+        running.cancel();
+        isCancelled = true;
     }
 }
 
 void BackgroundWork::runWaiting() {
-    work = std::make_unique<tallyrig::LogWork>();
-    thread = std::thread([this, task = std::exchange(waiting, nullptr), &running = *work] {
+    running = std::exchange(waiting, {});
+    isCancelled = false;
+    thread = std::thread([this, run = running.run] {
         TakeOver takeOver;
         std::exception_ptr failure;
         try {
-            takeOver = task(running);
+            takeOver = run();
         } catch (...) {
             failure = std::current_exception();
         }
@@ -52,9 +58,9 @@ void BackgroundWork::runWaiting() {
 
 void BackgroundWork::finish(const TakeOver& takeOver, const std::exception_ptr& failure) {
     thread.join();
-    const bool isWanted = !work->isCancelled();
-    work.reset();
-    if (waiting) {
+    const bool isWanted = !isCancelled;
+    running = {};
+    if (waiting.run) {
         runWaiting();
     } else {
         ticking.stop();

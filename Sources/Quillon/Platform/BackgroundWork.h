@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Tallyrig/CrossCheck/LogWork.h"
-
 #include <QObject>
 #include <QTimer>
 
@@ -9,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <thread>
+#include <utility>
 
 namespace quillon {
 
@@ -20,23 +19,28 @@ class BackgroundWork : public QObject {
   public:
     /// What brings the result of a task where it belongs. Empty if there is none.
     using TakeOver = std::function<void()>;
-    /// Works on another thread, on nothing but copies of its own, and asks from time to time whether it is
-    /// still wanted. What it returns is called on the main thread.
-    using Task = std::function<TakeOver(tallyrig::LogWork& work)>;
-
     explicit BackgroundWork(QObject* parent = nullptr);
     /// Cancels and waits for the end.
     ~BackgroundWork() override;
 
-    /// Begins `task`. One that runs is cancelled first; its result is dropped, as is a task that waits.
-    void start(Task task);
+    /// Begins `task`, which works on another thread, on nothing but copies of its own. It tells how far it is
+    /// by the `Work` that it is given (`double progress() const`), and asks that whether it is still wanted
+    /// (after `cancel()`). What it returns is called on the main thread.
+    ///
+    /// A task that runs is cancelled first; its result is dropped, as is a task that waits.
+    template <typename Work>
+    void start(std::function<TakeOver(Work& work)> task) {
+        const auto work = std::make_shared<Work>();
+        begin({[work, task = std::move(task)] { return task(*work); }, [work] { work->cancel(); },
+               [work] { return work->progress(); }});
+    }
     /// Nothing happens if nothing runs. What is shown stays.
     void cancel();
 
     /// Whether a task runs or waits for a cancelled one to end.
     bool isRunning() const { return thread.joinable(); }
     /// How far the task is, from 0 to 1.
-    double progress() const { return work ? work->progress() : 0; }
+    double progress() const { return running.progress ? running.progress() : 0; }
 
   signals:
     void runningChanged();
@@ -44,13 +48,22 @@ class BackgroundWork : public QObject {
     void progressed();
 
   private:
+    struct Job {
+        std::function<TakeOver()> run;
+        std::function<void()> cancel;
+        std::function<double()> progress;
+    };
+
+    void begin(Job job);
+    void cancelRunning();
     void runWaiting();
     /// What the task threw goes on to the event loop, as if it had been thrown there.
     void finish(const TakeOver& takeOver, const std::exception_ptr& failure);
 
-    std::unique_ptr<tallyrig::LogWork> work;  ///< Of the running task.
-    std::thread thread;                       ///< Joinable while a task runs.
-    Task waiting;
+    Job running;
+    bool isCancelled = false;  ///< The running one.
+    Job waiting;
+    std::thread thread;  ///< Joinable while a task runs.
     QTimer ticking;
 };
 

@@ -1,5 +1,7 @@
 #include "Quillon/Platform/BackgroundWork.h"
 
+#include "Tallyrig/CrossCheck/LogWork.h"
+
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
@@ -14,7 +16,8 @@ namespace {
 /// Tasks that end when the test lets them, and the results taken over.
 class Background : public testing::Test {
   protected:
-    BackgroundWork::Task task(const std::string& name) {
+    using Task = std::function<BackgroundWork::TakeOver(tallyrig::LogWork&)>;
+    Task task(const std::string& name) {
         return [this, name](tallyrig::LogWork& work) -> BackgroundWork::TakeOver {
             while (!isReleased && !work.isCancelled()) {
                 std::this_thread::yield();
@@ -37,7 +40,7 @@ class Background : public testing::Test {
 };
 
 TEST_F(Background, TakesTheResultOverOnTheMainThread) {
-    background.start(task("a"));
+    background.start<tallyrig::LogWork>(task("a"));
     EXPECT_TRUE(background.isRunning());
     isReleased = true;
     EXPECT_EQ(taken, "");
@@ -46,15 +49,15 @@ TEST_F(Background, TakesTheResultOverOnTheMainThread) {
 }
 
 TEST_F(Background, DropsWhatIsNoLongerWanted) {
-    background.start(task("a"));
-    background.start(task("b"));
-    background.start(task("c"));
+    background.start<tallyrig::LogWork>(task("a"));
+    background.start<tallyrig::LogWork>(task("b"));
+    background.start<tallyrig::LogWork>(task("c"));
     isReleased = true;
     waitUntilIdle();
     EXPECT_EQ(taken, "c") << "a was cancelled, b never began";
     EXPECT_EQ(ended, 2);
     isReleased = false;
-    background.start(task("d"));
+    background.start<tallyrig::LogWork>(task("d"));
     background.cancel();
     waitUntilIdle();
     EXPECT_EQ(taken, "c");
@@ -63,7 +66,7 @@ TEST_F(Background, DropsWhatIsNoLongerWanted) {
 TEST_F(Background, EndsWithItsOwner) {
     {
         BackgroundWork other;
-        other.start(task("a"));
+        other.start<tallyrig::LogWork>(task("a"));
     }
     EXPECT_EQ(ended, 1);
     EXPECT_EQ(taken, "");
