@@ -44,6 +44,9 @@ std::string contactsOf(const ADIFDocument& log) {
 TEST(ExampleLogs, OutliveEachFormatAsFarAsItReaches) {
     std::size_t count = 0;
     for (const auto& example : std::filesystem::directory_iterator(EXAMPLES_FOLDER)) {
+        if (example.is_directory()) {
+            continue;  // logs that are to be compared with each other, and lack a time on purpose
+        }
         SCOPED_TRACE(example.path());
         const ADIFDocument log = LogReader::read(contentOf(example.path())).document;
         EXPECT_FALSE(log.records().empty());
