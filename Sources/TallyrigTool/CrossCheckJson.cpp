@@ -1,6 +1,7 @@
 #include "TallyrigTool/CrossCheckJson.h"
 
 #include "TallyrigTool/JsonText.h"
+#include "TallyrigTool/RulesJson.h"
 #include "TallyrigTool/ScoreJson.h"
 
 #include <nlohmann/json.hpp>
@@ -34,14 +35,6 @@ void addCounts(Json& json, const CrossCheckCounts& counts) {
     json["total"] = counts.total();
     json["checkable"] = counts.checkable();
     json["accuracy"] = orNull(counts.accuracy());
-}
-
-Json jsonOf(const ContestStation& station) {
-    return {{"dxcc", station.dxcc},
-            {"continent", station.continent},
-            {"cqZone", station.cqZone},
-            {"ituZone", station.ituZone},
-            {"gridSquare", station.gridSquare}};
 }
 
 /// There may be millions.

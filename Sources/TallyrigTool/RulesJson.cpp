@@ -14,7 +14,6 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 // What a member is in JSON. Overloads for members of members are declared first.
-Json jsonOf(const ContestStation& station);
 Json jsonOf(const RelationCondition& condition);
 Json jsonOf(const RelationRule& rule);
 Json jsonOf(const ContestMultiplier& multiplier);
@@ -93,14 +92,6 @@ Json caseOf(const Variant& variant) {
         variant);
 }
 
-Json jsonOf(const ContestStation& station) {
-    return {{"dxcc", station.dxcc},
-            {"continent", station.continent},
-            {"cqZone", station.cqZone},
-            {"ituZone", station.ituZone},
-            {"gridSquare", station.gridSquare}};
-}
-
 Json jsonOf(const RelationCondition& condition) {
     return caseOf(condition);
 }
@@ -142,6 +133,14 @@ Json jsonOf(const ContestRules& rules) {
             {"multipliers", jsonOf(rules.multipliers)},
             {"bandGroups", jsonOf(rules.bandGroups)},
             {"scorePerBand", rules.scorePerBand}};
+}
+
+Json jsonOf(const ContestStation& station) {
+    return {{"dxcc", station.dxcc},
+            {"continent", station.continent},
+            {"cqZone", station.cqZone},
+            {"ituZone", station.ituZone},
+            {"gridSquare", station.gridSquare}};
 }
 
 }  // namespace tallyrig::tool
