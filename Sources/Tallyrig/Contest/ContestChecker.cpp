@@ -3,8 +3,6 @@
 #include "Tallyrig/Contest/ContestRun.h"
 #include "Tallyrig/Geography/DXCCInfo.h"
 
-#include <algorithm>
-#include <functional>
 #include <utility>
 
 namespace tallyrig {
@@ -25,11 +23,19 @@ ContestScore ContestChecker::score(const ADIFDocument& log, const CrossCheckRepo
                                    const CrossCheckPenalties& penalties) const {
     const auto findings = adjudicatedBy.findings(logID);
     // Most findings change nothing and need to be known only where a later one may be on the same record.
-    const bool areAllDifferent = std::ranges::adjacent_find(findings, std::ranges::greater_equal(),
-                                                            &CrossCheckFinding::id) == findings.end();
     std::unordered_map<UUID, CrossCheckStatus> statuses;
+    UUID last;
+    bool areAllDifferent = true;
     for (const CrossCheckFinding& finding : findings) {
-        if (!areAllDifferent || isError(finding.status)) {
+        areAllDifferent = areAllDifferent && last < finding.id;
+        last = finding.id;
+        if (isError(finding.status)) {
+            statuses.emplace(finding.id, finding.status);
+        }
+    }
+    if (!areAllDifferent) {
+        statuses.clear();
+        for (const CrossCheckFinding& finding : findings) {
             statuses.emplace(finding.id, finding.status);
         }
     }
