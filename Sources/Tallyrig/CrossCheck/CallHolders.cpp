@@ -31,7 +31,9 @@ void CallHolders::turnTo(Number base) {
     for (std::size_t place = 0; place < numbers.size(); ++place) {
         // They lie scattered over all logs, so the memory is told of a few in advance.
         if (place % blockSize == 0) {
-            for (const Number ahead : numbers.subspan(place, std::min(blockSize, numbers.size() - place))) {
+            const std::size_t from = place == 0 ? 0 : std::min(place + blockSize, numbers.size());
+            const std::size_t to = std::min(place + 2 * blockSize, numbers.size());
+            for (const Number ahead : numbers.subspan(from, to - from)) {
                 __builtin_prefetch(&index.qso(ahead));
             }
         }

@@ -31,12 +31,20 @@ LogCrossCheck::LogCrossCheck(const CrossCheckIndex& crossCheckIndex, std::span<c
 CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position) {
     turnTo(position);
     CrossCheckReport::Findings findings(logs[position].document.records().size());
+    const auto block = [&](std::size_t begin) {
+        return index.qsosFrom(log->begin + static_cast<Number>(begin),
+                              std::min(blockSize, findings.size() - begin));
+    };
     std::array<Outlook, blockSize> outlooks;
+    std::array<Outlook, blockSize> nextOutlooks;
+    lookAhead(block(0), nextOutlooks);
     for (std::size_t begin = 0; begin < findings.size(); begin += blockSize) {
-        const std::size_t size = std::min(blockSize, findings.size() - begin);
-        const auto qsos = index.qsosFrom(log->begin + static_cast<Number>(begin), size);
-        lookAhead(qsos, outlooks);
-        for (std::size_t place = 0; place < size; ++place) {
+        std::swap(outlooks, nextOutlooks);
+        if (begin + blockSize < findings.size()) {
+            lookAhead(block(begin + blockSize), nextOutlooks);
+        }
+        const auto qsos = block(begin);
+        for (std::size_t place = 0; place < qsos.size(); ++place) {
             const QSO& qso = qsos[place];
             log->fields.read(*qso.record, own);
             CrossCheckFinding& finding = findings[begin + place];

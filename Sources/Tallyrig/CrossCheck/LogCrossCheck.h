@@ -32,9 +32,9 @@ class LogCrossCheck {
     using Number = CrossCheckIndex::Number;
     using QSO = CrossCheckIndex::QSO;
 
-    /// So many QSOs are looked up before the first of them is judged, so that the memory can fetch at one go
+    /// So many QSOs are looked up while those before them are judged, so that the memory can fetch at one go
     /// what will be read: the records lie scattered over all logs.
-    static constexpr std::size_t blockSize = 32;
+    static constexpr std::size_t blockSize = 16;
     /// What is looked up of a QSO before.
     struct Outlook {
         Number station = CrossCheckIndex::none;  ///< Whose logs have to hold it; none if there is no log.
