@@ -11,10 +11,12 @@ Scripts/build.sh release Quillon
 # The status bar shows where the log lies, which is to be the same on every machine.
 folder=/var/tmp/Logbuch
 mkdir -p Docs/pictures "$folder"
-cp Examples/befunde.adi Examples/maerzcontest.adi "$folder"
+cp -r Examples/befunde.adi Examples/maerzcontest.adi Examples/crosscheck "$folder"
 trap 'rm -r "$folder"' EXIT
 
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/befunde.adi" \
     --grab Docs/pictures/quillon.png --grab-size 1280x800 --grab-check --grab-select 15
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/maerzcontest.adi" \
     --grab Docs/pictures/contest.png --grab-size 1280x720 --grab-contest darcUKW
+QT_QPA_PLATFORM=offscreen build/release/bin/Quillon --crosscheck "$folder/crosscheck" \
+    --grab Docs/pictures/crosscheck.png --grab-size 1280x800 --grab-contest darcUKW

@@ -31,9 +31,10 @@ void setUp(QApplication& application, QTranslator& translator) {
 }  // namespace
 
 QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
-    : settings(userSettings()), logStore(*settings, panels, measurer) {
+    : settings(userSettings()), logStore(*settings, panels, measurer), crossCheckStore(panels, fileManager) {
     setUp(application, translator);
-    contentView = std::make_unique<ContentView>(logStore, contestStore, *settings, arguments);
+    contentView =
+        std::make_unique<ContentView>(logStore, contestStore, crossCheckStore, *settings, arguments);
     QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
         if (logStore.fileURL()) {
             panels.setFolder(folderOf(*logStore.fileURL()));

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Quillon/Platform/Desktop/DesktopFileManager.h"
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/LogStore.h"
 
 #include <QStringList>
@@ -37,6 +39,8 @@ class QuillonApp {
     FontMeasurer measurer;
     LogStore logStore;
     ContestStore contestStore;
+    DesktopFileManager fileManager;
+    CrossCheckStore crossCheckStore;
     std::unique_ptr<ContentView> contentView;
 };
 

@@ -84,6 +84,9 @@ void WindowPicture::takeOf(QuillonApp& app) const {
             app.store().setMode(AppMode::contest);
         }
         QTimer::singleShot(0, &app.window(), [picture, &app] {
+            while (app.window().isWorking()) {
+                QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            }
             // A pane within a pane is laid out a turn later than what it stands in.
             constexpr int layoutTurns = 4;
             for (int turn = 0; turn < layoutTurns; ++turn) {

@@ -27,12 +27,14 @@ class BackgroundWork : public QObject {
     /// by the `Work` that it is given (`double progress() const`), and asks that whether it is still wanted
     /// (after `cancel()`). What it returns is called on the main thread.
     ///
-    /// A task that runs is cancelled first; its result is dropped, as is a task that waits.
+    /// A task that runs is cancelled first; its result is dropped, as is a task that waits. Returns the
+    /// `Work` for those who want to know more of it.
     template <typename Work>
-    void start(std::function<TakeOver(Work& work)> task) {
+    std::shared_ptr<const Work> start(std::function<TakeOver(Work& work)> task) {
         const auto work = std::make_shared<Work>();
         begin({[work, task = std::move(task)] { return task(*work); }, [work] { work->cancel(); },
                [work] { return work->progress(); }});
+        return work;
     }
     /// Nothing happens if nothing runs. What is shown stays.
     void cancel();

@@ -2,17 +2,15 @@
 
 #include "Quillon/Catalogue/Contests.h"
 #include "Quillon/Stores/ContestStore.h"
-#include "Quillon/Views/Controls/Labels.h"
-#include "Quillon/Views/Controls/SearchedComboBox.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Sidebar/ContestPicker.h"
 #include "Quillon/Views/Sidebar/GenericContestForm.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include <cstddef>
 #include <utility>
 
 namespace quillon {
@@ -22,7 +20,6 @@ ContestSections::ContestSections(ContestStore& contestStore, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(18);
-    column->addWidget(panes());
     column->addWidget(contest());
     column->addWidget(ownStation());
     auto* form = new GenericContestForm(store, this);
@@ -32,29 +29,12 @@ ContestSections::ContestSections(ContestStore& contestStore, QWidget* parent)
     showForm();
 }
 
-SidebarSection* ContestSections::panes() {
-    auto* section = new SidebarSection(QStringLiteral("Contest-Ansicht"), this);
-    auto* picker = new CalmComboBox(section);
-    picker->addItem(QStringLiteral("Eigenes Log"));
-    section->addUnderHeading(picker);
-    return section;
-}
-
 SidebarSection* ContestSections::contest() {
     auto* section = new SidebarSection(QStringLiteral("Contest"), this);
-    auto* picker = new SearchedComboBox(section);
-    for (const Contest offered : contests) {
-        picker->addItem(toQString(label(offered)));
-    }
-    section->addUnderHeading(picker);
+    section->addUnderHeading(new ContestPicker(store, section));
     QLabel* note = section->addNote(QString());
-    const auto show = [this, picker, note] {
-        picker->setCurrentIndex(static_cast<int>(store.contest()));
-        note->setText(toQString(info(store.contest())));
-    };
-    connect(picker, &QComboBox::currentIndexChanged, this,
-            [this](int index) { store.setContest(contests[static_cast<std::size_t>(index)]); });
-    connect(&store, &ContestStore::contestChanged, this, show);
+    const auto show = [this, note] { note->setText(toQString(info(store.contest()))); };
+    connect(&store, &ContestStore::contestChanged, note, show);
     show();
     return section;
 }

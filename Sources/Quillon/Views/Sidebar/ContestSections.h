@@ -22,7 +22,6 @@ class ContestSections : public QWidget {
     explicit ContestSections(ContestStore& contestStore, QWidget* parent = nullptr);
 
   private:
-    SidebarSection* panes();
     SidebarSection* contest();
     SidebarSection* ownStation();
     void addText(SidebarSection& section, const QString& label, std::string OwnStation::*member,

@@ -1,10 +1,12 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 
+#include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Sidebar/CheckSections.h"
 #include "Quillon/Views/Sidebar/ContestSections.h"
+#include "Quillon/Views/Sidebar/CrossCheckSections.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -29,9 +31,9 @@ std::vector<OfferedMode> offeredModes() {
 
 }  // namespace
 
-SidebarPane::SidebarPane(LogStore& logStore, ContestStore& contestStore, Settings& userSettings,
-                         QWidget* parent)
-    : QScrollArea(parent), store(logStore), contest(contestStore), settings(userSettings) {
+SidebarPane::SidebarPane(LogStore& logStore, ContestStore& contestStore, CrossCheckStore& crossStore,
+                         Settings& userSettings, QWidget* parent)
+    : QScrollArea(parent), store(logStore), contest(contestStore), cross(crossStore), settings(userSettings) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
@@ -87,12 +89,42 @@ void SidebarPane::showMode() {
         connect(check, &CheckSections::fieldAdded, this, &SidebarPane::fieldAdded);
         sections = check;
     } else if (store.mode() == AppMode::contest) {
-        sections = new ContestSections(contest, widget());
+        sections = contestSections();
     }
     if (sections != nullptr) {
         column->insertWidget(1, sections);
         putIntoTabOrder();
     }
+}
+
+QWidget* SidebarPane::contestSections() {
+    using Pane = ContestStore::Pane;
+    auto* both = new QWidget(widget());
+    auto* bothColumn = new QVBoxLayout(both);
+    bothColumn->setContentsMargins(0, 0, 0, 0);
+    bothColumn->setSpacing(18);
+    auto* choice = new SidebarSection(QStringLiteral("Contest-Ansicht"), both);
+    auto* picker = new CalmComboBox(choice);
+    picker->addItems({QStringLiteral("Eigenes Log"), QStringLiteral("Cross-Check")});
+    choice->addUnderHeading(picker);
+    auto* score = new ContestSections(contest, both);
+    auto* crossCheck = new CrossCheckSections(cross, contest, both);
+    for (QWidget* part :
+         {static_cast<QWidget*>(choice), static_cast<QWidget*>(score), static_cast<QWidget*>(crossCheck)}) {
+        bothColumn->addWidget(part);
+    }
+    const auto showPane = [this, picker, score, crossCheck] {
+        picker->setCurrentIndex(contest.pane() == Pane::score ? 0 : 1);
+        score->setVisible(contest.pane() == Pane::score);
+        crossCheck->setVisible(contest.pane() == Pane::crossCheck);
+    };
+    connect(picker, &QComboBox::currentIndexChanged, both,
+            [this](int index) { contest.setPane(index == 0 ? Pane::score : Pane::crossCheck); });
+    connect(&contest, &ContestStore::paneChanged, both, showPane);
+    connect(crossCheck, &CrossCheckSections::addLogsRequested, this, &SidebarPane::addLogsRequested);
+    connect(crossCheck, &CrossCheckSections::exportRequested, this, &SidebarPane::reportsRequested);
+    showPane();
+    return both;
 }
 
 /// Qt brings into view no more than the place where the next letter goes.

@@ -10,6 +10,7 @@ class QVBoxLayout;
 namespace quillon {
 
 class ContestStore;
+class CrossCheckStore;
 class LogStore;
 class Settings;
 
@@ -20,12 +21,16 @@ class SidebarPane : public QScrollArea {
 
   public:
     /// All of them outlive the pane.
-    SidebarPane(LogStore& logStore, ContestStore& contestStore, Settings& userSettings,
-                QWidget* parent = nullptr);
+    SidebarPane(LogStore& logStore, ContestStore& contestStore, CrossCheckStore& crossStore,
+                Settings& userSettings, QWidget* parent = nullptr);
 
   signals:
     /// The user wants the log checked.
     void checkRequested();
+    /// The user wants to choose logs to be checked against each other.
+    void addLogsRequested();
+    /// The user wants the reports of that check.
+    void reportsRequested();
     /// The user added a field to the selected QSO; it is the last of the record.
     void fieldAdded();
 
@@ -34,12 +39,15 @@ class SidebarPane : public QScrollArea {
 
   private:
     void showMode();
+    /// The sections for the contest, with the choice of its pane above them.
+    QWidget* contestSections();
     void putIntoTabOrder();
     void showWhole(const QWidget& control);
     void makeRoom();
 
     LogStore& store;
     ContestStore& contest;
+    CrossCheckStore& cross;
     Settings& settings;
     QComboBox* modePicker = nullptr;
     QVBoxLayout* column = nullptr;

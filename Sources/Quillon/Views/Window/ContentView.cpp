@@ -2,6 +2,8 @@
 
 #include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
 #include "Quillon/Views/Contest/ContestView.h"
@@ -11,6 +13,8 @@
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
+#include "Quillon/Views/CrossCheck/CrossCheckView.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 #include "Quillon/Views/Table/QSOTableView.h"
@@ -54,30 +58,21 @@ constexpr QSize minimumWindowSize(1000, 480);
 constexpr QSize firstWindowSize(1280, 800);
 constexpr int resultsHeightPx = 200;
 constexpr std::size_t mostContestIssues = 100;
+constexpr std::size_t mostCrossCheckFindings = 300;
 
 constexpr PaneWidths sidebarWidths = {.least = 220, .ideal = 250, .most = 320};
 constexpr PaneWidths tableWidths = {.least = 420, .ideal = 600, .takesRoom = true};
 constexpr PaneWidths dashboardWidths = {.least = 600, .ideal = 900, .takesRoom = true};
 constexpr PaneWidths detailWidths = {.least = 260, .ideal = 300, .most = 400};
 
-/// The local files among what is dragged.
-QStringList draggedFiles(const QMimeData& data) {
-    QStringList files;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
-            files.append(url.toLocalFile());
-        }
-    }
-    return files;
-}
-
 }  // namespace
 
-ContentView::ContentView(LogStore& store, ContestStore& contestStore, Settings& userSettings,
-                         QStringList arguments, QWidget* parent)
+ContentView::ContentView(LogStore& store, ContestStore& contestStore, CrossCheckStore& crossStore,
+                         Settings& userSettings, QStringList arguments, QWidget* parent)
     : QMainWindow(parent),
       logStore(store),
       contest(contestStore),
+      cross(crossStore),
       settings(userSettings),
       startArguments(std::move(arguments)),
       questions(std::make_unique<TableDialogs>()) {
@@ -102,9 +97,18 @@ ContentView::ContentView(LogStore& store, ContestStore& contestStore, Settings& 
         QStringLiteral("Fehler"), [this] { return logStore.errorMessage(); },
         [this] { logStore.setErrorMessage(std::nullopt); }, *this);
     connect(&logStore, &LogStore::errorMessageChanged, alert, &ErrorAlert::refresh);
+    auto* exportAlert = new ErrorAlert(
+        QStringLiteral("Export fehlgeschlagen"),
+        [this] { return cross.hasExportFailed() ? cross.exportMessage() : std::nullopt; },
+        [this] { cross.clearExportMessage(); }, *this);
+    connect(&cross, &CrossCheckStore::exportMessageChanged, exportAlert, &ErrorAlert::refresh);
 }
 
 ContentView::~ContentView() = default;
+
+bool ContentView::isWorking() const {
+    return crossRunner->isBusy();
+}
 
 bool ContentView::isTableShown() const {
     return logStore.mode() == AppMode::check || logStore.mode() == AppMode::outdoor;
@@ -174,7 +178,7 @@ void ContentView::buildPanes() {
     setCentralWidget(area);
 
     auto* splitter = new PaneSplitter(area);
-    sidebar = new SidebarPane(logStore, contest, settings, splitter);
+    sidebar = new SidebarPane(logStore, contest, cross, settings, splitter);
     tableArea = new QWidget(splitter);
     tableColumn = new QVBoxLayout(tableArea);
     tableColumn->setContentsMargins(0, 0, 0, 0);
@@ -187,10 +191,17 @@ void ContentView::buildPanes() {
     splitter->addPane(detail, detailWidths);
     contestView = new ContestView(logStore, contest, mostContestIssues, splitter);
     splitter->addPane(contestView, dashboardWidths);
-    connect(contestView, &ContestView::qsoWanted, this, [this](tallyrig::UUID record) {
+    crossRunner = new CrossCheckRunner(logStore, contest, cross, this);
+    crossView = new CrossCheckView(logStore, cross, *crossRunner, mostCrossCheckFindings, splitter);
+    splitter->addPane(crossView, dashboardWidths);
+    const auto showQSO = [this](tallyrig::UUID record) {
         tableView->showCell(record);
         focusTable();
-    });
+    };
+    connect(contestView, &ContestView::qsoWanted, this, showQSO);
+    connect(crossView, &CrossCheckView::qsoWanted, this, showQSO);
+    connect(sidebar, &SidebarPane::addLogsRequested, crossRunner, &CrossCheckRunner::addLogsWithPanel);
+    connect(sidebar, &SidebarPane::reportsRequested, crossRunner, &CrossCheckRunner::exportReportsWithPanel);
 
     areaLayout->addWidget(splitter, 1);
     areaLayout->addWidget(horizontalLine(area));
@@ -243,6 +254,8 @@ void ContentView::followStore() {
     connect(&logStore, &LogStore::windowTitleChanged, this, &ContentView::showTitle);
     connect(&logStore, &LogStore::showCheckResultsChanged, this, &ContentView::showResults);
     connect(&logStore, &LogStore::modeChanged, this, &ContentView::showMode);
+    connect(&contest, &ContestStore::paneChanged, this, &ContentView::showMode);
+    connect(&cross, &CrossCheckStore::exportMessageChanged, this, &ContentView::showReportMessage);
     connect(&logStore, &LogStore::exported, this, [this](const QString& path) {
         statusLine->showNotice(qsoCount(logStore.document().records().size()) + QStringLiteral(" nach „") +
                                QFileInfo(path).fileName() + QStringLiteral("“ exportiert"));
@@ -259,6 +272,12 @@ void ContentView::comeUp() {
     matchIconsToPalette();
     showBusyCursorUntilIdle();
     logStore.openFromCommandLineIfNeeded(startArguments);
+    if (const auto folder = CrossCheckStore::commandLineFolder(startArguments);
+        folder && cross.entries().empty()) {
+        logStore.setMode(AppMode::contest);
+        contest.setPane(ContestStore::Pane::crossCheck);
+        crossRunner->addLogs({*folder});
+    }
     focusWorkArea();
     emit cameUp();
 }
@@ -276,7 +295,8 @@ void ContentView::showMode() {
     const QWidget* const keyboard = focusWidget();
     tableArea->setVisible(isTableShown());
     detail->setVisible(isTableShown());
-    contestView->setVisible(logStore.mode() == AppMode::contest);
+    contestView->setVisible(logStore.mode() == AppMode::contest && !isCrossCheckShown());
+    crossView->setVisible(isCrossCheckShown());
     if (keyboard != nullptr && !keyboard->isVisibleTo(this)) {
         focusWorkArea();
     }
@@ -290,12 +310,23 @@ void ContentView::focusWorkArea() {
     if (isTableShown()) {
         focusTable();
     } else {
-        contestView->setFocus();
+        (isCrossCheckShown() ? static_cast<QWidget*>(crossView) : contestView)->setFocus();
+    }
+}
+
+bool ContentView::isCrossCheckShown() const {
+    return logStore.mode() == AppMode::contest && contest.pane() == ContestStore::Pane::crossCheck;
+}
+
+/// A failure has an alert of its own.
+void ContentView::showReportMessage() {
+    if (cross.exportMessage() && !cross.hasExportFailed()) {
+        statusLine->showNotice(*cross.exportMessage());
     }
 }
 
 QWidgetList ContentView::panes() const {
-    return {searchField, sidebar, tableView, results, detail, contestView};
+    return {searchField, sidebar, tableView, results, detail, contestView, crossView};
 }
 
 void ContentView::showResults() {
@@ -338,8 +369,19 @@ void ContentView::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
 }
 
+QStringList ContentView::takenFrom(const QMimeData& dragged) const {
+    QStringList paths;
+    for (const QUrl& url : dragged.urls()) {
+        const QFileInfo info(url.toLocalFile());
+        if (url.isLocalFile() && (info.isFile() || (info.isDir() && isCrossCheckShown()))) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    return paths;
+}
+
 void ContentView::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedFiles(*event->mimeData()).isEmpty()) {
+    if (!takenFrom(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
         dropHint->show();
     }
@@ -351,11 +393,15 @@ void ContentView::dragLeaveEvent(QDragLeaveEvent*) {
 
 void ContentView::dropEvent(QDropEvent* event) {
     dropHint->hide();
-    const QStringList files = draggedFiles(*event->mimeData());
+    const QStringList files = takenFrom(*event->mimeData());
     if (files.isEmpty()) {
         return;
     }
     event->acceptProposedAction();
+    if (isCrossCheckShown()) {
+        crossRunner->addLogs(files);
+        return;
+    }
     openFile(files.first());
     if (files.size() > 1 && !logStore.errorMessage()) {
         statusLine->showNotice(QStringLiteral("Nur „%1“ wurde geöffnet, die erste von %2 Dateien")

@@ -6,6 +6,7 @@
 #include <memory>
 
 class QBoxLayout;
+class QMimeData;
 class QShortcut;
 
 namespace quillon {
@@ -13,6 +14,9 @@ namespace quillon {
 class CommandActions;
 class ContestStore;
 class ContestView;
+class CrossCheckRunner;
+class CrossCheckStore;
+class CrossCheckView;
 class DropHint;
 class LogStore;
 class PaneKeys;
@@ -32,13 +36,15 @@ class ContentView : public QMainWindow {
   public:
     /// Stores and settings outlive the window. A log that `arguments`, those of the program without its name,
     /// ask for is opened when the window is on screen.
-    ContentView(LogStore& logStore, ContestStore& contestStore, Settings& userSettings, QStringList arguments,
-                QWidget* parent = nullptr);
+    ContentView(LogStore& logStore, ContestStore& contestStore, CrossCheckStore& crossStore,
+                Settings& userSettings, QStringList arguments, QWidget* parent = nullptr);
     ~ContentView() override;
 
     LogStore& store() const { return logStore; }
     QSOTableView& table() const { return *tableView; }
     const CommandActions& actions() const { return *commandActions; }
+    /// Whether work is done beside the main thread, of which the window will show the result.
+    bool isWorking() const;
     /// Whether the work area shows the table.
     bool isTableShown() const;
     /// Lets the work area show the table, if it does not.
@@ -70,6 +76,10 @@ class ContentView : public QMainWindow {
     void buildToolBar();
     void followStore();
     void comeUp();
+    bool isCrossCheckShown() const;
+    void showReportMessage();
+    /// What the window takes of what is dragged over it: files, and for a cross-check folders too.
+    QStringList takenFrom(const QMimeData& dragged) const;
     void openFile(const QString& path);
     void showMode();
     void focusTable();
@@ -82,6 +92,7 @@ class ContentView : public QMainWindow {
 
     LogStore& logStore;
     ContestStore& contest;
+    CrossCheckStore& cross;
     Settings& settings;
     QStringList startArguments;
     std::unique_ptr<TableQuestions> questions;
@@ -95,6 +106,8 @@ class ContentView : public QMainWindow {
     QWidget* tableArea = nullptr;
     QBoxLayout* tableColumn = nullptr;
     ContestView* contestView = nullptr;
+    CrossCheckRunner* crossRunner = nullptr;
+    CrossCheckView* crossView = nullptr;
     QShortcut* endSearchKey = nullptr;
     SidebarPane* sidebar = nullptr;
     QWidget* results = nullptr;  ///< Null until there are results to show.

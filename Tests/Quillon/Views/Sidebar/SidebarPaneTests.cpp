@@ -1,6 +1,7 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 
 #include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
@@ -12,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListView>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -24,7 +26,7 @@ namespace {
 class Sidebar : public testing::LogStoreTest {
   protected:
     void show() {
-        pane = std::make_unique<SidebarPane>(store, contest, settings);
+        pane = std::make_unique<SidebarPane>(store, contest, cross, settings);
         QObject::connect(pane.get(), &SidebarPane::checkRequested, &store, &LogStore::runCheck);
     }
     template <typename Control>
@@ -44,6 +46,8 @@ class Sidebar : public testing::LogStoreTest {
     }
 
     ContestStore contest;
+    testing::NotingFileManager fileManager;
+    CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<SidebarPane> pane;
 };
 
@@ -239,6 +243,45 @@ TEST_F(ContestSidebar, HasTheFormOfAContestOfOnesOwn) {
     EXPECT_FALSE(offers("Feld"));
     EXPECT_FALSE(contest.genericContest().multiplierEnabled);
     EXPECT_TRUE(contest.genericContest().multiplierPerBand);
+}
+
+TEST_F(ContestSidebar, SetsUpTheCheckOfManyLogs) {
+    const QString a = folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=X STATION_CALLSIGN=DL1A"}));
+    const QString b = folder.write(QStringLiteral("b.adi"), testing::adi({"CALL=X"}));
+    showFor(Contest::helvetia);
+    choose("Contest-Ansicht", 1);
+    EXPECT_EQ(contest.pane(), ContestStore::Pane::crossCheck);
+    EXPECT_FALSE(offers("Mein Standort"));
+    cross.add({a, b, folder.write(QStringLiteral("c.txt"), "no log")}, std::nullopt);
+    EXPECT_TRUE(offers("2 Log(s) geladen, 1 übersprungen (keine QSOs): c.txt"));
+
+    auto& list = named<QListView>("Logs");
+    EXPECT_EQ(list.model()->index(0, 0).data().toString(), QStringLiteral("(Inhaber unbekannt) – b.adi"));
+    EXPECT_FALSE(offers("Inhaber"));
+    list.setCurrentIndex(list.model()->index(0, 0));
+    typeInto("Inhaber", "dl2b");
+    EXPECT_EQ(cross.entries()[0].effectiveOwner(), "DL2B");
+    button("Log entfernen").click();
+    EXPECT_EQ(cross.entries().size(), 1U);
+    EXPECT_EQ(named<QLineEdit>("Inhaber").placeholderText(), QStringLiteral("DL1A"));
+    button("Alle entfernen").click();
+    EXPECT_TRUE(cross.entries().empty());
+
+    typeInto("Inhaber aktuelles Log", "dl3c");
+    named<QSpinBox>("Zeittoleranz").setValue(31);
+    choose("Strafe je NIL", 2);
+    choose("Strafe je Busted", 3);
+    typeInto("Auswerter", "HB9A");
+    EXPECT_EQ(cross.currentOwnerOverride() + " " + cross.evaluator(), "dl3c HB9A");
+    EXPECT_EQ(cross.toleranceMinutes(), 30);
+    EXPECT_EQ(cross.penalties(), (tallyrig::CrossCheckPenalties{true, 2, 3}));
+    for (QCheckBox* box : pane->findChildren<QCheckBox*>()) {
+        if (testing::isShown(*box, *pane) && box->text() != QStringLiteral("Punkte berechnen")) {
+            box->click();
+        }
+    }
+    EXPECT_FALSE(cross.includeCurrentLog() || cross.compareMode() || cross.checkExchange());
+    EXPECT_TRUE(cross.checkRST() && !cross.removeBustedExchange());
 }
 
 }  // namespace

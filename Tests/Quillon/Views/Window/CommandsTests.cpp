@@ -1,6 +1,7 @@
 #include "Quillon/Views/Window/Commands.h"
 
 #include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/QSOTableView.h"
@@ -40,7 +41,9 @@ class Commands : public LogStoreTest {
     QAction& action(CommandID command) const { return *window.actions().action(command); }
 
     ContestStore contest;
-    ContentView window{store, contest, settings, {}};
+    testing::NotingFileManager fileManager;
+    CrossCheckStore cross{panels, fileManager};
+    ContentView window{store, contest, cross, settings, {}};
 };
 
 TEST_F(Commands, ShareNoShortcutAndNoLetterOfAMenu) {

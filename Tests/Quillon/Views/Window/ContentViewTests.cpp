@@ -1,6 +1,7 @@
 #include "Quillon/Views/Window/ContentView.h"
 
 #include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
@@ -41,7 +42,7 @@ namespace {
 class Window : public testing::LogStoreTest {
   protected:
     void show(const QStringList& arguments = {}) {
-        window = std::make_unique<ContentView>(store, contest, settings, arguments);
+        window = std::make_unique<ContentView>(store, contest, cross, settings, arguments);
         QSignalSpy up(window.get(), &ContentView::cameUp);
         window->show();
         window->activateWindow();
@@ -66,6 +67,8 @@ class Window : public testing::LogStoreTest {
     }
 
     ContestStore contest;
+    testing::NotingFileManager fileManager;
+    CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<ContentView> window;
 };
 

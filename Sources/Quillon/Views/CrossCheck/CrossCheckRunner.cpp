@@ -1,0 +1,209 @@
+#include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
+
+#include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckEvaluation.h"
+#include "Quillon/Stores/CrossCheckFiles.h"
+#include "Quillon/Stores/CrossCheckStore.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/CrossCheck/LogWork.h"
+
+#include <QDate>
+
+#include <memory>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr int typingPauseMs = 300;
+
+using TakeOver = BackgroundWork::TakeOver;
+
+}  // namespace
+
+CrossCheckRunner::CrossCheckRunner(const LogStore& logStore, const ContestStore& contestStore,
+                                   CrossCheckStore& crossStore, QObject* parent)
+    : QObject(parent), log(logStore), contest(contestStore), store(crossStore) {
+    pause.setSingleShot(true);
+    connect(&pause, &QTimer::timeout, this, &CrossCheckRunner::check);
+    connect(&background, &BackgroundWork::progressed, this, &CrossCheckRunner::changed);
+    connect(&background, &BackgroundWork::runningChanged, this, &CrossCheckRunner::ended);
+
+    for (const auto signal : {&LogStore::documentChanged, &LogStore::fileURLChanged}) {
+        connect(&log, signal, this, &CrossCheckRunner::checkSoon);
+    }
+    connect(&contest, &ContestStore::contestChanged, this, &CrossCheckRunner::checkSoon);
+    for (const auto signal : {&ContestStore::ownStationChanged, &ContestStore::genericContestChanged}) {
+        connect(&contest, signal, this, &CrossCheckRunner::checkWhenTyped);
+    }
+    for (const auto signal :
+         {&CrossCheckStore::includeCurrentLogChanged, &CrossCheckStore::compareModeChanged,
+          &CrossCheckStore::checkExchangeChanged, &CrossCheckStore::checkRSTChanged,
+          &CrossCheckStore::scoringEnabledChanged, &CrossCheckStore::removeBustedExchangeChanged,
+          &CrossCheckStore::nilPenaltyFactorChanged, &CrossCheckStore::bustedPenaltyFactorChanged}) {
+        connect(&store, signal, this, &CrossCheckRunner::checkSoon);
+    }
+    for (const auto signal : {&CrossCheckStore::entriesChanged, &CrossCheckStore::currentOwnerOverrideChanged,
+                              &CrossCheckStore::toleranceMinutesChanged}) {
+        connect(&store, signal, this, &CrossCheckRunner::checkWhenTyped);
+    }
+    connect(&store, &CrossCheckStore::evaluationChanged, this, &CrossCheckRunner::changed);
+}
+
+void CrossCheckRunner::setWatched(bool isWatched) {
+    watched = isWatched;
+    if (watched && isStale) {
+        pause.start(0);
+    }
+}
+
+void CrossCheckRunner::checkSoon() {
+    isStale = true;
+    if (watched) {
+        pause.start(0);
+    }
+}
+
+void CrossCheckRunner::checkWhenTyped() {
+    isStale = true;
+    if (watched) {
+        pause.start(typingPauseMs);
+    }
+}
+
+void CrossCheckRunner::check() {
+    if (phase == Phase::reading || phase == Phase::writing) {
+        // Done when that has ended.
+        return;
+    }
+    CrossCheckInput input = store.input(log.document(), log.fileURL(),
+                                        {contest.contest(), contest.genericContest(), contest.station()});
+    isStale = false;
+    givenUp = false;
+    if (store.evaluation() && store.evaluation()->input.isSameAs(input)) {
+        if (phase == Phase::checking) {
+            background.cancel();
+        }
+        emit changed();
+        return;
+    }
+    phase = Phase::checking;
+    background.start<EvaluationWork>([this, input = std::move(input)](EvaluationWork& work) -> TakeOver {
+        auto result = evaluated(input, work);
+        if (!result) {
+            return {};
+        }
+        return [this, shared = std::make_shared<const CrossCheckEvaluation>(std::move(*result))] {
+            store.take(shared);
+        };
+    });
+    emit changed();
+}
+
+void CrossCheckRunner::addLogs(const QStringList& paths) {
+    pathsToAdd += paths;
+    if (phase != Phase::reading && phase != Phase::writing) {
+        readNext();
+    }
+}
+
+void CrossCheckRunner::readNext() {
+    phase = Phase::reading;
+    isStale = true;
+    reading.reset();
+    reading = background.start<tallyrig::LogWork>(
+        [this, wanted = store.logsToAdd(std::exchange(pathsToAdd, {}), log.fileURL())](
+            tallyrig::LogWork& work) -> TakeOver {
+            auto added = readLogs(wanted, work);
+            if (!added) {
+                return {};
+            }
+            return [this, shared = std::make_shared<AddedLogs>(std::move(*added))] {
+                store.take(std::move(*shared));
+                checkSoon();
+            };
+        });
+    emit changed();
+}
+
+void CrossCheckRunner::addLogsWithPanel() {
+    if (const auto wanted = store.logsToAddWithPanel(log.fileURL())) {
+        QStringList paths;
+        for (const std::string& path : wanted->paths) {
+            paths.append(QString::fromStdString(path));
+        }
+        addLogs(paths);
+    }
+}
+
+bool CrossCheckRunner::canExport() const {
+    return !isRunning() && !isStale && !givenUp && store.evaluation() &&
+           store.evaluation()->input.logs.size() >= 2;
+}
+
+void CrossCheckRunner::exportReportsWithPanel() {
+    if (!canExport()) {
+        return;
+    }
+    const auto wanted = store.reportsToWriteWithPanel(store.evaluation(), QDate::currentDate());
+    if (!wanted) {
+        return;
+    }
+    phase = Phase::writing;
+    background.start<tallyrig::LogWork>([this, wanted = *wanted](tallyrig::LogWork& work) -> TakeOver {
+        auto written = writeReports(wanted, work);
+        if (!written) {
+            return {};
+        }
+        return [this, result = std::move(*written)] { store.take(result); };
+    });
+    emit changed();
+}
+
+void CrossCheckRunner::cancel() {
+    pathsToAdd.clear();
+    givenUp = phase == Phase::checking;
+    background.cancel();
+}
+
+void CrossCheckRunner::resume() {
+    checkSoon();
+}
+
+QString CrossCheckRunner::progressText() const {
+    const QString share = QString::number(static_cast<int>(progress() * 100)) + QStringLiteral(" %");
+    switch (phase) {
+        case Phase::reading:
+            return !reading ? QStringLiteral("Logs werden gesucht …")
+                            : numberText(reading->stepsDone()) + QStringLiteral(" von ") +
+                                  numberText(reading->steps()) + QStringLiteral(" Logs gelesen …");
+        case Phase::checking:
+            return QStringLiteral("Cross-Check … ") + share;
+        case Phase::writing:
+            return QStringLiteral("Berichte werden geschrieben … ") + share;
+        case Phase::idle:
+            break;
+    }
+    return {};
+}
+
+/// Also told when something begins. What was read or written is taken over right behind this.
+void CrossCheckRunner::ended() {
+    if (!background.isRunning()) {
+        phase = Phase::idle;
+        if (!pathsToAdd.isEmpty()) {
+            QTimer::singleShot(0, this, [this] {
+                if (phase == Phase::idle && !pathsToAdd.isEmpty()) {
+                    readNext();
+                }
+            });
+        } else if (watched && isStale) {
+            pause.start(0);
+        }
+    }
+    emit changed();
+}
+
+}  // namespace quillon

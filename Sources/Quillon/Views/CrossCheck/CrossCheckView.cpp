@@ -1,0 +1,199 @@
+#include "Quillon/Views/CrossCheck/CrossCheckView.h"
+
+#include "Quillon/Catalogue/ScoreWords.h"
+#include "Quillon/Stores/CrossCheckStore.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Controls/EmptyState.h"
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/Tile.h"
+#include "Quillon/Views/Controls/TileLayout.h"
+#include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
+#include "Quillon/Views/CrossCheck/CrossCheckWords.h"
+#include "Quillon/Views/CrossCheck/FindingsCard.h"
+#include "Quillon/Views/CrossCheck/RankingModel.h"
+#include "Quillon/Views/CrossCheck/RankingTable.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int marginPx = 16;
+constexpr std::size_t fewestLogs = 2;
+
+QString number(std::size_t count) {
+    return toQString(ScoreWords::number(static_cast<std::int64_t>(count)));
+}
+
+}  // namespace
+
+CrossCheckView::CrossCheckView(LogStore& logStore, CrossCheckStore& crossStore, CrossCheckRunner& crossRunner,
+                               std::size_t mostFindings, QWidget* parent)
+    : QWidget(parent), log(logStore), store(crossStore), runner(crossRunner), findingLimit(mostFindings) {
+    setAccessibleName(QStringLiteral("Cross-Check"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(progressStrip());
+    body = new QStackedLayout;
+    body->addWidget(emptyPage());
+    body->addWidget(resultPage());
+    column->addLayout(body, 1);
+    setFocusProxy(table);
+
+    connect(&runner, &CrossCheckRunner::changed, this, &CrossCheckView::showProgress);
+    connect(&store, &CrossCheckStore::evaluationChanged, this, &CrossCheckView::showResult);
+    connect(&store, &CrossCheckStore::selectedLogIDChanged, this, &CrossCheckView::showFindings);
+    connect(&store, &CrossCheckStore::findingFilterChanged, this, &CrossCheckView::showFindings);
+    showResult();
+    showProgress();
+}
+
+QWidget* CrossCheckView::progressStrip() {
+    strip = new QWidget(this);
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(marginPx, 8, marginPx, 0);
+    stripText = new QLabel(strip);
+    stripBar = new QProgressBar(strip);
+    stripBar->setTextVisible(false);
+    constexpr int steps = 1000;
+    stripBar->setRange(0, steps);
+    stripButton = new QPushButton(strip);
+    row->addWidget(stripText);
+    row->addWidget(stripBar, 1);
+    row->addWidget(stripButton);
+    connect(stripButton, &QPushButton::clicked, this,
+            [this] { runner.isRunning() ? runner.cancel() : runner.resume(); });
+    return strip;
+}
+
+QWidget* CrossCheckView::emptyPage() {
+    auto* page = new QWidget(this);
+    auto* message = new EmptyState(
+        QStringLiteral("view-list-details"), QStringLiteral("Mindestens zwei Logs nötig"),
+        QStringLiteral("Füge in der Seitenleiste die Logs der Gegenstationen hinzu – einzeln oder als ganzen "
+                       "Ordner (ADI, ADX, Cabrillo, EDI)."),
+        page);
+    auto* button =
+        new QPushButton(icon(QStringLiteral("list-add")), QStringLiteral("Logs hinzufügen …"), page);
+    connect(button, &QPushButton::clicked, &runner, &CrossCheckRunner::addLogsWithPanel);
+    auto* column = new QVBoxLayout(page);
+    column->setSpacing(0);
+    column->addWidget(message, 2);
+    column->addWidget(button, 0, Qt::AlignHCenter);
+    column->addStretch(3);
+    return page;
+}
+
+QWidget* CrossCheckView::resultPage() {
+    auto* page = new QWidget(this);
+    auto* figures = new QWidget(page);
+    auto* figuresLayout = new TileLayout(figures);
+    const char* const captions[] = {"Logs", "QSOs gesamt", "Fehler (NIL/Busted)", "Quote gesamt"};
+    for (std::size_t index = 0; index < tiles.size(); ++index) {
+        tiles[index] = new Tile(QString::fromUtf8(captions[index]), figures);
+        figuresLayout->addWidget(tiles[index]);
+    }
+
+    auto* splitter = new QSplitter(Qt::Vertical, page);
+    splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(12);
+    rankingCard = new Card(QStringLiteral("Rangliste"), splitter);
+    ranking = new RankingModel(this);
+    table = new RankingTable(*ranking, rankingCard);
+    table->setAccessibleName(QStringLiteral("Rangliste"));
+    rankingCard->content().addWidget(table, 1);
+    findings = new FindingsCard(store, findingLimit, splitter);
+    splitter->addWidget(rankingCard);
+    splitter->addWidget(findings);
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 1);
+
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(marginPx, marginPx, marginPx, marginPx);
+    column->setSpacing(12);
+    column->addWidget(figures);
+    column->addWidget(splitter, 1);
+    connect(table, &RankingTable::logChosen, this,
+            [this](tallyrig::UUID chosen) { store.setSelectedLogID(chosen); });
+    connect(findings, &FindingsCard::qsoWanted, this, &CrossCheckView::goTo);
+    return page;
+}
+
+void CrossCheckView::hideEvent(QHideEvent* event) {
+    runner.setWatched(false);
+    QWidget::hideEvent(event);
+}
+
+void CrossCheckView::showEvent(QShowEvent* event) {
+    runner.setWatched(true);
+    QWidget::showEvent(event);
+}
+
+void CrossCheckView::showResult() {
+    const auto& evaluation = store.evaluation();
+    const bool isEmpty = !evaluation || evaluation->input.logs.size() < fewestLogs;
+    body->setCurrentIndex(isEmpty ? 0 : 1);
+    if (isEmpty) {
+        return;
+    }
+    tallyrig::CrossCheckCounts counts;
+    for (const tallyrig::CrossCheckSummary& summary : evaluation->report.summaries()) {
+        counts += summary.counts;
+    }
+    tiles[0]->setFigure(number(evaluation->input.logs.size()));
+    tiles[1]->setFigure(number(counts.total()));
+    tiles[2]->setFigure(number(counts.errors()), counts.errors() > 0 ? Tone::error : Tone::plain);
+    tiles[3]->setFigure(CrossCheckWords::quota(counts.accuracy()), CrossCheckWords::tone(counts.accuracy()));
+    const QString heading =
+        evaluation->scores.empty() ? QStringLiteral("Übersicht je Log") : QStringLiteral("Rangliste");
+    rankingCard->setHeading(heading);
+    table->setAccessibleName(heading);
+    ranking->setResult(evaluation->report, evaluation->scores);
+    showFindings();
+}
+
+/// Of the log that is chosen, or else of the first row.
+void CrossCheckView::showFindings() {
+    const auto& evaluation = store.evaluation();
+    if (!evaluation || ranking->rowCount() == 0) {
+        return;
+    }
+    std::optional<tallyrig::UUID> shown = store.selectedLogID();
+    if (!shown || ranking->rowOf(*shown) < 0) {
+        shown = ranking->logAt(0);
+    }
+    table->showLog(shown);
+    findings->show(*evaluation, shown);
+}
+
+void CrossCheckView::showProgress() {
+    const bool isRunning = runner.isRunning();
+    strip->setVisible(isRunning || runner.isGivenUp());
+    stripText->setText(isRunning ? runner.progressText()
+                                 : QStringLiteral("Abgebrochen: Das Ergebnis ist noch das vorige."));
+    stripBar->setVisible(isRunning);
+    stripBar->setValue(static_cast<int>(runner.progress() * stripBar->maximum()));
+    stripButton->setText(isRunning ? QStringLiteral("Abbrechen") : QStringLiteral("Neu auswerten"));
+}
+
+void CrossCheckView::goTo(std::size_t recordIndex) {
+    const auto& records = log.document().records();
+    if (recordIndex >= records.size()) {
+        return;
+    }
+    const tallyrig::UUID record = records[recordIndex].id();
+    log.selectRecord(recordIndex);
+    log.setMode(AppMode::check);
+    emit qsoWanted(record);
+}
+
+}  // namespace quillon

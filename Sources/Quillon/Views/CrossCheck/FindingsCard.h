@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Quillon/Views/Controls/Card.h"
+#include "Tallyrig/Log/UUID.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+
+namespace quillon {
+
+class CrossCheckStore;
+struct CrossCheckEvaluation;
+class FindingList;
+
+/// The findings of one log of a cross-check, as far as the filter shows them.
+class FindingsCard : public Card {
+    Q_OBJECT
+
+  public:
+    /// The store outlives the card. At most `mostFindings` are listed.
+    FindingsCard(CrossCheckStore& crossStore, std::size_t mostFindings, QWidget* parent = nullptr);
+
+    /// Shows what `evaluation`, which outlives the call, says of the log, or nothing of none.
+    void show(const CrossCheckEvaluation& evaluation, std::optional<tallyrig::UUID> log);
+
+  signals:
+    /// The user wants to see the QSO at this position of the open log.
+    void qsoWanted(std::size_t recordIndex);
+
+  private:
+    CrossCheckStore& store;
+    std::size_t findingLimit;
+    QComboBox* filterPicker;
+    QLabel* countLine;
+    QLabel* nothing;
+    FindingList* list;
+    QLabel* further;
+    std::vector<std::size_t> listed;  ///< The position in its log of the QSO in each row.
+};
+
+}  // namespace quillon

@@ -1,0 +1,151 @@
+#include "Quillon/Views/Sidebar/CrossCheckSections.h"
+
+#include "Quillon/Stores/CrossCheckStore.h"
+#include "Quillon/Views/Controls/CalmComboBox.h"
+#include "Quillon/Views/Controls/CalmSpinBox.h"
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/SidebarSection.h"
+#include "Quillon/Views/Controls/WrappingCheckBox.h"
+#include "Quillon/Views/Sidebar/ContestPicker.h"
+#include "Quillon/Views/Sidebar/CrossCheckLogs.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int longestTolerance = 30;
+constexpr int mostPenalty = 3;
+
+}  // namespace
+
+CrossCheckSections::CrossCheckSections(CrossCheckStore& crossStore, ContestStore& contestStore,
+                                       QWidget* parent)
+    : QWidget(parent), store(crossStore), contest(contestStore) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(18);
+    column->addWidget(logs());
+    column->addWidget(comparing());
+    column->addWidget(scoring());
+    column->addWidget(reports());
+}
+
+SidebarSection* CrossCheckSections::logs() {
+    auto* section = new SidebarSection(QStringLiteral("Logs"), this);
+    addSwitch(*section, QStringLiteral("Aktuelles Log einbeziehen"), store.includeCurrentLog(),
+              &CrossCheckStore::setIncludeCurrentLog);
+    QLineEdit& owner = section->addText(QStringLiteral("Inhaber aktuelles Log"), store.currentOwnerOverride(),
+                                        QStringLiteral("Das Rufzeichen der Station, deren Log geöffnet ist"));
+    owner.setPlaceholderText(QStringLiteral("Rufzeichen"));
+    connect(&owner, &QLineEdit::textEdited, this,
+            [this](const QString& text) { store.setCurrentOwnerOverride(text.toStdString()); });
+    section->addNote(QStringLiteral("Leer = aus STATION_CALLSIGN/OPERATOR ermittelt"));
+
+    auto* add =
+        new QPushButton(icon(QStringLiteral("list-add")), QStringLiteral("Logs hinzufügen …"), section);
+    connect(add, &QPushButton::clicked, this, &CrossCheckSections::addLogsRequested);
+    section->add(add);
+    QLabel* message = section->addNote(QString());
+    const auto showMessage = [this, message] {
+        message->setText(store.loadMessage().value_or(QString()));
+        message->setVisible(store.loadMessage().has_value());
+    };
+    connect(&store, &CrossCheckStore::loadMessageChanged, message, showMessage);
+    showMessage();
+    section->add(new CrossCheckLogs(store, section));
+    return section;
+}
+
+SidebarSection* CrossCheckSections::comparing() {
+    auto* section = new SidebarSection(QStringLiteral("Abgleich"), this);
+    auto* tolerance = new CalmSpinBox(section);
+    tolerance->setRange(1, longestTolerance);
+    tolerance->setSuffix(QStringLiteral(" min"));
+    tolerance->setValue(store.toleranceMinutes());
+    connect(tolerance, &QSpinBox::valueChanged, &store, &CrossCheckStore::setToleranceMinutes);
+    section->addLabelled(QStringLiteral("Zeittoleranz"), tolerance);
+    addSwitch(*section, QStringLiteral("Modus vergleichen"), store.compareMode(),
+              &CrossCheckStore::setCompareMode);
+    section->addNote(QStringLiteral("CW, Phonie und Digital müssen übereinstimmen"));
+    addSwitch(*section, QStringLiteral("Austausch prüfen"), store.checkExchange(),
+              &CrossCheckStore::setCheckExchange);
+    section->addNote(QStringLiteral(
+        "Empfangener Austausch (SRX/SRX_STRING, Locator) gegen den gesendeten der Gegenstation"));
+    addSwitch(*section, QStringLiteral("RST einbeziehen"), store.checkRST(), &CrossCheckStore::setCheckRST);
+    section->addNote(QStringLiteral(
+        "/P- und Präfix-Zusätze zählen als Treffer (mit Hinweis). Busted Call: Abstand ≤ 2 Zeichen."));
+    return section;
+}
+
+SidebarSection* CrossCheckSections::scoring() {
+    auto* section = new SidebarSection(QStringLiteral("Wertung"), this);
+    auto* counts = new WrappingCheckBox(QStringLiteral("Punkte berechnen"), section);
+    counts->setChecked(store.scoringEnabled());
+    section->add(counts);
+    auto* details = new SidebarSection(QString(), section);
+    section->add(details);
+    details->addLabelled(QStringLiteral("Contest"), new ContestPicker(contest, details));
+    addSwitch(*details, QStringLiteral("Busted Exchange streichen"), store.removeBustedExchange(),
+              &CrossCheckStore::setRemoveBustedExchange);
+    addPenalty(*details, QStringLiteral("Strafe je NIL"), store.nilPenaltyFactor(),
+               &CrossCheckStore::setNilPenaltyFactor);
+    addPenalty(*details, QStringLiteral("Strafe je Busted"), store.bustedPenaltyFactor(),
+               &CrossCheckStore::setBustedPenaltyFactor);
+    details->addNote(QStringLiteral(
+        "NIL und Busted Call werden immer gestrichen. Standort je Log: DXCC/Kontinent aus dem Rufzeichen, "
+        "Locator aus MY_GRIDSQUARE, Zonen aus «Mein Standort» (Eigenes Log)."));
+    connect(counts, &QCheckBox::toggled, this, [this, details](bool on) {
+        store.setScoringEnabled(on);
+        details->setVisible(on);
+    });
+    details->setVisible(store.scoringEnabled());
+    return section;
+}
+
+SidebarSection* CrossCheckSections::reports() {
+    auto* section = new SidebarSection(QStringLiteral("Berichte"), this);
+    QLineEdit& evaluator = section->addText(QStringLiteral("Auswerter"), store.evaluator(), QString());
+    evaluator.setPlaceholderText(QStringLiteral("z. B. HB9XYZ"));
+    connect(&evaluator, &QLineEdit::textEdited, this,
+            [this](const QString& text) { store.setEvaluator(text.toStdString()); });
+    section->addNote(QStringLiteral("Rufzeichen für den Gruss am Ende jedes Berichts (leer = ohne)"));
+    auto* write = new QPushButton(icon(QStringLiteral("document-export")),
+                                  QStringLiteral("Berichte exportieren …"), section);
+    connect(write, &QPushButton::clicked, this, &CrossCheckSections::exportRequested);
+    section->add(write);
+    section->addNote(QStringLiteral(
+        "Je Station ein Prüfbericht (.txt + .md) und die Rangliste (CSV) in einem neuen Unterordner."));
+    const auto offer = [this, write] {
+        write->setEnabled(store.evaluation() && store.evaluation()->input.logs.size() >= 2);
+    };
+    connect(&store, &CrossCheckStore::evaluationChanged, write, offer);
+    offer();
+    return section;
+}
+
+void CrossCheckSections::addSwitch(SidebarSection& section, const QString& text, bool isOn,
+                                   void (CrossCheckStore::*set)(bool)) {
+    auto* box = new WrappingCheckBox(text, &section);
+    box->setChecked(isOn);
+    connect(box, &QCheckBox::toggled, &store, set);
+    section.add(box);
+}
+
+void CrossCheckSections::addPenalty(SidebarSection& section, const QString& label, int factor,
+                                    void (CrossCheckStore::*set)(int)) {
+    auto* picker = new CalmComboBox(&section);
+    picker->addItem(QStringLiteral("keine"));
+    for (int times = 1; times <= mostPenalty; ++times) {
+        picker->addItem(QString::number(times) + QStringLiteral("× QSO-Punkte"));
+    }
+    picker->setCurrentIndex(factor);
+    connect(picker, &QComboBox::currentIndexChanged, &store, set);
+    section.addLabelled(label, picker);
+}
+
+}  // namespace quillon

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QPushButton;
+
+namespace quillon {
+
+class ContestStore;
+class CrossCheckStore;
+class SidebarSection;
+
+/// The sections of the sidebar for checking the logs of many stations against each other: which logs, how
+/// they are compared and scored, and the reports. Each change goes to the stores at once.
+class CrossCheckSections : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Both outlive the sections.
+    CrossCheckSections(CrossCheckStore& crossStore, ContestStore& contestStore, QWidget* parent = nullptr);
+
+  signals:
+    /// The user wants to choose logs to be added.
+    void addLogsRequested();
+    void exportRequested();
+
+  private:
+    SidebarSection* logs();
+    SidebarSection* comparing();
+    SidebarSection* scoring();
+    SidebarSection* reports();
+    void addSwitch(SidebarSection& section, const QString& text, bool isOn,
+                   void (CrossCheckStore::*set)(bool));
+    void addPenalty(SidebarSection& section, const QString& label, int factor,
+                    void (CrossCheckStore::*set)(int));
+
+    CrossCheckStore& store;
+    ContestStore& contest;
+};
+
+}  // namespace quillon

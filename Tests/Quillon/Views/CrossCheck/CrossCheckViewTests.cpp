@@ -1,0 +1,141 @@
+#include "Quillon/Views/CrossCheck/CrossCheckView.h"
+
+#include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
+#include "Quillon/Support/LogStoreFixture.h"
+#include "Quillon/Support/WidgetSearch.h"
+#include "Quillon/Views/Controls/FindingList.h"
+#include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
+#include "Quillon/Views/CrossCheck/RankingTable.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace quillon {
+namespace {
+
+/// Three stations: A and B have logs that hold each other, A copied B's second number wrong; C has a log of
+/// its own.
+class CrossChecking : public testing::LogStoreTest {
+  protected:
+    void SetUp() override {
+        contest.setContest(Contest::generic);
+        openLog({qso("DL1A", "DL2B", "1200", "001", "001"), qso("DL1A", "DL2B", "1300", "002", "009"),
+                 qso("DL1A", "DL9X", "1400", "003", "001")});
+        b = write("b.adi",
+                  {qso("DL2B", "DL1A", "1200", "001", "001"), qso("DL2B", "DL1A", "1300", "002", "002")});
+        c = write("c.adi", {qso("DL3C", "DL9X", "1500", "001", "002")});
+        view = std::make_unique<CrossCheckView>(store, cross, runner, 2);
+        view->resize(1000, 700);
+        view->show();
+    }
+    /// On another band at 13:00.
+    static std::string qso(const std::string& own, const std::string& call, const std::string& time,
+                           const std::string& sent, const std::string& received) {
+        return "STATION_CALLSIGN=" + own + " CALL=" + call + " BAND=" + (time == "1300" ? "70CM" : "2M") +
+               " MODE=CW QSO_DATE=20240302 TIME_ON=" + time + " STX=" + sent + " SRX=" + received;
+    }
+    QString write(const char* name, const std::vector<std::string>& records) {
+        return folder.write(QString::fromUtf8(name), testing::adi(records));
+    }
+    /// Until nothing runs and nothing is due.
+    void settle() {
+        QSignalSpy changed(&runner, &CrossCheckRunner::changed);
+        while (!cross.evaluation() || runner.isRunning() ||
+               !cross.evaluation()->input.isSameAs(
+                   cross.input(store.document(), store.fileURL(),
+                               {contest.contest(), contest.genericContest(), contest.station()}))) {
+            ASSERT_TRUE(changed.wait());
+        }
+    }
+    void add(const QStringList& paths) {
+        runner.addLogs(paths);
+        QSignalSpy added(&cross, &CrossCheckStore::entriesChanged);
+        ASSERT_TRUE(added.wait());
+        settle();
+    }
+    std::string texts() const { return testing::shownTexts(*view); }
+    QAbstractItemView& table() const { return *view->findChild<RankingTable*>(); }
+    std::string ranked(int row) const {
+        std::string cells;
+        for (int column = 0; column < table().model()->columnCount(); ++column) {
+            cells += (column == 0 ? "" : "|") +
+                     table().model()->index(row, column).data().toString().toStdString();
+        }
+        return cells;
+    }
+    std::string finding(int row) const {
+        return view->findChild<FindingList*>()->model()->index(row, 0).data().toString().toStdString();
+    }
+
+    testing::NotingFileManager fileManager;
+    ContestStore contest;
+    CrossCheckStore cross{panels, fileManager};
+    CrossCheckRunner runner{store, contest, cross};
+    std::unique_ptr<CrossCheckView> view;
+    QString b;
+    QString c;
+};
+
+TEST_F(CrossChecking, WantsTwoLogs) {
+    settle();
+    EXPECT_EQ(texts().substr(0, texts().find('\n')), "Mindestens zwei Logs nötig");
+    EXPECT_NE(testing::shownButton(*view, QStringLiteral("Logs hinzufügen …")), nullptr);
+}
+
+TEST_F(CrossChecking, RanksTheLogsAndListsTheFindingsOfTheFirst) {
+    add({b, c});
+    EXPECT_EQ(texts().substr(0, 62), "3\nLogs\n6\nQSOs gesamt\n1\nFehler (NIL/Busted)\n75,0 %\nQuote gesamt");
+    EXPECT_EQ(ranked(0), "1.|DL1A|3|50,0 %|3|2|1|0|0|1|0|0|1");
+    EXPECT_EQ(ranked(1), "2.|DL2B|2|100,0 %|2|2|2|0|0|0|0|0|0");
+    EXPECT_NE(texts().find("Befunde log.adi"), std::string::npos);
+    EXPECT_EQ(finding(0),
+              "#2\t13:00\tDL2B\t70CM\tBusted Exchange\tNummer: empfangen 009, gesendet 002\tb.adi #2");
+    EXPECT_EQ(finding(1), "#3\t14:00\tDL9X\t2M\tnicht prüfbar\tin 1 weiteren Log(s)");
+
+    cross.setFindingFilter(FindingFilter::all());
+    EXPECT_NE(texts().find("3 von 3"), std::string::npos);
+    EXPECT_NE(texts().find("1 weitere"), std::string::npos) << texts();
+    EXPECT_EQ(view->findChild<QComboBox*>()->itemText(2), QStringLiteral("bestätigt (1)"));
+}
+
+TEST_F(CrossChecking, FollowsOptionsAndKeepsTheChosenLog) {
+    add({b, c});
+    table().setCurrentIndex(table().model()->index(1, 1));
+    EXPECT_EQ(cross.selectedLogID(), cross.entries()[0].id);
+    cross.setScoringEnabled(false);
+    settle();
+    EXPECT_EQ(ranked(1), "DL2B|2|100,0 %|2|0|0|0|0|0|0") << "in the order of the logs";
+    EXPECT_NE(texts().find("Übersicht je Log"), std::string::npos);
+    EXPECT_EQ(table().currentIndex().row(), 1);
+    EXPECT_NE(texts().find("Keine Auffälligkeiten – alle prüfbaren QSOs bestätigt."), std::string::npos);
+
+    cross.remove(cross.entries()[0].id);
+    settle();
+    EXPECT_EQ(table().currentIndex().row(), 0);
+}
+
+TEST_F(CrossChecking, LeadsToAQSOOfTheOpenLogAlone) {
+    add({b});
+    const QSignalSpy wanted(view.get(), &CrossCheckView::qsoWanted);
+    auto& list = *view->findChild<FindingList*>();
+    const auto press = [&list] {
+        list.setCurrentIndex(list.model()->index(0, 0));
+        QTest::keyClick(&list, Qt::Key_Return);
+    };
+    press();
+    EXPECT_EQ(wanted.size(), 1);
+    EXPECT_EQ(store.selection(), LogStore::Selection{id(1)});
+    cross.setSelectedLogID(cross.entries()[0].id);
+    cross.setFindingFilter(FindingFilter::all());
+    press();
+    EXPECT_EQ(wanted.size(), 1) << "the log of another is not open";
+}
+
+}  // namespace
+}  // namespace quillon
