@@ -10,8 +10,8 @@
 #include "Quillon/Views/Controls/Tile.h"
 #include "Quillon/Views/Controls/TileLayout.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
-#include "Quillon/Views/CrossCheck/CrossCheckWords.h"
 #include "Quillon/Views/CrossCheck/FindingsCard.h"
+#include "Quillon/Views/CrossCheck/Quota.h"
 #include "Quillon/Views/CrossCheck/RankingModel.h"
 #include "Quillon/Views/CrossCheck/RankingTable.h"
 
@@ -152,7 +152,8 @@ void CrossCheckView::showResult() {
     tiles[0]->setFigure(number(evaluation->input.logs.size()));
     tiles[1]->setFigure(number(counts.total()));
     tiles[2]->setFigure(number(counts.errors()), counts.errors() > 0 ? Tone::error : Tone::plain);
-    tiles[3]->setFigure(CrossCheckWords::quota(counts.accuracy()), CrossCheckWords::tone(counts.accuracy()));
+    const Quota quota{counts.accuracy()};
+    tiles[3]->setFigure(quota.text(), quota.tone());
     const QString heading =
         evaluation->scores.empty() ? QStringLiteral("Übersicht je Log") : QStringLiteral("Rangliste");
     rankingCard->setHeading(heading);

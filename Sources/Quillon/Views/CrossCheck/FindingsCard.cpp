@@ -1,12 +1,12 @@
 #include "Quillon/Views/CrossCheck/FindingsCard.h"
 
+#include "Quillon/Catalogue/CrossCheckWords.h"
 #include "Quillon/Catalogue/ScoreWords.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/FindingList.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
-#include "Quillon/Views/CrossCheck/CrossCheckWords.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <QHBoxLayout>
@@ -65,7 +65,7 @@ FindingRow rowOf(const CrossCheckFinding& finding, const CrossCheckLog& log,
                    .time = {},
                    .call = shown(finding.call),
                    .band = {},
-                   .badge = {CrossCheckWords::label(finding.status), CrossCheckWords::color(finding.status)},
+                   .badge = {toQString(label(finding.status)), badgeColor(finding.status)},
                    .text = notes.join(QLatin1Char('\n')),
                    .counterpart = counterpartText(finding, logs),
                    .leads = log.id == CrossCheckStore::currentLogID()};
@@ -148,7 +148,7 @@ void FindingsCard::show(const CrossCheckEvaluation& evaluation, std::optional<ta
         const std::size_t count = counts[static_cast<std::size_t>(status)];
         if (count > 0 || store.findingFilter().status() == status) {
             filterPicker->addItem(
-                CrossCheckWords::label(status) + QStringLiteral(" (") + number(count) + QLatin1Char(')'),
+                toQString(label(status)) + QStringLiteral(" (") + number(count) + QLatin1Char(')'),
                 static_cast<int>(status));
         }
     }

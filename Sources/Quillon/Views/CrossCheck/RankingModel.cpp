@@ -3,7 +3,7 @@
 #include "Quillon/Catalogue/ScoreWords.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
-#include "Quillon/Views/CrossCheck/CrossCheckWords.h"
+#include "Quillon/Views/CrossCheck/Quota.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <algorithm>
@@ -223,7 +223,7 @@ QString RankingModel::text(const Row& row, int place, Column column) const {
         case Column::qsos:
             return number(static_cast<std::int64_t>(counts.total()));
         case Column::quota:
-            return CrossCheckWords::quota(counts.accuracy());
+            return Quota{counts.accuracy()}.text();
         case Column::claimed:
             return number(row.claimed);
         case Column::checked:
@@ -240,7 +240,7 @@ QString RankingModel::text(const Row& row, int place, Column column) const {
 
 Tone RankingModel::tone(const Row& row, Column column) {
     if (column == Column::quota) {
-        return CrossCheckWords::tone(row.summary.counts.accuracy());
+        return Quota{row.summary.counts.accuracy()}.tone();
     }
     return column == Column::owner && row.summary.owner.empty() ? Tone::error : Tone::plain;
 }
