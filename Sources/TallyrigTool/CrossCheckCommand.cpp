@@ -151,8 +151,7 @@ std::vector<CrossCheckLog> readLogs(const Options& options) {
             logs.emplace_back(UUID::fresh(), quillon::fileName(file), std::move(document), owner);
         }
     };
-    if (const auto end = std::ranges::remove(files, "-"); !end.empty()) {
-        files.erase(end.begin(), end.end());
+    if (std::erase(files, "-") > 0) {
         ADIFDocument document = readLog("-").document;
         const std::string owner = CrossCheckLog::detectOwner(document).value_or(std::string());
         add("-", std::move(document), owner);

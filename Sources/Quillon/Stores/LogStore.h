@@ -220,6 +220,9 @@ class LogStore : public QObject {
     void selectRow(tallyrig::UUID id, ClickModifiers modifiers);
     /// Selects the record at `index` of the document, if there is one.
     void selectRecord(std::size_t index);
+    /// Selects the record at `index` of the document for a pane that tells something of it, and lets the log
+    /// be checked, where its table is seen. Gives the record; absent, and nothing happens, if there is none.
+    std::optional<tallyrig::UUID> showRecord(std::size_t index);
     /// Selects every displayed record.
     void selectAllDisplayed();
     /// The single selected record; null with none or several. Good until the log is edited or replaced.

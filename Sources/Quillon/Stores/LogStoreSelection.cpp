@@ -36,6 +36,17 @@ void LogStore::selectRecord(std::size_t index) {
     }
 }
 
+std::optional<UUID> LogStore::showRecord(std::size_t index) {
+    const auto& records = state.document.records();
+    if (index >= records.size()) {
+        return std::nullopt;
+    }
+    const Operation operation(*this);
+    selectRecord(index);
+    setMode(AppMode::check);
+    return records[index].id();
+}
+
 void LogStore::selectAllDisplayed() {
     const Operation operation(*this);
     const RowsOnScreen shown = rowsOnScreen();

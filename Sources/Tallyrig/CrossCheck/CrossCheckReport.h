@@ -6,12 +6,61 @@
 
 #include <cstddef>
 #include <memory>
-#include <ranges>
 #include <span>
 #include <unordered_map>
 #include <vector>
 
 namespace tallyrig {
+
+/// The findings of several logs as one range, log after log. Refers to the lists that it was made of.
+class AllFindings {
+  public:
+    using Lists = std::vector<std::vector<CrossCheckFinding>>;
+
+    class Iterator {
+      public:
+        using value_type = CrossCheckFinding;
+        using difference_type = std::ptrdiff_t;
+
+        Iterator() = default;
+        Iterator(const Lists& findingLists, std::size_t firstList) : lists(&findingLists), list(firstList) {
+            passEmptyLists();
+        }
+        const CrossCheckFinding& operator*() const { return (*lists)[list][place]; }
+        Iterator& operator++() {
+            ++place;
+            passEmptyLists();
+            return *this;
+        }
+        Iterator operator++(int) {
+            Iterator before = *this;
+            ++*this;
+            return before;
+        }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+
+      private:
+        void passEmptyLists() {
+            while (list < lists->size() && place == (*lists)[list].size()) {
+                ++list;
+                place = 0;
+            }
+        }
+
+        const Lists* lists = nullptr;
+        std::size_t list = 0;
+        std::size_t place = 0;
+    };
+
+    explicit AllFindings(const Lists& findingLists) : lists(findingLists) {}
+
+    Iterator begin() const { return {lists, 0}; }
+    Iterator end() const { return {lists, lists.size()}; }
+    bool empty() const { return begin() == end(); }
+
+  private:
+    const Lists& lists;
+};
 
 /// The result of a cross-check. A value that copies in constant time and is never changed.
 class CrossCheckReport {
@@ -27,7 +76,7 @@ class CrossCheckReport {
     /// In the order of the logs.
     const std::vector<CrossCheckSummary>& summaries() const { return contents->summaries; }
     /// All findings, log after log.
-    auto findings() const { return std::views::join(std::span(contents->findings)); }
+    AllFindings findings() const { return AllFindings(contents->findings); }
     /// Those of one log, by its id; empty if it took no part. Good as long as this report or a copy lives.
     std::span<const CrossCheckFinding> findings(UUID logID) const;
 

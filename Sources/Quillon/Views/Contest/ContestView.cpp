@@ -277,15 +277,10 @@ void ContestView::showIssues(const ContestScore& score) {
 }
 
 void ContestView::goTo(std::size_t recordIndex) {
-    const auto& records = log.document().records();
-    if (recordIndex >= records.size()) {
-        // The log has become shorter, and the new score is on its way.
-        return;
+    // What the row was made of may have gone meanwhile.
+    if (const auto record = log.showRecord(recordIndex)) {
+        emit qsoWanted(*record);
     }
-    const tallyrig::UUID record = records[recordIndex].id();
-    log.selectRecord(recordIndex);
-    log.setMode(AppMode::check);
-    emit qsoWanted(record);
 }
 
 }  // namespace quillon

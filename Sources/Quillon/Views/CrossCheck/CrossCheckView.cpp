@@ -187,14 +187,10 @@ void CrossCheckView::showProgress() {
 }
 
 void CrossCheckView::goTo(std::size_t recordIndex) {
-    const auto& records = log.document().records();
-    if (recordIndex >= records.size()) {
-        return;
+    // What the row was made of may have gone meanwhile.
+    if (const auto record = log.showRecord(recordIndex)) {
+        emit qsoWanted(*record);
     }
-    const tallyrig::UUID record = records[recordIndex].id();
-    log.selectRecord(recordIndex);
-    log.setMode(AppMode::check);
-    emit qsoWanted(record);
 }
 
 }  // namespace quillon
