@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Table/QSOTableView.h"
+#include "Quillon/Views/Window/AboutBox.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <algorithm>
@@ -248,7 +249,7 @@ std::vector<Command> makeCommands() {
          .menu = CommandMenu::help,
          .title = QStringLiteral("&Über ") + appName(),
          .iconName = QStringLiteral("help-about"),
-         .run = [](ContentView& window) { window.showAbout(); }},
+         .run = [](ContentView& window) { showAboutBox(window); }},
     };
 }
 

@@ -1,6 +1,5 @@
 #include "Quillon/Views/Window/ContentView.h"
 
-#include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
@@ -8,7 +7,6 @@
 #include "Quillon/Views/Check/CheckResultsView.h"
 #include "Quillon/Views/Contest/ContestView.h"
 #include "Quillon/Views/Controls/Colors.h"
-#include "Quillon/Views/Controls/ErrorAlert.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
@@ -29,6 +27,7 @@
 #include "Quillon/Views/Window/RedoKey.h"
 #include "Quillon/Views/Window/SearchField.h"
 #include "Quillon/Views/Window/StatusLine.h"
+#include "Quillon/Views/Window/StoreAlerts.h"
 #include "Quillon/Views/Window/StoreSheets.h"
 #include "Tallyrig/Text/VisibleText.h"
 
@@ -38,7 +37,6 @@
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QShortcut>
@@ -93,15 +91,7 @@ ContentView::ContentView(LogStore& store, ContestStore& contestStore, CrossCheck
     new StoreSheets(logStore, *this);
     new RedoKey(this);
     followStore();
-    auto* alert = new ErrorAlert(
-        QStringLiteral("Fehler"), [this] { return logStore.errorMessage(); },
-        [this] { logStore.setErrorMessage(std::nullopt); }, *this);
-    connect(&logStore, &LogStore::errorMessageChanged, alert, &ErrorAlert::refresh);
-    auto* exportAlert = new ErrorAlert(
-        QStringLiteral("Export fehlgeschlagen"),
-        [this] { return cross.hasExportFailed() ? cross.exportMessage() : std::nullopt; },
-        [this] { cross.clearExportMessage(); }, *this);
-    connect(&cross, &CrossCheckStore::exportMessageChanged, exportAlert, &ErrorAlert::refresh);
+    alertOfFailures(logStore, cross, *this);
 }
 
 ContentView::~ContentView() = default;
@@ -136,18 +126,6 @@ void ContentView::focusSearch() {
 
 void ContentView::toggleFullScreen() {
     setWindowState(windowState() ^ Qt::WindowFullScreen);
-}
-
-void ContentView::showAbout() {
-    auto* box = new QMessageBox(this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(QStringLiteral("Über ") + appName());
-    box->setIconPixmap(applicationIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
-    box->setText(QStringLiteral("<b>") + appName() + QLatin1Char(' ') + appVersion() +
-                 QStringLiteral(
-                     "</b><p>Logbücher des Amateurfunks ansehen, bearbeiten,<br>prüfen und auswerten.</p>"));
-    box->addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
-    box->open();
 }
 
 void ContentView::commitEditing() {

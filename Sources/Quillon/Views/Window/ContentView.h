@@ -55,7 +55,6 @@ class ContentView : public QMainWindow {
     void openWithPanel();
     void focusSearch();
     void toggleFullScreen();
-    void showAbout();
     /// Ends typing in a cell, which writes what was typed.
     void commitEditing();
 
