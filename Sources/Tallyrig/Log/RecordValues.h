@@ -33,8 +33,8 @@ class RecordValues {
 
     /// Turns to `record`, which has to stay for as long as its values are asked for.
     void read(const ADIFRecord& record);
-    /// The value of the name at `index` in that record, absent if it has no such field. To be asked only after
-    /// the first `read`, as what follows.
+    /// The value of the name at `index` in that record, absent if it has no such field. To be asked only
+    /// after the first `read`, as what follows.
     std::optional<std::string_view> operator[](std::size_t index) const {
         const Position position = positions[index];
         return position == absent ? std::nullopt : std::optional(stored->value(position));

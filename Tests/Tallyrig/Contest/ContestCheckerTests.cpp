@@ -146,14 +146,14 @@ TEST(Duplicates, AgreeInTheirFieldsWhateverElseIsWrong) {
 
 TEST(Duplicates, AreFoundThroughoutALongLog) {
     std::vector<testing::Pairs> records;
-    for (const std::size_t call : {0, 1, 1, 2, 63, 64, 65, 200, 0, 201, 200, 63}) {
+    for (const std::size_t call : {0U, 1U, 1U, 2U, 63U, 64U, 65U, 200U, 0U, 201U, 200U, 63U}) {
         while (records.size() < call) {
             records.push_back({{"CALL", std::to_string(records.size())}, {"BAND", "40M"}});
         }
         records.push_back({{"CALL", std::to_string(call)}, {"BAND", "40m"}});
     }
     std::string expected(records.size(), '.');
-    for (const std::size_t index : {2, 201, 203, 204}) {
+    for (const std::size_t index : {2U, 201U, 203U, 204U}) {
         expected[index] = 'd';
     }
     EXPECT_EQ(dupesOf(ContestChecker(onePoint()).score(testing::document(records))), expected);

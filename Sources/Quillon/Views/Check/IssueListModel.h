@@ -10,7 +10,7 @@
 #include <vector>
 
 namespace tallyrig {
-struct ValidationIssue;
+class ValidationIssue;
 }
 
 namespace quillon {

@@ -45,8 +45,8 @@ class RankingDelegate : public QStyledItemDelegate {
         if (!name.isEmpty()) {
             line.setBottom(line.center().y());
         }
-        const auto draw = [&](const QString& words, int side) {
-            painter->drawText(line, side | Qt::TextSingleLine,
+        const auto draw = [&](const QString& words, Qt::Alignment side) {
+            painter->drawText(line, static_cast<int>(side) | Qt::TextSingleLine,
                               painter->fontMetrics().elidedText(words, Qt::ElideRight, line.width()));
         };
         const bool isLeft = (item.displayAlignment & Qt::AlignLeft) != 0;
