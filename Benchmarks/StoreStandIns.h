@@ -28,6 +28,8 @@ class NoPanels : public Panels {
     std::optional<QString> fileToSave(const QString&, const QList<FileType>&) override {
         return std::nullopt;
     }
+    QStringList filesAndFoldersToOpen(const QString&) override { return {}; }
+    std::optional<QString> folderToWriteTo(const QString&, const QString&) override { return std::nullopt; }
 };
 
 class FixedWidths : public TextMeasurer {

@@ -32,8 +32,9 @@ constexpr auto help =
     "oder steht hinter --.\n"
     "\n"
     "Optionen\n"
-    "  -h, --help   Zeigt diese Hilfe\n"
-    "  --version    Zeigt die Version\n"
+    "  -h, --help            Zeigt diese Hilfe\n"
+    "  --version             Zeigt die Version\n"
+    "  --crosscheck ORDNER   Prüft die Logs des Ordners gegeneinander\n"
     "\n"
     "Für Skripte gibt es tallyrig, das ohne Fenster auskommt.\n";
 

@@ -198,7 +198,7 @@ class Muddle {
         for (std::size_t count = 4 + below(60); count > 0; --count) {
             const std::size_t left = below(stations);
             const std::size_t right = below(stations);
-            const std::int64_t minute = below(90);
+            const auto minute = static_cast<std::int64_t>(below(90));
             const std::string_view band = of<std::string_view>({"20m", "40M", "20M", ""});
             for (std::size_t copies = chance(8) ? 2 : 1; copies > 0; --copies) {
                 records[left].push_back(record(right, minute, band));

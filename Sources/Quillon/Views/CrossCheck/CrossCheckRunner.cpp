@@ -42,11 +42,12 @@ CrossCheckRunner::CrossCheckRunner(const LogStore& logStore, const ContestStore&
          {&CrossCheckStore::includeCurrentLogChanged, &CrossCheckStore::compareModeChanged,
           &CrossCheckStore::checkExchangeChanged, &CrossCheckStore::checkRSTChanged,
           &CrossCheckStore::scoringEnabledChanged, &CrossCheckStore::removeBustedExchangeChanged,
-          &CrossCheckStore::nilPenaltyFactorChanged, &CrossCheckStore::bustedPenaltyFactorChanged}) {
+          &CrossCheckStore::nilPenaltyFactorChanged, &CrossCheckStore::bustedPenaltyFactorChanged,
+          &CrossCheckStore::toleranceMinutesChanged}) {
         connect(&store, signal, this, &CrossCheckRunner::checkSoon);
     }
-    for (const auto signal : {&CrossCheckStore::entriesChanged, &CrossCheckStore::currentOwnerOverrideChanged,
-                              &CrossCheckStore::toleranceMinutesChanged}) {
+    for (const auto signal :
+         {&CrossCheckStore::entriesChanged, &CrossCheckStore::currentOwnerOverrideChanged}) {
         connect(&store, signal, this, &CrossCheckRunner::checkWhenTyped);
     }
     connect(&store, &CrossCheckStore::evaluationChanged, this, &CrossCheckRunner::changed);
@@ -60,17 +61,19 @@ void CrossCheckRunner::setWatched(bool isWatched) {
 }
 
 void CrossCheckRunner::checkSoon() {
-    isStale = true;
-    if (watched) {
-        pause.start(0);
-    }
+    checkAfter(0);
 }
 
 void CrossCheckRunner::checkWhenTyped() {
+    checkAfter(typingPauseMs);
+}
+
+void CrossCheckRunner::checkAfter(int pauseMs) {
     isStale = true;
     if (watched) {
-        pause.start(typingPauseMs);
+        pause.start(pauseMs);
     }
+    emit changed();
 }
 
 void CrossCheckRunner::check() {
@@ -90,12 +93,15 @@ void CrossCheckRunner::check() {
         return;
     }
     phase = Phase::checking;
+    // Until there is a result: the check may be cancelled, or the memory may not reach.
+    givenUp = true;
     background.start<EvaluationWork>([this, input = std::move(input)](EvaluationWork& work) -> TakeOver {
         auto result = evaluated(input, work);
         if (!result) {
             return {};
         }
         return [this, shared = std::make_shared<const CrossCheckEvaluation>(std::move(*result))] {
+            givenUp = false;
             store.take(shared);
         };
     });
@@ -164,7 +170,6 @@ void CrossCheckRunner::exportReportsWithPanel() {
 
 void CrossCheckRunner::cancel() {
     pathsToAdd.clear();
-    givenUp = phase == Phase::checking;
     background.cancel();
 }
 
@@ -176,9 +181,10 @@ QString CrossCheckRunner::progressText() const {
     const QString share = QString::number(static_cast<int>(progress() * 100)) + QStringLiteral(" %");
     switch (phase) {
         case Phase::reading:
-            return !reading ? QStringLiteral("Logs werden gesucht …")
-                            : numberText(reading->stepsDone()) + QStringLiteral(" von ") +
-                                  numberText(reading->steps()) + QStringLiteral(" Logs gelesen …");
+            return !reading || reading->steps() == 0
+                       ? QStringLiteral("Logs werden gesucht …")
+                       : numberText(reading->stepsDone()) + QStringLiteral(" von ") +
+                             numberText(reading->steps()) + QStringLiteral(" Logs gelesen …");
         case Phase::checking:
             return QStringLiteral("Cross-Check … ") + share;
         case Phase::writing:

@@ -62,6 +62,7 @@ class CrossCheckRunner : public QObject {
 
     void checkSoon();
     void checkWhenTyped();
+    void checkAfter(int pauseMs);
     void check();
     void readNext();
     void ended();

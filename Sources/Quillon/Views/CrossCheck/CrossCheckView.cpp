@@ -179,17 +179,19 @@ void CrossCheckView::showFindings() {
 void CrossCheckView::showProgress() {
     const bool isRunning = runner.isRunning();
     strip->setVisible(isRunning || runner.isGivenUp());
-    stripText->setText(isRunning ? runner.progressText()
-                                 : QStringLiteral("Abgebrochen: Das Ergebnis ist noch das vorige."));
+    stripText->setText(isRunning            ? runner.progressText()
+                       : store.evaluation() ? QStringLiteral("Abgebrochen: Das Ergebnis ist noch das vorige.")
+                                            : QStringLiteral("Abgebrochen."));
     stripBar->setVisible(isRunning);
     stripBar->setValue(static_cast<int>(runner.progress() * stripBar->maximum()));
     stripButton->setText(isRunning ? QStringLiteral("Abbrechen") : QStringLiteral("Neu auswerten"));
 }
 
-void CrossCheckView::goTo(std::size_t recordIndex) {
-    // What the row was made of may have gone meanwhile.
-    if (const auto record = log.showRecord(recordIndex)) {
-        emit qsoWanted(*record);
+/// By its identity: the result on screen may be of the log as it was before some edits.
+void CrossCheckView::goTo(tallyrig::UUID record) {
+    const auto index = log.indexOf(record);
+    if (index && log.showRecord(*index)) {
+        emit qsoWanted(record);
     }
 }
 

@@ -48,7 +48,7 @@ class CrossCheckView : public QWidget {
     void showResult();
     void showFindings();
     void showProgress();
-    void goTo(std::size_t recordIndex);
+    void goTo(tallyrig::UUID record);
 
     LogStore& log;
     CrossCheckStore& store;

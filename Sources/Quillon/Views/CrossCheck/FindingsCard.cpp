@@ -100,7 +100,7 @@ FindingsCard::FindingsCard(CrossCheckStore& crossStore, std::size_t mostFindings
     head->addSpacing(8);
     head->addWidget(countLine, 1);
     content().addLayout(head);
-    content().addWidget(nothing, 0, Qt::AlignTop);
+    content().addWidget(nothing, 1, Qt::AlignTop);
     content().addWidget(list, 1);
     content().addWidget(further);
     connect(filterPicker, &QComboBox::activated, this, [this](int index) {
@@ -137,7 +137,7 @@ void FindingsCard::show(const CrossCheckEvaluation& evaluation, std::optional<ta
         ++passing;
         if (rows.size() < findingLimit) {
             rows.push_back(rowOf(finding, *shownLog, logs));
-            listed.push_back(finding.index);
+            listed.push_back(finding.id);
         }
     }
 

@@ -28,8 +28,8 @@ class FindingsCard : public Card {
     void show(const CrossCheckEvaluation& evaluation, std::optional<tallyrig::UUID> log);
 
   signals:
-    /// The user wants to see the QSO at this position of the open log.
-    void qsoWanted(std::size_t recordIndex);
+    /// The user wants to see this QSO of the open log, which may have gone since the check.
+    void qsoWanted(tallyrig::UUID record);
 
   private:
     CrossCheckStore& store;
@@ -39,7 +39,7 @@ class FindingsCard : public Card {
     QLabel* nothing;
     FindingList* list;
     QLabel* further;
-    std::vector<std::size_t> listed;  ///< The position in its log of the QSO in each row.
+    std::vector<tallyrig::UUID> listed;  ///< The QSO of each row.
 };
 
 }  // namespace quillon

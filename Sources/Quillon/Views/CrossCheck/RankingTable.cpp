@@ -89,6 +89,11 @@ RankingTable::RankingTable(RankingModel& rankingModel, QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    // Also the row that is shown already: what is chosen stays when another log becomes the first.
+    for (const auto signal : {&QTableView::clicked, &QTableView::activated}) {
+        connect(this, signal, this,
+                [this](const QModelIndex& index) { emit logChosen(ranking.logAt(index.row())); });
+    }
     connect(&ranking, &QAbstractItemModel::modelReset, this, &RankingTable::layOutColumns);
     layOutColumns();
 }

@@ -114,18 +114,19 @@ SidebarSection* CrossCheckSections::reports() {
     connect(&evaluator, &QLineEdit::textEdited, this,
             [this](const QString& text) { store.setEvaluator(text.toStdString()); });
     section->addNote(QStringLiteral("Rufzeichen für den Gruss am Ende jedes Berichts (leer = ohne)"));
-    auto* write = new QPushButton(icon(QStringLiteral("document-export")),
-                                  QStringLiteral("Berichte exportieren …"), section);
-    connect(write, &QPushButton::clicked, this, &CrossCheckSections::exportRequested);
-    section->add(write);
+    reportsButton = new QPushButton(icon(QStringLiteral("document-export")),
+                                    QStringLiteral("Berichte exportieren …"), section);
+    connect(reportsButton, &QPushButton::clicked, this, &CrossCheckSections::exportRequested);
+    section->add(reportsButton);
     section->addNote(QStringLiteral(
         "Je Station ein Prüfbericht (.txt + .md) und die Rangliste (CSV) in einem neuen Unterordner."));
-    const auto offer = [this, write] {
-        write->setEnabled(store.evaluation() && store.evaluation()->input.logs.size() >= 2);
-    };
-    connect(&store, &CrossCheckStore::evaluationChanged, write, offer);
-    offer();
     return section;
+}
+
+void CrossCheckSections::offerReports(bool offered) {
+    reportsButton->setEnabled(offered);
+    reportsButton->setToolTip(
+        offered ? QString() : QStringLiteral("Erst wenn zwei Logs da sind und das Ergebnis fertig ist"));
 }
 
 void CrossCheckSections::addSwitch(SidebarSection& section, const QString& text, bool isOn,

@@ -20,6 +20,9 @@ class CrossCheckSections : public QWidget {
     /// Both outlive the sections.
     CrossCheckSections(CrossCheckStore& crossStore, ContestStore& contestStore, QWidget* parent = nullptr);
 
+    /// Whether there is a result of which reports can be written.
+    void offerReports(bool offered);
+
   signals:
     /// The user wants to choose logs to be added.
     void addLogsRequested();
@@ -37,6 +40,7 @@ class CrossCheckSections : public QWidget {
 
     CrossCheckStore& store;
     ContestStore& contest;
+    QPushButton* reportsButton = nullptr;
 };
 
 }  // namespace quillon

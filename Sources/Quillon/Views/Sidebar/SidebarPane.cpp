@@ -123,8 +123,15 @@ QWidget* SidebarPane::contestSections() {
     connect(&contest, &ContestStore::paneChanged, both, showPane);
     connect(crossCheck, &CrossCheckSections::addLogsRequested, this, &SidebarPane::addLogsRequested);
     connect(crossCheck, &CrossCheckSections::exportRequested, this, &SidebarPane::reportsRequested);
+    connect(this, &SidebarPane::reportsOffered, crossCheck, &CrossCheckSections::offerReports);
+    crossCheck->offerReports(hasReports);
     showPane();
     return both;
+}
+
+void SidebarPane::offerReports(bool offered) {
+    hasReports = offered;
+    emit reportsOffered(offered);
 }
 
 /// Qt brings into view no more than the place where the next letter goes.

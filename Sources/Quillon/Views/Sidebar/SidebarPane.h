@@ -24,7 +24,11 @@ class SidebarPane : public QScrollArea {
     SidebarPane(LogStore& logStore, ContestStore& contestStore, CrossCheckStore& crossStore,
                 Settings& userSettings, QWidget* parent = nullptr);
 
+    /// Whether there is a result of which reports can be written.
+    void offerReports(bool offered);
+
   signals:
+    void reportsOffered(bool offered);
     /// The user wants the log checked.
     void checkRequested();
     /// The user wants to choose logs to be checked against each other.
@@ -51,6 +55,7 @@ class SidebarPane : public QScrollArea {
     Settings& settings;
     QComboBox* modePicker = nullptr;
     QVBoxLayout* column = nullptr;
+    bool hasReports = false;
     QWidget* sections = nullptr;  ///< Those of the mode.
 };
 

@@ -178,6 +178,8 @@ void ContentView::buildPanes() {
     };
     connect(contestView, &ContestView::qsoWanted, this, showQSO);
     connect(crossView, &CrossCheckView::qsoWanted, this, showQSO);
+    connect(crossRunner, &CrossCheckRunner::changed, sidebar,
+            [this] { sidebar->offerReports(crossRunner->canExport()); });
     connect(sidebar, &SidebarPane::addLogsRequested, crossRunner, &CrossCheckRunner::addLogsWithPanel);
     connect(sidebar, &SidebarPane::reportsRequested, crossRunner, &CrossCheckRunner::exportReportsWithPanel);
 
@@ -351,17 +353,25 @@ QStringList ContentView::takenFrom(const QMimeData& dragged) const {
     QStringList paths;
     for (const QUrl& url : dragged.urls()) {
         const QFileInfo info(url.toLocalFile());
-        if (url.isLocalFile() && (info.isFile() || (info.isDir() && isCrossCheckShown()))) {
+        if (url.isLocalFile() && (info.isFile() || (info.isDir() && logStore.mode() == AppMode::contest))) {
             paths.append(url.toLocalFile());
         }
     }
     return paths;
 }
 
+/// Several logs, or a folder of them, are those of a contest.
+bool ContentView::isForCrossCheck(const QStringList& paths) const {
+    const bool isOneFile = paths.size() == 1 && QFileInfo(paths.first()).isFile();
+    return isCrossCheckShown() || (logStore.mode() == AppMode::contest && !isOneFile);
+}
+
 void ContentView::dragEnterEvent(QDragEnterEvent* event) {
-    if (!takenFrom(*event->mimeData()).isEmpty()) {
+    const QStringList paths = takenFrom(*event->mimeData());
+    if (!paths.isEmpty()) {
         event->acceptProposedAction();
-        dropHint->show();
+        dropHint->showFor(isForCrossCheck(paths) ? QStringLiteral("Logs in den Cross-Check aufzunehmen")
+                                                 : QStringLiteral("die Datei zu öffnen"));
     }
 }
 
@@ -376,7 +386,8 @@ void ContentView::dropEvent(QDropEvent* event) {
         return;
     }
     event->acceptProposedAction();
-    if (isCrossCheckShown()) {
+    if (isForCrossCheck(files)) {
+        contest.setPane(ContestStore::Pane::crossCheck);
         crossRunner->addLogs(files);
         return;
     }

@@ -79,6 +79,7 @@ class ContentView : public QMainWindow {
     void showReportMessage();
     /// What the window takes of what is dragged over it: files, and for a cross-check folders too.
     QStringList takenFrom(const QMimeData& dragged) const;
+    bool isForCrossCheck(const QStringList& paths) const;
     void openFile(const QString& path);
     void showMode();
     void focusTable();

@@ -12,6 +12,12 @@ DropHint::DropHint(QWidget& window) : QWidget(&window) {
     hide();
 }
 
+void DropHint::showFor(const QString& purpose) {
+    text = QStringLiteral("Loslassen, um ") + purpose;
+    show();
+    update();
+}
+
 void DropHint::showEvent(QShowEvent*) {
     setGeometry(parentWidget()->rect());
     raise();
@@ -28,7 +34,7 @@ void DropHint::paintEvent(QPaintEvent*) {
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("Loslassen, um die Datei zu öffnen"));
+    painter.drawText(rect(), Qt::AlignCenter, text);
 }
 
 }  // namespace quillon

@@ -12,9 +12,15 @@ class DropHint : public QWidget {
     /// Hidden at first.
     explicit DropHint(QWidget& window);
 
+    /// Appears and says that letting go would do this.
+    void showFor(const QString& purpose);
+
   protected:
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString text;
 };
 
 }  // namespace quillon

@@ -106,6 +106,9 @@ TEST_F(CrossChecking, RanksTheLogsAndListsTheFindingsOfTheFirst) {
 
 TEST_F(CrossChecking, FollowsOptionsAndKeepsTheChosenLog) {
     add({b, c});
+    const QPoint first = table().visualRect(table().model()->index(0, 1)).center();
+    QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, first);
+    EXPECT_EQ(cross.selectedLogID(), CrossCheckStore::currentLogID()) << "chosen, also where it was shown";
     table().setCurrentIndex(table().model()->index(1, 1));
     EXPECT_EQ(cross.selectedLogID(), cross.entries()[0].id);
     cross.setScoringEnabled(false);
@@ -131,10 +134,17 @@ TEST_F(CrossChecking, LeadsToAQSOOfTheOpenLogAlone) {
     press();
     EXPECT_EQ(wanted.size(), 1);
     EXPECT_EQ(store.selection(), LogStore::Selection{id(1)});
+    select({0});
+    store.deleteSelected();
+    press();
+    EXPECT_EQ(store.selection(), LogStore::Selection{id(0)})
+        << "the QSO that the row is about, now the first";
+    EXPECT_EQ(wanted.size(), 2);
+    settle();
     cross.setSelectedLogID(cross.entries()[0].id);
     cross.setFindingFilter(FindingFilter::all());
     press();
-    EXPECT_EQ(wanted.size(), 1) << "the log of another is not open";
+    EXPECT_EQ(wanted.size(), 2) << "the log of another is not open";
 }
 
 }  // namespace
