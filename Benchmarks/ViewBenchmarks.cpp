@@ -24,8 +24,8 @@ class NoQuestions : public TableQuestions {
   public:
     bool confirmRename(const QString&, const QString&, std::size_t) override { return false; }
     bool confirmDeletion(std::size_t, std::size_t) override { return false; }
-    std::optional<QString> newColumnName() override { return std::nullopt; }
-    std::optional<std::size_t> rowNumber(std::size_t) override { return std::nullopt; }
+    std::optional<QString> newColumnName(const QString&) override { return std::nullopt; }
+    std::optional<std::size_t> rowNumber(std::size_t, std::size_t) override { return std::nullopt; }
 };
 
 /// The table of a log of `count` QSOs, which scrolls on and paints itself anew.
