@@ -12,6 +12,8 @@ namespace quillon {
 
 CalmComboBox::CalmComboBox(QWidget* parent) : QComboBox(parent) {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // Nor does the wheel bring the keyboard here.
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 bool CalmComboBox::event(QEvent* event) {

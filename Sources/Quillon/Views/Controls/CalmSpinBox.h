@@ -10,7 +10,10 @@ class CalmSpinBox : public QSpinBox {
     Q_OBJECT
 
   public:
-    using QSpinBox::QSpinBox;
+    explicit CalmSpinBox(QWidget* parent = nullptr) : QSpinBox(parent) {
+        // Nor does the wheel bring the keyboard here.
+        setFocusPolicy(Qt::StrongFocus);
+    }
 
   protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }

@@ -35,11 +35,13 @@ class RankingDelegate : public QStyledItemDelegate {
 
         const bool isSelected = item.state.testFlag(QStyle::State_Selected);
         const auto tone = static_cast<Tone>(index.data(RankingModel::toneRole).toInt());
-        const QColor ground = item.palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
         const QColor plain = item.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
         painter->save();
         painter->setFont(item.font);
-        painter->setPen(tone == Tone::plain ? plain : toneColor(tone, item.palette, ground));
+        // On the ground of a chosen row none of the tones reads as well as its text.
+        painter->setPen(isSelected || tone == Tone::plain
+                            ? plain
+                            : toneColor(tone, item.palette, item.palette.color(QPalette::Base)));
         QRect line = item.rect.adjusted(paddingPx / 2, 0, -paddingPx / 2, 0);
         const QString name = nameUnder(index);
         if (!name.isEmpty()) {
