@@ -158,11 +158,28 @@ bool mayReplace(const QString& path) {
     return question.clickedButton() == replace;
 }
 
+/// Where a path is typed Qt marks the folders on the way to it, and tells them as if they were chosen, too.
+QStringList withoutParents(const QStringList& paths) {
+    QStringList chosen;
+    for (const QString& path : paths) {
+        const bool isOnTheWay = std::any_of(paths.begin(), paths.end(), [&path](const QString& other) {
+            return other.startsWith(path + QLatin1Char('/'));
+        });
+        if (!isOnTheWay) {
+            chosen.append(path);
+        }
+    }
+    return chosen;
+}
+
 QStringList choices(QFileDialog& dialog, QString& folder) {
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
-    const QStringList paths = dialog.selectedFiles();
+    const QStringList paths = withoutParents(dialog.selectedFiles());
+    if (paths.isEmpty()) {
+        return {};
+    }
     folder = folderOf(paths.constFirst());
     // The store now reads or writes the file; it returns to the event loop when it is done.
     showBusyCursorUntilIdle();
