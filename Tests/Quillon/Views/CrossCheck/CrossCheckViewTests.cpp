@@ -147,5 +147,26 @@ TEST_F(CrossChecking, LeadsToAQSOOfTheOpenLogAlone) {
     EXPECT_EQ(wanted.size(), 2) << "the log of another is not open";
 }
 
+TEST_F(CrossChecking, KeepsWhatWasThereWhenTheUserGivesUp) {
+    add({b});
+    const auto before = cross.evaluation();
+    {
+        QObject once;
+        QObject::connect(&runner, &CrossCheckRunner::changed, &once, [this] { runner.cancel(); });
+        cross.setCheckExchange(false);
+        QSignalSpy changed(&runner, &CrossCheckRunner::changed);
+        while (!runner.isGivenUp() || runner.isBusy()) {
+            ASSERT_TRUE(changed.wait());
+        }
+    }
+    EXPECT_EQ(cross.evaluation(), before);
+    EXPECT_FALSE(runner.canExport()) << "it is not what the options say";
+    EXPECT_EQ(texts().substr(0, texts().find('\n')), "Abgebrochen: Das Ergebnis ist noch das vorige.");
+    testing::shownButton(*view, QStringLiteral("Neu auswerten"))->click();
+    settle();
+    EXPECT_NE(cross.evaluation(), before);
+    EXPECT_TRUE(runner.canExport());
+}
+
 }  // namespace
 }  // namespace quillon
