@@ -35,7 +35,7 @@ std::optional<CrossCheckReport> ContestCrossChecker::check(std::span<const Cross
         if (log.document.records().empty()) {
             return;
         }
-        findings[position] = checks.local().findings(position);
+        findings[position] = checks.local().findings(position, work);
         for (const CrossCheckFinding& finding : findings[position]) {
             summaries[position].counts.add(finding.status);
         }

@@ -1,5 +1,7 @@
 #include "Tallyrig/CrossCheck/LogCrossCheck.h"
 
+#include "Tallyrig/CrossCheck/LogWork.h"
+
 #include "Tallyrig/CrossCheck/ExchangeCheck.h"
 #include "Tallyrig/CrossCheck/TimeWindow.h"
 #include "Tallyrig/Text/Text.h"
@@ -28,7 +30,7 @@ LogCrossCheck::LogCrossCheck(const CrossCheckIndex& crossCheckIndex, std::span<c
                              const CrossCheckOptions& checkOptions)
     : index(crossCheckIndex), logs(allLogs), options(checkOptions), holders(crossCheckIndex) {}
 
-CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position) {
+CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position, const LogWork& work) {
     turnTo(position);
     CrossCheckReport::Findings findings(logs[position].document.records().size());
     const auto block = [&](std::size_t begin) {
@@ -38,7 +40,7 @@ CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position) {
     std::array<Outlook, blockSize> outlooks;
     std::array<Outlook, blockSize> nextOutlooks;
     lookAhead(block(0), nextOutlooks);
-    for (std::size_t begin = 0; begin < findings.size(); begin += blockSize) {
+    for (std::size_t begin = 0; begin < findings.size() && !work.isCancelled(); begin += blockSize) {
         std::swap(outlooks, nextOutlooks);
         if (begin + blockSize < findings.size()) {
             lookAhead(block(begin + blockSize), nextOutlooks);

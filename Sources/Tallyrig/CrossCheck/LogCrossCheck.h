@@ -18,6 +18,8 @@
 
 namespace tallyrig {
 
+class LogWork;
+
 /// Looks for the QSOs of one log after the other in the logs of the others. Belongs to one thread, whose
 /// memory it uses again for each log. Refers to the logs, the index and the options.
 class LogCrossCheck {
@@ -25,8 +27,9 @@ class LogCrossCheck {
     LogCrossCheck(const CrossCheckIndex& index, std::span<const CrossCheckLog> logs,
                   const CrossCheckOptions& options);
 
-    /// One finding for each record of the log at `position`, in their order.
-    CrossCheckReport::Findings findings(std::size_t position);
+    /// One finding for each record of the log at `position`, in their order. Once `work` is cancelled the
+    /// others say nothing.
+    CrossCheckReport::Findings findings(std::size_t position, const LogWork& work);
 
   private:
     using Number = CrossCheckIndex::Number;

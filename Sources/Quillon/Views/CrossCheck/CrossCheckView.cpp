@@ -46,6 +46,7 @@ CrossCheckView::CrossCheckView(LogStore& logStore, CrossCheckStore& crossStore, 
     body = new QStackedLayout;
     body->addWidget(emptyPage());
     body->addWidget(resultPage());
+    body->addWidget(new QWidget(this));
     column->addLayout(body, 1);
     setFocusProxy(table);
 
@@ -69,6 +70,7 @@ QWidget* CrossCheckView::progressStrip() {
     stripButton = new QPushButton(strip);
     row->addWidget(stripText);
     row->addWidget(stripBar, 1);
+    row->addStretch();
     row->addWidget(stripButton);
     connect(stripButton, &QPushButton::clicked, this,
             [this] { runner.isRunning() ? runner.cancel() : runner.resume(); });
@@ -139,12 +141,11 @@ void CrossCheckView::showEvent(QShowEvent* event) {
 }
 
 void CrossCheckView::showResult() {
-    const auto& evaluation = store.evaluation();
-    const bool isEmpty = !evaluation || evaluation->input.logs.size() < fewestLogs;
-    body->setCurrentIndex(isEmpty ? 0 : 1);
-    if (isEmpty) {
+    choosePage();
+    if (!hasResult()) {
         return;
     }
+    const auto& evaluation = store.evaluation();
     tallyrig::CrossCheckCounts counts;
     for (const tallyrig::CrossCheckSummary& summary : evaluation->report.summaries()) {
         counts += summary.counts;
@@ -160,6 +161,15 @@ void CrossCheckView::showResult() {
     table->setAccessibleName(heading);
     ranking->setResult(evaluation->report, evaluation->scores);
     showFindings();
+}
+
+bool CrossCheckView::hasResult() const {
+    return store.evaluation() && store.evaluation()->input.logs.size() >= fewestLogs;
+}
+
+void CrossCheckView::choosePage() {
+    const bool isAwaited = runner.isRunning() || runner.isGivenUp();
+    body->setCurrentIndex(hasResult() ? 1 : isAwaited ? 2 : 0);
 }
 
 /// Of the log that is chosen, or else of the first row.
@@ -179,11 +189,12 @@ void CrossCheckView::showFindings() {
 void CrossCheckView::showProgress() {
     const bool isRunning = runner.isRunning();
     strip->setVisible(isRunning || runner.isGivenUp());
-    stripText->setText(isRunning            ? runner.progressText()
-                       : store.evaluation() ? QStringLiteral("Abgebrochen: Das Ergebnis ist noch das vorige.")
-                                            : QStringLiteral("Abgebrochen."));
+    stripText->setText(isRunning     ? runner.progressText()
+                       : hasResult() ? QStringLiteral("Abgebrochen: Das Ergebnis ist noch das vorige.")
+                                     : QStringLiteral("Abgebrochen."));
     stripBar->setVisible(isRunning);
     stripBar->setValue(static_cast<int>(runner.progress() * stripBar->maximum()));
+    choosePage();
     stripButton->setText(isRunning ? QStringLiteral("Abbrechen") : QStringLiteral("Neu auswerten"));
 }
 

@@ -46,6 +46,9 @@ class CrossCheckView : public QWidget {
     QWidget* emptyPage();
     QWidget* resultPage();
     void showResult();
+    /// The result, what to do where there is none, or nothing while the first one is on its way.
+    void choosePage();
+    bool hasResult() const;
     void showFindings();
     void showProgress();
     void goTo(tallyrig::UUID record);
