@@ -19,6 +19,7 @@ class BackgroundWork : public QObject {
   public:
     /// What brings the result of a task where it belongs. Empty if there is none.
     using TakeOver = std::function<void()>;
+
     explicit BackgroundWork(QObject* parent = nullptr);
     /// Cancels and waits for the end.
     ~BackgroundWork() override;

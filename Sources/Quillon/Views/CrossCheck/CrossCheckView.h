@@ -14,11 +14,11 @@ class QStackedLayout;
 
 namespace quillon {
 
+class Card;
 class CrossCheckRunner;
 class CrossCheckStore;
 class FindingsCard;
 class LogStore;
-class Card;
 class RankingModel;
 class RankingTable;
 class Tile;

@@ -8,7 +8,7 @@
 #include <QAbstractTableModel>
 
 #include <cstddef>
-#include <optional>
+#include <cstdint>
 #include <vector>
 
 namespace quillon {
@@ -44,7 +44,6 @@ class RankingModel : public QAbstractTableModel {
     /// Without `scores` there are no points and no ranks.
     void setResult(const tallyrig::CrossCheckReport& report, const tallyrig::CrossCheckScores& scores);
 
-    bool hasScores() const { return isScored; }
     tallyrig::UUID logAt(int row) const;
     /// -1 if the log took no part.
     int rowOf(tallyrig::UUID log) const;
