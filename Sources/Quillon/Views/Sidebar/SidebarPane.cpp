@@ -31,9 +31,8 @@ std::vector<OfferedMode> offeredModes() {
 
 }  // namespace
 
-SidebarPane::SidebarPane(LogStore& logStore, ContestStore& contestStore, CrossCheckStore& crossStore,
-                         Settings& userSettings, QWidget* parent)
-    : QScrollArea(parent), store(logStore), contest(contestStore), cross(crossStore), settings(userSettings) {
+SidebarPane::SidebarPane(const AppStores& appStores, Settings& userSettings, QWidget* parent)
+    : QScrollArea(parent), stores(appStores), settings(userSettings) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
@@ -55,9 +54,10 @@ SidebarPane::SidebarPane(LogStore& logStore, ContestStore& contestStore, CrossCh
     column->addWidget(view);
     column->addStretch(1);
 
-    connect(modePicker, &QComboBox::activated, this,
-            [this](int index) { store.setMode(static_cast<AppMode>(modePicker->itemData(index).toInt())); });
-    connect(&store, &LogStore::modeChanged, this, &SidebarPane::showMode);
+    connect(modePicker, &QComboBox::activated, this, [this](int index) {
+        stores.log.setMode(static_cast<AppMode>(modePicker->itemData(index).toInt()));
+    });
+    connect(&stores.log, &LogStore::modeChanged, this, &SidebarPane::showMode);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
         if (now != nullptr && widget()->isAncestorOf(now)) {
             showWhole(*now);
@@ -80,15 +80,15 @@ void SidebarPane::makeRoom() {
 }
 
 void SidebarPane::showMode() {
-    modePicker->setCurrentIndex(modePicker->findData(static_cast<int>(store.mode())));
+    modePicker->setCurrentIndex(modePicker->findData(static_cast<int>(stores.log.mode())));
     delete sections;
     sections = nullptr;
-    if (store.mode() == AppMode::check) {
-        auto* check = new CheckSections(store, settings, widget());
+    if (stores.log.mode() == AppMode::check) {
+        auto* check = new CheckSections(stores.log, settings, widget());
         connect(check, &CheckSections::checkRequested, this, &SidebarPane::checkRequested);
         connect(check, &CheckSections::fieldAdded, this, &SidebarPane::fieldAdded);
         sections = check;
-    } else if (store.mode() == AppMode::contest) {
+    } else if (stores.log.mode() == AppMode::contest) {
         sections = contestSections();
     }
     if (sections != nullptr) {
@@ -99,6 +99,7 @@ void SidebarPane::showMode() {
 
 QWidget* SidebarPane::contestSections() {
     using Pane = ContestStore::Pane;
+    ContestStore& contest = stores.contest;
     auto* both = new QWidget(widget());
     auto* bothColumn = new QVBoxLayout(both);
     bothColumn->setContentsMargins(0, 0, 0, 0);
@@ -108,18 +109,18 @@ QWidget* SidebarPane::contestSections() {
     picker->addItems({QStringLiteral("Eigenes Log"), QStringLiteral("Cross-Check")});
     choice->addUnderHeading(picker);
     auto* score = new ContestSections(contest, both);
-    auto* crossCheck = new CrossCheckSections(cross, contest, both);
+    auto* crossCheck = new CrossCheckSections(stores.crossCheck, contest, both);
     for (QWidget* part :
          {static_cast<QWidget*>(choice), static_cast<QWidget*>(score), static_cast<QWidget*>(crossCheck)}) {
         bothColumn->addWidget(part);
     }
-    const auto showPane = [this, picker, score, crossCheck] {
+    const auto showPane = [&contest, picker, score, crossCheck] {
         picker->setCurrentIndex(contest.pane() == Pane::score ? 0 : 1);
         score->setVisible(contest.pane() == Pane::score);
         crossCheck->setVisible(contest.pane() == Pane::crossCheck);
     };
     connect(picker, &QComboBox::currentIndexChanged, both,
-            [this](int index) { contest.setPane(index == 0 ? Pane::score : Pane::crossCheck); });
+            [&contest](int index) { contest.setPane(index == 0 ? Pane::score : Pane::crossCheck); });
     connect(&contest, &ContestStore::paneChanged, both, showPane);
     connect(crossCheck, &CrossCheckSections::addLogsRequested, this, &SidebarPane::addLogsRequested);
     connect(crossCheck, &CrossCheckSections::exportRequested, this, &SidebarPane::reportsRequested);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Quillon/Stores/AppMode.h"
+#include "Quillon/Stores/AppStores.h"
 
 #include <QScrollArea>
 
@@ -9,9 +9,6 @@ class QVBoxLayout;
 
 namespace quillon {
 
-class ContestStore;
-class CrossCheckStore;
-class LogStore;
 class Settings;
 
 /// The left column of the window: the choice of what is worked at, and below it the controls that set that
@@ -20,9 +17,8 @@ class SidebarPane : public QScrollArea {
     Q_OBJECT
 
   public:
-    /// All of them outlive the pane.
-    SidebarPane(LogStore& logStore, ContestStore& contestStore, CrossCheckStore& crossStore,
-                Settings& userSettings, QWidget* parent = nullptr);
+    /// Stores and settings outlive the pane.
+    SidebarPane(const AppStores& appStores, Settings& userSettings, QWidget* parent = nullptr);
 
     /// Whether there is a result of which reports can be written.
     void offerReports(bool offered);
@@ -49,9 +45,7 @@ class SidebarPane : public QScrollArea {
     void showWhole(const QWidget& control);
     void makeRoom();
 
-    LogStore& store;
-    ContestStore& contest;
-    CrossCheckStore& cross;
+    AppStores stores;
     Settings& settings;
     QComboBox* modePicker = nullptr;
     QVBoxLayout* column = nullptr;

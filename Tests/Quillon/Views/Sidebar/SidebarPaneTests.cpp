@@ -26,7 +26,7 @@ namespace {
 class Sidebar : public testing::LogStoreTest {
   protected:
     void show() {
-        pane = std::make_unique<SidebarPane>(store, contest, cross, settings);
+        pane = std::make_unique<SidebarPane>(AppStores{store, contest, cross}, settings);
         QObject::connect(pane.get(), &SidebarPane::checkRequested, &store, &LogStore::runCheck);
     }
     template <typename Control>

@@ -43,7 +43,7 @@ class Commands : public LogStoreTest {
     ContestStore contest;
     testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
-    ContentView window{store, contest, cross, settings, {}};
+    ContentView window{AppStores{store, contest, cross}, settings, {}};
 };
 
 TEST_F(Commands, ShareNoShortcutAndNoLetterOfAMenu) {

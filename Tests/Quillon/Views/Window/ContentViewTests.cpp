@@ -42,7 +42,7 @@ namespace {
 class Window : public testing::LogStoreTest {
   protected:
     void show(const QStringList& arguments = {}) {
-        window = std::make_unique<ContentView>(store, contest, cross, settings, arguments);
+        window = std::make_unique<ContentView>(AppStores{store, contest, cross}, settings, arguments);
         QSignalSpy up(window.get(), &ContentView::cameUp);
         window->show();
         window->activateWindow();

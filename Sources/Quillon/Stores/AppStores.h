@@ -1,0 +1,17 @@
+#pragma once
+
+namespace quillon {
+
+class ContestStore;
+class CrossCheckStore;
+class LogStore;
+
+/// The stores of the program, for those who have to do with all of them. None holds another; all outlive
+/// whoever takes this.
+struct AppStores {
+    LogStore& log;
+    ContestStore& contest;
+    CrossCheckStore& crossCheck;
+};
+
+}  // namespace quillon

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Quillon/Stores/AppStores.h"
+#include "Tallyrig/Log/UUID.h"
+
+#include <QObject>
+#include <QWidgetList>
+
+#include <memory>
+
+class QBoxLayout;
+class QStackedWidget;
+
+namespace quillon {
+
+class ContestView;
+class CrossCheckRunner;
+class CrossCheckView;
+class PaneSplitter;
+class QSOTableView;
+class RecordDetailView;
+class TableQuestions;
+
+/// What stands beside the sidebar: the table with the findings below it and the chosen QSO at its right, or
+/// in their place the one pane that the mode asks for. Such a pane is made when it is first seen.
+class WorkArea : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Adds its panes to `splitter`, which is its parent.
+    WorkArea(const AppStores& appStores, PaneSplitter& splitter);
+    ~WorkArea() override;
+
+    QSOTableView& table() const { return *tableView; }
+    RecordDetailView& detail() const { return *detailView; }
+    /// The one who keeps the cross-check up to date, seen or not.
+    CrossCheckRunner& crossCheck() const { return *crossRunner; }
+
+    bool isTableShown() const;
+    bool isCrossCheckShown() const;
+    /// Lets the mode be one that shows the table, if it is not.
+    void showTable();
+    /// Selects the QSO and shows it in the table, which takes the keyboard.
+    void showQSO(tallyrig::UUID record);
+
+    /// Gives the keyboard to what is shown.
+    void focus();
+    void focusTable();
+    /// From left to right and top to bottom, the hidden ones too.
+    QWidgetList panes() const;
+    /// Ends typing in a cell, which writes what was typed.
+    void commitEditing();
+
+  signals:
+    /// The user wants the log checked once more.
+    void checkRequested();
+
+  private:
+    void buildTable(PaneSplitter& splitter);
+    void showMode();
+    void showResults();
+    QWidget* paneOfMode();
+    ContestView* contestPane();
+    CrossCheckView* crossCheckPane();
+
+    AppStores stores;
+    std::unique_ptr<TableQuestions> questions;
+    QWidget* tableArea = nullptr;
+    QBoxLayout* tableColumn = nullptr;
+    QSOTableView* tableView = nullptr;
+    RecordDetailView* detailView = nullptr;
+    QWidget* results = nullptr;           ///< Null until there are results to show.
+    QStackedWidget* dashboard = nullptr;  ///< Takes the place of the table in the modes that want it.
+    ContestView* contestView = nullptr;   ///< Null until seen, as those below.
+    CrossCheckView* crossView = nullptr;
+    CrossCheckRunner* crossRunner;
+};
+
+}  // namespace quillon
