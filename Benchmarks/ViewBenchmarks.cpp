@@ -3,7 +3,7 @@
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableQuestions.h"
-#include "Quillon/Views/Table/TableScroll.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "StoreStandIns.h"
 #include "Timing.h"
 

@@ -2,7 +2,7 @@
 
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
-#include "Quillon/Views/Table/CellView.h"
+#include "Quillon/Views/Grid/CellView.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
 
 #include <QPainter>

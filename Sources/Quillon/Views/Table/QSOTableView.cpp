@@ -5,6 +5,7 @@
 #include "Quillon/Stores/RecordChanges.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/ColumnCommands.h"
 #include "Quillon/Views/Table/ColumnToolbar.h"
 #include "Quillon/Views/Table/FileInfoBar.h"
@@ -12,7 +13,6 @@
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableHeader.h"
 #include "Quillon/Views/Table/TableQuestions.h"
-#include "Quillon/Views/Table/TableScroll.h"
 
 #include <QClipboard>
 #include <QEvent>

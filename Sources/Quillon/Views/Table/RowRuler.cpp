@@ -4,9 +4,9 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableHeader.h"
-#include "Quillon/Views/Table/TableScroll.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

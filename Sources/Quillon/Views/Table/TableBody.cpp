@@ -7,8 +7,8 @@
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
-#include "Quillon/Views/Table/TableAccessibility.h"
-#include "Quillon/Views/Table/TableScroll.h"
+#include "Quillon/Views/Grid/TableAccessibility.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 
 #include <QPaintEvent>
 #include <QPainter>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Quillon/Views/Table/AccessibleTable.h"
+#include "Quillon/Views/Grid/AccessibleTable.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
+#include "Quillon/Views/Grid/TableGeometry.h"
 #include "Quillon/Views/Table/CurrentCell.h"
-#include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/QSORowView.h"
-#include "Quillon/Views/Table/TableGeometry.h"
 #include "Tallyrig/Log/UUID.h"
 
 #include <QWidget>

@@ -1,8 +1,9 @@
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Table/CellView.h"
-#include "Quillon/Views/Table/ColumnHeaderCell.h"
+#include "Quillon/Views/Grid/CellView.h"
+#include "Quillon/Views/Grid/ColumnHeaderCell.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
 #include "Quillon/Views/Table/TableBody.h"
+#include "Quillon/Views/Table/TableHeader.h"
 
 // What those are told who do not see the table.
 
@@ -22,7 +23,7 @@ QString TableBody::columnTitle(std::size_t column) const {
 
 QString TableBody::columnRemark(std::size_t column) const {
     const std::string& name = store.columns()[column];
-    return ColumnHeaderCell{name, ColumnHeaderCell::sortOf(store, name)}.remark();
+    return ColumnHeaderCell{name, TableHeader::sortOf(store, name)}.remark();
 }
 
 QString TableBody::rowTitle(std::size_t row) const {

@@ -1,10 +1,10 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Labels.h"
-#include "Quillon/Views/Table/CellView.h"
+#include "Quillon/Views/Grid/CellView.h"
+#include "Quillon/Views/Grid/TableAccessibility.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
-#include "Quillon/Views/Table/TableAccessibility.h"
 #include "Quillon/Views/Table/TableBody.h"
-#include "Quillon/Views/Table/TableScroll.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>

@@ -5,10 +5,10 @@
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
+#include "Quillon/Views/Grid/TableAccessibility.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/ColumnCommands.h"
-#include "Quillon/Views/Table/InlineEditor.h"
-#include "Quillon/Views/Table/TableAccessibility.h"
-#include "Quillon/Views/Table/TableScroll.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -113,6 +113,13 @@ void TableHeader::dismissEditor() {
     nameEditor->dismiss();
     pendingName.reset();
     refusedName.reset();
+}
+
+ColumnHeaderCell::Sort TableHeader::sortOf(const LogStore& store, const std::string& column) {
+    if (store.sortColumn() != column) {
+        return ColumnHeaderCell::Sort::none;
+    }
+    return store.sortAscending() ? ColumnHeaderCell::Sort::ascending : ColumnHeaderCell::Sort::descending;
 }
 
 QRectF TableHeader::cellArea(std::size_t column) const {
@@ -232,7 +239,7 @@ QRectF TableHeader::gutterArea() const {
 
 ColumnHeaderCell TableHeader::headerCell(std::size_t column) const {
     const std::string& name = store.columns()[column];
-    ColumnHeaderCell cell{name, ColumnHeaderCell::sortOf(store, name)};
+    ColumnHeaderCell cell{name, sortOf(store, name)};
     const bool isGripped = grip && grip->place.column == column;
     cell.isDragging = isGripped && grip->isDragging;
     cell.isHoveringHandle =

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Quillon/Views/Table/ColumnHeaderCell.h"
-#include "Quillon/Views/Table/InlineEditor.h"
-#include "Quillon/Views/Table/TableGeometry.h"
+#include "Quillon/Views/Grid/ColumnHeaderCell.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
+#include "Quillon/Views/Grid/TableGeometry.h"
 
 #include <QPointF>
 #include <QWidget>
@@ -43,6 +43,8 @@ class TableHeader : public QWidget {
     void commitEditing();
     /// Closes the editor without renaming.
     void dismissEditor();
+    /// How the log is sorted by this column.
+    static ColumnHeaderCell::Sort sortOf(const LogStore& store, const std::string& column);
     /// The place of the column's cell in the coordinates of this widget.
     QRectF cellArea(std::size_t column) const;
     /// Where a column being dragged will stand: in front of this one. Absent while none is dragged to another

@@ -1,9 +1,9 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/ColumnCommands.h"
-#include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/TableHeader.h"
-#include "Quillon/Views/Table/TableScroll.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

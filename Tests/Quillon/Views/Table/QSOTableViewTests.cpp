@@ -1,7 +1,7 @@
 #include "Quillon/Views/Table/TableViewFixture.h"
 
 #include "Quillon/Views/Controls/EmptyState.h"
-#include "Quillon/Views/Table/CellView.h"
+#include "Quillon/Views/Grid/CellView.h"
 #include "Quillon/Views/Table/RowRuler.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
 

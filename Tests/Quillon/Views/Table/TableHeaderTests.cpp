@@ -1,6 +1,6 @@
 #include "Quillon/Views/Table/TableViewFixture.h"
 
-#include "Quillon/Views/Table/ColumnHeaderCell.h"
+#include "Quillon/Views/Grid/ColumnHeaderCell.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "Quillon/Support/LogStoreFixture.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/FileInfoBar.h"
-#include "Quillon/Views/Table/InlineEditor.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableHeader.h"
 #include "Quillon/Views/Table/TableQuestions.h"
-#include "Quillon/Views/Table/TableScroll.h"
 
 #include <QApplication>
 #include <QMenu>

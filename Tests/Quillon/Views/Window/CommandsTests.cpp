@@ -3,7 +3,7 @@
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
-#include "Quillon/Views/Table/InlineEditor.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableHeader.h"

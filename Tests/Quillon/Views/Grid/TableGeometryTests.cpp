@@ -1,4 +1,4 @@
-#include "Quillon/Views/Table/TableGeometry.h"
+#include "Quillon/Views/Grid/TableGeometry.h"
 
 #include <gtest/gtest.h>
 

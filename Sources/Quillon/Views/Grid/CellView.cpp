@@ -1,11 +1,11 @@
-#include "Quillon/Views/Table/CellView.h"
+#include "Quillon/Views/Grid/CellView.h"
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Views/Controls/BandDot.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
-#include "Quillon/Views/Table/TableGeometry.h"
+#include "Quillon/Views/Grid/TableGeometry.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <QFontMetricsF>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Quillon/Views/Table/TableGeometry.h"
+#include "Quillon/Views/Grid/TableGeometry.h"
 
 #include <QRectF>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "Quillon/Views/Table/TableScroll.h"
+#include "Quillon/Views/Grid/TableScroll.h"
 
 #include <QApplication>
 #include <QEvent>

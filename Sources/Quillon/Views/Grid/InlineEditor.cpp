@@ -1,4 +1,4 @@
-#include "Quillon/Views/Table/InlineEditor.h"
+#include "Quillon/Views/Grid/InlineEditor.h"
 
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/UnseenCharacters.h"

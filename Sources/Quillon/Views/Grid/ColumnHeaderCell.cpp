@@ -1,8 +1,7 @@
-#include "Quillon/Views/Table/ColumnHeaderCell.h"
+#include "Quillon/Views/Grid/ColumnHeaderCell.h"
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
-#include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Strings.h"
@@ -42,13 +41,6 @@ double lineHeight(MeasuredFont font) {
 }
 
 }  // namespace
-
-ColumnHeaderCell::Sort ColumnHeaderCell::sortOf(const LogStore& store, const std::string& column) {
-    if (store.sortColumn() != column) {
-        return Sort::none;
-    }
-    return store.sortAscending() ? Sort::ascending : Sort::descending;
-}
 
 QString ColumnHeaderCell::label() const {
     return toQString(tallyrig::text::visibleText(cutToShow(ADIFFieldCatalog::label(column))));

@@ -1,6 +1,6 @@
-#include "Quillon/Views/Table/TableAccessibility.h"
+#include "Quillon/Views/Grid/TableAccessibility.h"
 
-#include "Quillon/Views/Table/AccessibleTable.h"
+#include "Quillon/Views/Grid/AccessibleTable.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -11,8 +11,6 @@ class QPalette;
 
 namespace quillon {
 
-class LogStore;
-
 /// One cell of the header: the column's German name, under it its field name and the button of its menu, at
 /// its right edge the handle that changes its width.
 struct ColumnHeaderCell {
@@ -24,9 +22,6 @@ struct ColumnHeaderCell {
     bool isHoveringHandle = false;  ///< Or the handle is being dragged.
     bool isHoveringMenu = false;
     bool focused = false;  ///< For the keyboard.
-
-    /// How the log is sorted by this column.
-    static Sort sortOf(const LogStore& store, const std::string& column);
 
     QString label() const;
     /// What who does not see the cell is told of it besides the label: field name and order.
