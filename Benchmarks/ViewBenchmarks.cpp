@@ -1,9 +1,9 @@
 // What the user sees: a frame of the table, and the first window.
 
+#include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableQuestions.h"
-#include "Quillon/Views/Grid/TableScroll.h"
 #include "StoreStandIns.h"
 #include "Timing.h"
 

@@ -29,6 +29,7 @@ class AccessibleTable {
     virtual const std::optional<CellPosition>& currentCell() const = 0;
 
     virtual QString cellText(CellPosition cell) const = 0;
+    virtual bool isCellEditable(CellPosition) const { return true; }
     virtual QString columnTitle(std::size_t column) const = 0;
     /// What is to be told of the column besides, such as its order.
     virtual QString columnRemark(std::size_t column) const = 0;
@@ -42,6 +43,15 @@ class AccessibleTable {
     /// As a click there.
     virtual void pressCell(CellPosition cell) = 0;
     virtual void pressColumn(std::size_t column) = 0;
+};
+
+/// The header over such a table, for the keyboard one stop; its description tells the column.
+class AccessibleTableHeader {
+  public:
+    AccessibleTableHeader() = default;
+    AccessibleTableHeader(const AccessibleTableHeader&) = delete;
+    AccessibleTableHeader& operator=(const AccessibleTableHeader&) = delete;
+    virtual ~AccessibleTableHeader() = default;
 };
 
 }  // namespace quillon

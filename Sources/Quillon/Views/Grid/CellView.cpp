@@ -27,7 +27,9 @@ QString CellView::text() const {
     if (!value || value->empty()) {
         return {};
     }
-    return toQString(tallyrig::text::visibleText(ADIFFieldCatalog::displayValue(cutToShow(*value), column)));
+    const std::string_view shown = cutToShow(*value);
+    return toQString(tallyrig::text::visibleText(
+        writing == CellText::readable ? ADIFFieldCatalog::displayValue(shown, column) : std::string(shown)));
 }
 
 void CellView::paint(QPainter& painter, const QRectF& area, const TableMetrics& metrics,

@@ -40,6 +40,12 @@ double lineHeight(MeasuredFont font) {
     return std::ceil(QFontMetricsF(fontFor(font)).height());
 }
 
+/// The lower of the two lines of a header cell.
+QRectF tagLine(const QRectF& area) {
+    return {area.left(), area.top() + verticalPadding + lineHeight(MeasuredFont::label), area.width(),
+            lineHeight(MeasuredFont::tag)};
+}
+
 }  // namespace
 
 QString ColumnHeaderCell::label() const {
@@ -60,7 +66,8 @@ QString ColumnHeaderCell::remark() const {
 }
 
 QString ColumnHeaderCell::tag() const {
-    return QLatin1Char('<') + toQString(tallyrig::text::visibleText(cutToShow(column)));
+    return QLatin1Char('<') + toQString(tallyrig::text::visibleText(cutToShow(column))) +
+           (isTagClosed ? QStringLiteral(">") : QString());
 }
 
 void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalette& palette) const {
@@ -101,7 +108,9 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
         painter.drawRoundedRect(menu, 3, 3);
         painter.setRenderHint(QPainter::Antialiasing, false);
     }
-    paintChevron(painter, menu.center(), 6, 1.25, Points::down, isHoveringMenu ? primary : secondary);
+    if (hasMenu) {
+        paintChevron(painter, menu.center(), 6, 1.25, Points::down, isHoveringMenu ? primary : secondary);
+    }
 
     const double handle = isHoveringHandle ? 2 : hairlineWidth(painter);
     painter.fillRect(QRectF(area.right() - handle, area.top(), handle, area.height()),
@@ -117,7 +126,7 @@ void ColumnHeaderCell::paint(QPainter& painter, const QRectF& area, const QPalet
 QRectF ColumnHeaderCell::menuArea(const QRectF& area) {
     const TableMetrics metrics = desktopTableMetrics();
     const double size = metrics.menuRoom - metrics.handleRoom;
-    return {area.right() - metrics.menuRoom, tagArea(area).center().y() - size / 2, size, size};
+    return {area.right() - metrics.menuRoom, tagLine(area).center().y() - size / 2, size, size};
 }
 
 int ColumnHeaderCell::height() {
@@ -138,12 +147,12 @@ QRectF ColumnHeaderCell::labelArea(const QRectF& area) const {
             lineHeight(MeasuredFont::label)};
 }
 
-QRectF ColumnHeaderCell::tagArea(const QRectF& area) {
-    const double lineTop = area.top() + verticalPadding + lineHeight(MeasuredFont::label);
+QRectF ColumnHeaderCell::tagArea(const QRectF& area) const {
     const TableMetrics metrics = desktopTableMetrics();
     const double left = metrics.cellMargins / 2;
-    return {area.left() + left, lineTop, std::max(0.0, area.width() - left - metrics.menuRoom - 2),
-            lineHeight(MeasuredFont::tag)};
+    const double right = (hasMenu ? metrics.menuRoom : metrics.handleRoom) + 2;
+    const QRectF line = tagLine(area);
+    return {line.left() + left, line.top(), std::max(0.0, line.width() - left - right), line.height()};
 }
 
 }  // namespace quillon

@@ -22,11 +22,13 @@ struct ColumnHeaderCell {
     bool isHoveringHandle = false;  ///< Or the handle is being dragged.
     bool isHoveringMenu = false;
     bool focused = false;  ///< For the keyboard.
+    bool hasMenu = true;
+    bool isTagClosed = false;
 
     QString label() const;
     /// What who does not see the cell is told of it besides the label: field name and order.
     QString remark() const;
-    /// "<" and the field name.
+    /// "<" and the field name, and ">" where the tag is closed.
     QString tag() const;
 
     /// `area` is the cell; the same for the places below.
@@ -39,7 +41,7 @@ struct ColumnHeaderCell {
 
   private:
     QRectF labelArea(const QRectF& area) const;
-    static QRectF tagArea(const QRectF& area);
+    QRectF tagArea(const QRectF& area) const;
 };
 
 }  // namespace quillon

@@ -116,7 +116,7 @@ class CellInterface : public CellBase,
         }
         state.selectable = true;
         state.focusable = true;
-        state.editable = true;
+        state.editable = shown().isCellEditable(position());
         state.selected = isSelected();
         state.focused = widget->hasFocus() && shown().currentCell() == position();
         state.offscreen = !shown().cellArea(position()).intersects(widget->rect());
@@ -306,7 +306,7 @@ class TableInterface : public QAccessibleWidget, public QAccessibleTableInterfac
     mutable int columnsOfCells = 0;  ///< The number of columns that the indices count by.
 };
 
-QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     if (widget == nullptr) {
         return nullptr;
@@ -314,8 +314,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
     if (tableIn(widget) != nullptr) {
         return new TableInterface(*widget);
     }
-    // The header is one stop for the keyboard; its description tells the column.
-    return className == QLatin1String("quillon::TableHeader")
+    return dynamic_cast<AccessibleTableHeader*>(object) != nullptr
                ? new QAccessibleWidget(widget, QAccessible::ColumnHeader)
                : nullptr;
 }

@@ -4,8 +4,9 @@ class QWidget;
 
 namespace quillon {
 
-/// Lets assistive technology see every widget that is an `AccessibleTable` as a table, and the header over it
-/// as one. To be called before the first of them is made; further calls do nothing.
+/// Lets assistive technology see every widget that is an `AccessibleTable` as a table, and every
+/// `AccessibleTableHeader` as the header over one. To be called before the first of them is made; further
+/// calls do nothing.
 void registerTableAccessibility();
 
 // What assistive technology is told, if any is listening. `table` is an `AccessibleTable`.

@@ -47,6 +47,12 @@ std::size_t TableGeometry::columnIndex(double atX) const {
     return std::min(index, columnCount() == 0 ? 0 : columnCount() - 1);
 }
 
+TableGeometry::Range TableGeometry::columnsBetween(double left, double right) const {
+    const auto end = std::lower_bound(edges.begin(), edges.end() - 1, right);
+    const auto last = static_cast<std::size_t>(end - edges.begin());
+    return {std::min(columnIndex(left), last), last};
+}
+
 std::optional<std::size_t> TableGeometry::rowAt(double y) const {
     if (y < 0 || y >= contentHeight()) {
         return std::nullopt;

@@ -36,13 +36,14 @@ class TableGeometry {
     static constexpr double separatorHeight = 1;  ///< The last line of each row.
     static constexpr double dividerWidth = 1;     ///< The last pixels of each cell.
 
-    /// Rows from `first` up to, but not including, `last`.
-    struct RowRange {
+    /// Rows or columns from `first` up to, but not including, `last`.
+    struct Range {
         std::size_t first = 0;
         std::size_t last = 0;
 
-        friend bool operator==(const RowRange&, const RowRange&) = default;
+        friend bool operator==(const Range&, const Range&) = default;
     };
+    using RowRange = Range;
 
     /// No columns and no rows.
     TableGeometry() : TableGeometry({}, 0, StatusGutter::hidden) {}
@@ -67,6 +68,9 @@ class TableGeometry {
 
     /// The column under `atX`, the first left of all columns, the last right of them; 0 if there are none.
     std::size_t columnIndex(double atX) const;
+
+    /// The columns of which something lies between `left` and `right`.
+    Range columnsBetween(double left, double right) const;
 
     /// The row at height `y`, absent above the first and below the last.
     std::optional<std::size_t> rowAt(double y) const;

@@ -47,13 +47,21 @@ void TableScroll::setContent(QWidget* headerWidget, QWidget* bodyWidget, QWidget
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(rulerWidget, 0, 0, 2, 1);
+    if (rulerWidget != nullptr) {
+        layout->addWidget(rulerWidget, 0, 0, 2, 1);
+    }
     layout->addWidget(header, 0, 1);
     layout->addWidget(body, 1, 1);
     layout->addWidget(vertical, 1, 2);
     layout->addWidget(horizontal, 2, 1);
     layout->setRowStretch(1, 1);
     layout->setColumnStretch(1, 1);
+}
+
+void TableScroll::moveUpAndDownWith(TableScroll& other) {
+    vertical->hide();
+    connect(vertical, &QScrollBar::valueChanged, other.vertical, &QScrollBar::setValue);
+    connect(other.vertical, &QScrollBar::valueChanged, vertical, &QScrollBar::setValue);
 }
 
 void TableScroll::setContentSize(QSizeF size) {

@@ -18,8 +18,11 @@ class TableScroll : public QWidget {
   public:
     explicit TableScroll(QWidget* parent = nullptr);
 
-    /// Takes the three into the layout, once. The ruler stands beside header and body.
+    /// Takes the three into the layout, once. The ruler stands beside header and body; null if there is none.
     void setContent(QWidget* headerWidget, QWidget* bodyWidget, QWidget* rulerWidget);
+    /// From now on the two go up and down together, by the bar of `other`, which is as high and has rows as
+    /// many and as high; the one of this container is not shown. To be called once, for one of the two.
+    void moveUpAndDownWith(TableScroll& other);
     /// How far a step of the scroll bar goes, in rows one.
     void setRowHeight(double height);
     /// A position beyond the new end moves to it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Views/Grid/RowGround.h"
 #include "Quillon/Views/Grid/TableGeometry.h"
 #include "Tallyrig/Log/ADIFRecord.h"
 #include "Tallyrig/Validation/ValidationKind.h"
@@ -17,8 +18,6 @@ namespace quillon {
 
 /// One row of the table: its ground, its cells and its mark.
 struct QSORowView {
-    static constexpr double selectedOpacity = 0.25;  ///< Of the accent colour behind a selected row.
-
     const tallyrig::ADIFRecord& record;
     const std::vector<std::string>& columns;
     std::size_t rowIndex = 0;  ///< Among the displayed records.
@@ -33,7 +32,7 @@ struct QSORowView {
     void paintMark(QPainter& painter, const QRectF& area, const QPalette& palette) const;
 
   private:
-    void paintGround(QPainter& painter, const QRectF& area, const QPalette& palette) const;
+    RowGround ground() const { return {rowIndex, isSelected}; }
 };
 
 }  // namespace quillon

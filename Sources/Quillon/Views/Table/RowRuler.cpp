@@ -60,7 +60,7 @@ void RowRuler::paintEvent(QPaintEvent*) {
     painter.fillRect(QRectF(width() - line, 0, line, height()), lines);
     painter.setClipRect(QRectF(0, top(), width(), height() - top()));
     painter.setFont(smallFont());
-    const QColor selected = withOpacity(palette().color(QPalette::Highlight), QSORowView::selectedOpacity);
+    const QColor selected = withOpacity(palette().color(QPalette::Highlight), RowGround::selectedOpacity);
     const TableGeometry::RowRange rows = body.builtRows();
     for (std::size_t row = rows.first; row < rows.last; ++row) {
         const QRectF area(0, geometry.rowRect(row).top() - scroll.scrollY() + top(), width() - line,

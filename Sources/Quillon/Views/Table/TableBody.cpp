@@ -2,7 +2,6 @@
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Labels.h"
@@ -17,18 +16,6 @@
 #include <algorithm>
 
 namespace quillon {
-namespace {
-
-constexpr double frameWidth = 2;
-
-/// The accent colour, as strong as it must be to be seen on a row that is selected as well.
-QColor frameColor(const QPalette& palette) {
-    const QColor accent = palette.color(QPalette::Highlight);
-    const QColor base = palette.color(QPalette::Base);
-    return standingOut(accent, {base, blended(accent, QSORowView::selectedOpacity, base)}, shapeContrast);
-}
-
-}  // namespace
 
 TableBody::TableBody(LogStore& logStore, TableScroll& tableScroll)
     : QWidget(&tableScroll),
@@ -137,14 +124,11 @@ void TableBody::paintFrame(QPainter& painter) const {
     if (!current.position() || !(hasFocus() || isFramed) || geometry.columnCount() == 0) {
         return;
     }
-    // Thin while the keyboard is elsewhere, as in the list of findings that led here.
-    const double width = isFramed && hasFocus() ? frameWidth : 1;
-    painter.setPen(QPen(isFramed ? frameColor(palette()) : palette().color(QPalette::Text), width,
-                        isFramed ? Qt::SolidLine : Qt::DotLine, Qt::SquareCap, Qt::MiterJoin));
-    const double inset = width / 2;
-    painter.drawRect(cellArea(*current.position())
-                         .adjusted(inset, inset, -TableGeometry::dividerWidth - inset,
-                                   -TableGeometry::separatorHeight - inset));
+    CellFrame frame = CellFrame::place;
+    if (isFramed) {
+        frame = hasFocus() ? CellFrame::typing : CellFrame::away;
+    }
+    paintCellFrame(painter, cellArea(*current.position()), frame, palette());
 }
 
 void TableBody::resizeEvent(QResizeEvent*) {

@@ -2,6 +2,7 @@
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Grid/CellView.h"
 #include "Quillon/Views/Grid/TableAccessibility.h"
+#include "Quillon/Views/Grid/TableKeys.h"
 #include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/StatusGutterCell.h"
 #include "Quillon/Views/Table/TableBody.h"
@@ -17,30 +18,6 @@
 
 namespace quillon {
 namespace {
-
-std::optional<TableMove> moveFor(const QKeyEvent& event) {
-    const bool control = event.modifiers().testFlag(Qt::ControlModifier);
-    switch (event.key()) {
-        case Qt::Key_Up:
-            return TableMove::up;
-        case Qt::Key_Down:
-            return TableMove::down;
-        case Qt::Key_Left:
-            return TableMove::left;
-        case Qt::Key_Right:
-            return TableMove::right;
-        case Qt::Key_PageUp:
-            return TableMove::pageUp;
-        case Qt::Key_PageDown:
-            return TableMove::pageDown;
-        case Qt::Key_Home:
-            return control ? TableMove::tableStart : TableMove::rowStart;
-        case Qt::Key_End:
-            return control ? TableMove::tableEnd : TableMove::rowEnd;
-        default:
-            return std::nullopt;
-    }
-}
 
 bool isWithinRow(TableMove move) {
     return move == TableMove::left || move == TableMove::right || move == TableMove::rowStart ||
@@ -150,13 +127,11 @@ bool TableBody::handleKey(const QKeyEvent& event) {
         }
         return true;
     }
-    // With AltGr, Control and Alt can be down as well.
-    const bool isCommand = (keys & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0 &&
-                           keys != (Qt::ControlModifier | Qt::AltModifier);
-    if (isCommand || event.text().isEmpty() || !event.text().at(0).isPrint()) {
+    const QString typed = typedText(event);
+    if (typed.isEmpty()) {
         return false;
     }
-    typeIntoFrame(event.text());
+    typeIntoFrame(typed);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Views/Grid/AccessibleTable.h"
 #include "Quillon/Views/Grid/ColumnHeaderCell.h"
 #include "Quillon/Views/Grid/InlineEditor.h"
 #include "Quillon/Views/Grid/TableGeometry.h"
@@ -23,7 +24,7 @@ class TableScroll;
 /// changes the width and dragging the rest moves the column; Escape takes a drag back. With the focus: the
 /// arrows choose a column, the space bar sorts and the menu key opens the menu, which shows the actions of
 /// this widget.
-class TableHeader : public QWidget {
+class TableHeader : public QWidget, public AccessibleTableHeader {
     Q_OBJECT
 
   public:

@@ -77,6 +77,15 @@ TEST(ColumnUnderThePointer, IsTheLastBeyondAllColumns) {
     EXPECT_EQ(TableGeometry({}, 4, StatusGutter::shown).columnIndex(10), 0U);
 }
 
+TEST(ColumnsPainted, AreThoseOfWhichAnythingIsInView) {
+    using Range = TableGeometry::Range;
+    EXPECT_EQ(table(1).columnsBetween(0, 1'000), (Range{0, 3}));
+    EXPECT_EQ(table(1).columnsBetween(99, 101), (Range{0, 2}));
+    EXPECT_EQ(table(1).columnsBetween(100, 150), (Range{1, 2})) << "edges do not count";
+    EXPECT_EQ(table(1, StatusGutter::shown).columnsBetween(0, 20), (Range{0, 0})) << "the gutter alone";
+    EXPECT_EQ(TableGeometry().columnsBetween(0, 20), (Range{0, 0}));
+}
+
 TEST(HitTesting, FindsNothingInTheGutterAndOutsideTheContent) {
     const TableGeometry geometry = table(10, StatusGutter::shown);
     EXPECT_EQ(geometry.columnAt(25.5), std::nullopt);
