@@ -1,15 +1,13 @@
 #include "Tallyrig/Validation/DuplicateGroups.h"
 
+#include "Tallyrig/Log/FoldedValues.h"
 #include "Tallyrig/Log/RecordValues.h"
 #include "Tallyrig/Text/KeyNumbers.h"
-#include "Tallyrig/Text/Text.h"
 
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 
 namespace tallyrig {
 
@@ -36,16 +34,7 @@ class KeyReader {
             if (value.empty()) {
                 return false;
             }
-            if (value.size() <= longest) {
-                key += keyPart(value);
-            } else {
-                // It may stand in memory once for many records.
-                const auto [place, isNew] = longValues.try_emplace(value.data());
-                if (isNew) {
-                    place->second = keyPart(value);
-                }
-                key += place->second;
-            }
+            key += folded.piece(value);
             key += '\x1F';
         }
         return true;
@@ -54,23 +43,9 @@ class KeyReader {
     std::string key;
 
   private:
-    static constexpr std::size_t longest = 64;
-
-    /// What equal values have in common: the folded text or, for one that is long, a number behind a second
-    /// separator, so that it is no other text.
-    std::string keyPart(std::string_view value) {
-        std::string folded = text::canonicalKey(text::upper(value));
-        if (folded.size() <= longest) {
-            return folded;
-        }
-        const auto known = longTexts.try_emplace(std::move(folded), longTexts.size()).first;
-        return '\x1F' + std::to_string(known->second);
-    }
-
     RecordValues values;
     std::vector<std::size_t> parts;
-    std::unordered_map<const char*, std::string> longValues;  ///< By the place where they stand.
-    std::unordered_map<std::string, std::size_t> longTexts;
+    FoldedValues folded;
 };
 
 /// Gathers records by key. The members of a group are a chain through `next`, so that the many records that
