@@ -1,0 +1,90 @@
+// Comparing two logs and counting the values of one, beside reading them from memory ("readings": of both
+// logs for a comparison).
+
+#include "Tallyrig/Analysis/ADIFComparator.h"
+#include "Tallyrig/Log/ADIFParser.h"
+#include "Tallyrig/Log/ADIFWriter.h"
+#include "Timing.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace tallyrig::benchmarks {
+namespace {
+
+const std::vector<std::string> usualKey = {"CALL", "QSO_DATE", "TIME_ON", "BAND", "MODE"};
+
+/// Two logs that were read on their own. They differ in every hundredth QSO: by turns another value, a field
+/// more, another key, a QSO less.
+struct Logs {
+    explicit Logs(std::size_t count) : leftText(logOf(count)), left(ADIFParser::parse(leftText)) {
+        ADIFDocument changed = left;
+        std::size_t position = 0;
+        changed.records().transform([&](const ADIFRecord& record) -> std::optional<ADIFRecord> {
+            if (position++ % 100 != 0) {
+                return std::nullopt;
+            }
+            ADIFRecord other = record;
+            switch (position / 100 % 3) {
+                case 0:
+                    other.set("NAME", "Otto");
+                    break;
+                case 1:
+                    other.set("NOTES", "Danke");
+                    break;
+                default:
+                    other.set("TIME_ON", "0000");
+            }
+            return other;
+        });
+        position = 0;
+        changed.records().removeIf([&](const ADIFRecord&) { return position++ % 400 == 0; });
+        rightText = ADIFWriter{"Quillon", "1", "3.1.7", true}.write(changed);
+        right = ADIFParser::parse(rightText);
+    }
+
+    const std::string& leftText;
+    std::string rightText;
+    ADIFDocument left;
+    ADIFDocument right;
+};
+
+void report(benchmark::State& state, const Logs& logs, const std::vector<std::string>& key) {
+    const ADIFComparator comparator(key);
+    inTurns(
+        state, "readings", [&] { benchmark::DoNotOptimize(comparator.compare(logs.left, logs.right)); },
+        [&] {
+            benchmark::DoNotOptimize(ADIFParser::parse(logs.leftText));
+            benchmark::DoNotOptimize(ADIFParser::parse(logs.rightText));
+        });
+    const ADIFComparison::Counts counts = comparator.compare(logs.left, logs.right).counts();
+    state.counters["differs"] = static_cast<double>(counts.differs);
+    state.counters["onlyLeft"] = static_cast<double>(counts.onlyLeft);
+    state.counters["onlyRight"] = static_cast<double>(counts.onlyRight);
+}
+
+void comparing(benchmark::State& state) {
+    report(state, Logs(static_cast<std::size_t>(state.range(0))), usualKey);
+}
+BENCHMARK(comparing)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
+
+/// By a field that no record has: one key for all.
+void comparingByPosition(benchmark::State& state) {
+    report(state, Logs(static_cast<std::size_t>(state.range(0))), {"NO_SUCH_FIELD"});
+}
+BENCHMARK(comparingByPosition)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// By a field of few values: many duplicates.
+void comparingByBand(benchmark::State& state) {
+    report(state, Logs(static_cast<std::size_t>(state.range(0))), {"BAND"});
+}
+BENCHMARK(comparingByBand)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tallyrig::benchmarks
+
+BENCHMARK_MAIN();
