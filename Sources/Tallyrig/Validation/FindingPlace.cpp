@@ -24,6 +24,10 @@ struct FieldName {
         const std::vector<std::string>& fields = kind.keyFields;
         return fields.empty() ? std::string_view() : std::string_view(fields.front());
     }
+    /// Of several fields that would do, the one to be filled in.
+    std::string_view operator()(const finding::OutdoorMissingField& kind) const {
+        return std::string_view(kind.field).substr(0, kind.field.find('/'));
+    }
     std::string_view operator()(const finding::OutdoorInconsistentStationCallsign&) const {
         return "STATION_CALLSIGN";
     }

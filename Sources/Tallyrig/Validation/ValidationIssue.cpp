@@ -5,12 +5,13 @@
 
 namespace tallyrig {
 
+bool standsBefore(const ValidationIssue& left, const ValidationIssue& right) {
+    return std::pair(left.recordIndex, left.severity()) < std::pair(right.recordIndex, right.severity());
+}
+
 void sortIssues(std::vector<ValidationIssue>& issues) {
-    const auto place = [](const ValidationIssue& issue) {
-        return std::pair(issue.recordIndex, issue.severity());
-    };
-    if (!std::ranges::is_sorted(issues, {}, place)) {
-        std::ranges::stable_sort(issues, {}, place);
+    if (!std::ranges::is_sorted(issues, standsBefore)) {
+        std::ranges::stable_sort(issues, standsBefore);
     }
 }
 

@@ -35,6 +35,8 @@ class ValidationIssue {
     Shared<ValidationKind> content;
 };
 
+/// Whether `left` is to be read before `right`: by record, within a record errors before warnings.
+bool standsBefore(const ValidationIssue& left, const ValidationIssue& right);
 /// Orders findings for reading: by record, within a record errors before warnings, otherwise as they came.
 /// Cost: one pass where they are in that order already.
 void sortIssues(std::vector<ValidationIssue>& issues);
