@@ -2,6 +2,7 @@
 // logs for a comparison).
 
 #include "Tallyrig/Analysis/ADIFComparator.h"
+#include "Tallyrig/Analysis/ADIFStatistics.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 #include "Timing.h"
@@ -9,6 +10,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -83,6 +85,42 @@ void comparingByBand(benchmark::State& state) {
     report(state, Logs(static_cast<std::size_t>(state.range(0))), {"BAND"});
 }
 BENCHMARK(comparingByBand)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void reportStatistics(benchmark::State& state, const std::string& text) {
+    const ADIFDocument log = ADIFParser::parse(text);
+    inTurns(
+        state, "readings", [&] { benchmark::DoNotOptimize(ADIFStatistics(log)); },
+        [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); });
+    const ADIFStatistics statistics(log);
+    state.counters["calls"] = static_cast<double>(statistics.uniqueCalls);
+    state.counters["days"] = static_cast<double>(statistics.byDay.size());
+    state.counters["countries"] = static_cast<double>(statistics.byCountry.size());
+}
+
+void counting(benchmark::State& state) {
+    reportStatistics(state, logOf(static_cast<std::size_t>(state.range(0))));
+}
+BENCHMARK(counting)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(
+    benchmark::kMillisecond);
+
+/// The second number is that of the countries, which are named at random.
+void countingManyCountries(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const auto countries = static_cast<std::size_t>(state.range(1));
+    std::size_t number = 0;
+    ADIFDocument log = ADIFParser::parse(logOf(count));
+    log.records().transform([&](const ADIFRecord& record) -> std::optional<ADIFRecord> {
+        ADIFRecord other = record;
+        other.set("COUNTRY", "Land " + std::to_string(++number * 2'654'435'761U % countries));
+        return other;
+    });
+    reportStatistics(state, ADIFWriter{"Quillon", "1", "3.1.7", true}.write(log));
+}
+BENCHMARK(countingManyCountries)
+    ->Args({100'000, 50'000})
+    ->Args({1'000'000, 50'000})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tallyrig::benchmarks
