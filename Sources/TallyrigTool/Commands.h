@@ -20,6 +20,8 @@ struct Command {
 Command dumpCommand(CLI::App& program);
 Command checkCommand(CLI::App& program);
 Command convertCommand(CLI::App& program);
+Command compareCommand(CLI::App& program);
+Command statsCommand(CLI::App& program);
 Command distanceCommand(CLI::App& program);
 Command callCommand(CLI::App& program);
 Command contestsCommand(CLI::App& program);

@@ -21,4 +21,9 @@ void JsonList::finish() {
     output.write(isEmpty ? "]}" : "\n]}");
 }
 
+void JsonList::finish(std::string_view object) {
+    output.write(isEmpty ? "]," : "\n],");
+    output.write(object.substr(1));
+}
+
 }  // namespace tallyrig::tool

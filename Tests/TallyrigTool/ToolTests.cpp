@@ -261,8 +261,8 @@ using Help = Tool;
 
 TEST_F(Help, ShowsExamplesThatRun) {
     std::size_t examples = 0;
-    for (const std::string page :
-         {"", "dump ", "check ", "convert ", "distance ", "call ", "contests ", "rules ", "score "}) {
+    for (const std::string page : {"", "dump ", "check ", "convert ", "compare ", "stats ", "distance ",
+                                   "call ", "contests ", "rules ", "score "}) {
         for (const std::string& line : linesOf(run("tallyrig " + page + "--help").output)) {
             if (line.starts_with("  tallyrig ")) {
                 ++examples;
@@ -270,7 +270,7 @@ TEST_F(Help, ShowsExamplesThatRun) {
             }
         }
     }
-    EXPECT_EQ(examples, 11);
+    EXPECT_EQ(examples, 13);
     EXPECT_EQ(run("tallyrig --version").output, "tallyrig " TOOL_VERSION "\n");
 }
 
@@ -297,7 +297,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 14);
+    EXPECT_EQ(commands, 17);
 }
 
 }  // namespace
