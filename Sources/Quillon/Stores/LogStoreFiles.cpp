@@ -2,6 +2,7 @@
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/Files.h"
 #include "Quillon/Platform/LogFileTypes.h"
+#include "Quillon/Stores/FileFailure.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
@@ -28,13 +29,6 @@ std::string textFor(const QString& path, const ADIFDocument& document, const Set
     return extensionOf(path).toLower() == QLatin1String("adx")
                ? adxWriter(version, writeHeader).write(document)
                : adifWriter(version, writeHeader).write(document);
-}
-
-QString failure(const QString& what, const QString& path, const std::string& why) {
-    const QString lastPart = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-    const QString name = lastPart.isEmpty() ? path : lastPart;
-    return what + QStringLiteral("\n„") +
-           QString::fromStdString(tallyrig::text::visibleText(name.toStdString() + "“: " + why));
 }
 
 /// Whether an argument that names nothing may have been meant as the path of a log: behind "--" whatever it
@@ -91,8 +85,8 @@ void LogStore::open(const QString& path) {
         // What is no UTF-8 in a name has become this character, and the file is not found by it.
         const bool isNameBroken = fullPath.contains(QChar::ReplacementCharacter);
         state.errorMessage =
-            failure(QStringLiteral("Datei konnte nicht geöffnet werden:"), fullPath,
-                    isNameBroken ? "Der Name ist nicht in UTF-8 geschrieben." : error->message);
+            fileFailure(QStringLiteral("Datei konnte nicht geöffnet werden:"), fullPath,
+                        isNameBroken ? "Der Name ist nicht in UTF-8 geschrieben." : error->message);
         return;
     }
     showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, fullPath);
@@ -157,8 +151,8 @@ bool LogStore::write(const QString& path) {
     const QString fullPath = absolutePath(path);
     const std::string content = textFor(fullPath, state.document, settings);
     if (const auto error = replaceFile(fullPath.toStdString(), content)) {
-        state.errorMessage = failure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath,
-                                     error->message + " „Speichern unter…“ wählt einen anderen Ort.");
+        state.errorMessage = fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath,
+                                         error->message + " „Speichern unter…“ wählt einen anderen Ort.");
         return false;
     }
     state.fileURL = fullPath;
@@ -196,7 +190,7 @@ void LogStore::exportText(const std::string& text, const FileType& type, const Q
     }
     const QString fullPath = absolutePath(*path);
     if (const auto error = replaceFile(fullPath.toStdString(), text)) {
-        setErrorMessage(failure(failurePrefix, fullPath, error->message));
+        setErrorMessage(fileFailure(failurePrefix, fullPath, error->message));
         return;
     }
     emit exported(fullPath);
