@@ -1,0 +1,129 @@
+#include "Quillon/Views/Compare/CompareTable.h"
+
+#include "Quillon/Views/Compare/CentreBar.h"
+#include "Quillon/Views/Compare/CompareBody.h"
+#include "Quillon/Views/Compare/CompareHeader.h"
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Grid/TableScroll.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QStyle>
+
+namespace quillon {
+
+using Side = ComparisonModel::Side;
+
+CompareTable::CompareTable(ComparisonModel& comparisonModel, QWidget* parent)
+    : QWidget(parent),
+      model(comparisonModel),
+      left(makeHalf(Side::left)),
+      right(makeHalf(Side::right)),
+      bar(new CentreBar(model, *right.scroll, *right.body)) {
+    left.scroll->setContent(left.header, left.body, nullptr);
+    right.scroll->setContent(right.header, right.body, bar);
+    left.scroll->moveUpAndDownWith(*right.scroll);
+    setMinimumSize(left.scroll->minimumSizeHint().width() + right.scroll->minimumSizeHint().width(),
+                   right.scroll->minimumSizeHint().height());
+    connect(&model, &ComparisonModel::geometryChanged, this, &CompareTable::fitContent);
+    connect(&model, &ComparisonModel::cellWanted, this, [this] {
+        for (const Half& each : {left, right}) {
+            each.body->bringIntoView(*model.currentCell());
+        }
+    });
+    fitContent();
+}
+
+CompareTable::~CompareTable() = default;
+
+CompareTable::Half CompareTable::makeHalf(Side side) {
+    auto* scroll = new TableScroll(this);
+    const Half made{scroll, new CompareHeader(model, *scroll), new CompareBody(model, side, *scroll)};
+    addCellActions(*made.body);
+    connect(made.body, &CompareBody::noticed, this, &CompareTable::noticed);
+    return made;
+}
+
+const CompareTable::Half& CompareTable::half(Side side) const {
+    return side == Side::left ? left : right;
+}
+
+CompareBody& CompareTable::body(Side side) const {
+    return *half(side).body;
+}
+
+CompareHeader& CompareTable::header(Side side) const {
+    return *half(side).header;
+}
+
+TableScroll& CompareTable::scroll(Side side) const {
+    return *half(side).scroll;
+}
+
+/// The keys that are shown are handled by the rows themselves.
+void CompareTable::addCellActions(CompareBody& rows) {
+    auto* edit = new QAction(QStringLiteral("&Bearbeiten\tReturn"), &rows);
+    auto* copy = new QAction(QStringLiteral("Wert &kopieren\tStrg+C"), &rows);
+    connect(edit, &QAction::triggered, &rows, &CompareBody::editCurrentCell);
+    connect(copy, &QAction::triggered, &rows, &CompareBody::copyCell);
+    rows.addActions({edit, copy});
+    connect(&rows, &CompareBody::menuAboutToShow, edit, [this, edit, copy, &rows] {
+        edit->setIcon(icon(QStringLiteral("document-edit")));
+        copy->setIcon(icon(QStringLiteral("edit-copy")));
+        const auto& cell = model.currentCell();
+        const bool isThere = cell && rows.isCellEditable(*cell);
+        edit->setEnabled(isThere);
+        copy->setEnabled(isThere);
+    });
+}
+
+void CompareTable::addMenuActions(const QList<QAction*>& further) {
+    for (const Half& each : {left, right}) {
+        auto* separator = new QAction(each.body);
+        separator->setSeparator(true);
+        each.body->addAction(separator);
+        each.body->addActions(further);
+    }
+}
+
+void CompareTable::enter() {
+    body(model.usedSide()).enter();
+}
+
+void CompareTable::enterSideWithRecord() {
+    const auto& cell = model.currentCell();
+    if (cell && model.record(cell->row, model.usedSide()) == nullptr) {
+        model.setUsedSide(model.usedSide() == Side::left ? Side::right : Side::left);
+    }
+    enter();
+}
+
+void CompareTable::commitEditing() {
+    left.body->commitEditing();
+    right.body->commitEditing();
+}
+
+void CompareTable::fitContent() {
+    const TableGeometry& geometry = model.geometry();
+    for (const Half& each : {left, right}) {
+        each.scroll->setRowHeight(geometry.rowHeight());
+        each.scroll->setContentSize({geometry.totalWidth(), geometry.contentHeight()});
+    }
+}
+
+void CompareTable::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        model.refreshGeometry();
+    }
+    QWidget::changeEvent(event);
+}
+
+/// The columns of both sides get the same room.
+void CompareTable::resizeEvent(QResizeEvent*) {
+    const int beside = bar->width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int leftWidth = (width() - beside) / 2;
+    left.scroll->setGeometry(0, 0, leftWidth, height());
+    right.scroll->setGeometry(leftWidth, 0, width() - leftWidth, height());
+}
+
+}  // namespace quillon

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Quillon/Views/Compare/ComparisonModel.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace quillon {
+
+class CompareStore;
+class LogStore;
+
+/// The bar above a comparison: what each side is called, whether it can be edited and whether it has edits
+/// that are not saved.
+class CompareTitle : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// All outlive the bar.
+    CompareTitle(const LogStore& logStore, const CompareStore& compareStore,
+                 const ComparisonModel& comparisonModel, QWidget* parent = nullptr);
+
+  private:
+    struct SideLabels {
+        QLabel* name;
+        QLabel* editable;
+        QLabel* changed;
+    };
+
+    SideLabels addSide();
+    void refresh();
+
+    const LogStore& log;
+    const CompareStore& store;
+    const ComparisonModel& model;
+    SideLabels left{};
+    SideLabels right{};
+};
+
+}  // namespace quillon

@@ -1,0 +1,261 @@
+#include "Quillon/Views/Compare/CompareView.h"
+
+#include "Quillon/Stores/CompareStore.h"
+#include "Quillon/Stores/LogStore.h"
+#include "Quillon/Views/Compare/CompareTable.h"
+#include "Quillon/Views/Compare/CompareTitle.h"
+#include "Quillon/Views/Compare/StatusSign.h"
+#include "Quillon/Views/Controls/EmptyState.h"
+#include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/VisibleText.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QStackedLayout>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+using Status = ComparisonModel::Status;
+
+constexpr std::array allStatus = {Status::equal, Status::differs, Status::onlyLeft, Status::onlyRight};
+constexpr std::size_t mostHeaderLines = 200;
+constexpr std::size_t longestHeaderValue = 200;
+constexpr int highestHeaderLines = 5;
+
+QString shown(std::string_view text) {
+    return toQString(tallyrig::text::visibleText(cutToShow(text, longestHeaderValue)));
+}
+
+QString shown(const std::optional<std::string>& value) {
+    return value ? shown(std::string_view(*value)) : QStringLiteral("—");
+}
+
+}  // namespace
+
+CompareView::CompareView(LogStore& logStore, CompareStore& compareStore, QWidget* parent)
+    : QWidget(parent),
+      store(compareStore),
+      comparison(new ComparisonModel(logStore, compareStore, this)),
+      pages(new QStackedLayout) {
+    setAccessibleName(QStringLiteral("Vergleich"));
+    setFocusPolicy(Qt::NoFocus);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new CompareTitle(logStore, compareStore, *comparison, this));
+    column->addWidget(horizontalLine(this));
+    pages->addWidget(emptyPage());
+    pages->addWidget(comparisonPage());
+    column->addLayout(pages, 1);
+
+    connect(tables, &CompareTable::noticed, this, &CompareView::noticed);
+    connect(comparison, &ComparisonModel::logsChanged, this, &CompareView::showComparison);
+    connect(comparison, &ComparisonModel::rowChanged, this, &CompareView::showCounts);
+    connect(&store, &CompareStore::editsLost, this, [this](const QString& name) {
+        emit noticed(QStringLiteral("Ungesicherte Änderungen an „%1“ wurden verworfen.").arg(name));
+    });
+    showComparison();
+}
+
+CompareView::~CompareView() = default;
+
+QWidget* CompareView::emptyPage() {
+    return new EmptyState(QStringLiteral("view-split-left-right"), QStringLiteral("Nichts zu vergleichen"),
+                          QStringLiteral("Lade links und rechts je eine ADIF-Datei (Seitenleiste, Laden …)."),
+                          this);
+}
+
+QWidget* CompareView::comparisonPage() {
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    headerArea = headerBar();
+    column->addWidget(headerArea);
+    tables = new CompareTable(*comparison, page);
+    column->addWidget(tables, 1);
+    column->addWidget(horizontalLine(page));
+    column->addWidget(summaryBar());
+    return page;
+}
+
+QWidget* CompareView::headerBar() {
+    auto* bar = new QWidget(this);
+    headerScroll = new QScrollArea(bar);
+    headerScroll->setFrameShape(QFrame::NoFrame);
+    headerScroll->setWidgetResizable(true);
+    headerScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    headerScroll->setAccessibleName(QStringLiteral("Header-Unterschiede"));
+    auto* content = new QWidget(headerScroll);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(12, 6, 12, 6);
+    column->setSpacing(2);
+    column->addWidget(headingLabel(QStringLiteral("Header-Unterschiede"), content));
+    headerText = new QLabel(content);
+    headerText->setTextFormat(Qt::PlainText);
+    headerText->setWordWrap(true);
+    makeCopyable(*headerText);
+    column->addWidget(headerText);
+    column->addStretch(1);
+    headerScroll->setWidget(content);
+    auto* barColumn = new QVBoxLayout(bar);
+    barColumn->setContentsMargins(0, 0, 0, 0);
+    barColumn->setSpacing(0);
+    barColumn->addWidget(headerScroll);
+    barColumn->addWidget(horizontalLine(bar));
+    return bar;
+}
+
+QWidget* CompareView::summaryBar() {
+    auto* bar = new QWidget(this);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(12, 4, 12, 4);
+    row->setSpacing(4);
+    for (const Status status : allStatus) {
+        row->addWidget(new StatusSign(status, bar));
+        QLabel*& count = counts[static_cast<std::size_t>(status)];
+        count = new QLabel(bar);
+        row->addWidget(count);
+        row->addSpacing(8);
+    }
+    rowCount = new QLabel(bar);
+    row->addWidget(rowCount);
+    row->addStretch(1);
+    differencesOnly = new QCheckBox(QStringLiteral("Nur Unterschiede"), bar);
+    connect(differencesOnly, &QCheckBox::toggled, this, [this](bool only) {
+        commitEditing();
+        comparison->setDifferencesOnly(only);
+    });
+    row->addWidget(differencesOnly);
+    QToolButton* previous = stepButton(QStringLiteral("Voriger Unterschied"), QStringLiteral("go-up"),
+                                       &CompareView::goToPreviousDifference, Qt::ShiftModifier);
+    QToolButton* next = stepButton(QStringLiteral("Nächster Unterschied"), QStringLiteral("go-down"),
+                                   &CompareView::goToNextDifference, Qt::NoModifier);
+    row->addWidget(previous);
+    row->addWidget(next);
+    tables->addMenuActions({next->defaultAction(), previous->defaultAction()});
+    return bar;
+}
+
+QToolButton* CompareView::stepButton(const QString& text, const QString& iconName,
+                                     void (CompareView::*step)(), Qt::KeyboardModifiers keys) {
+    auto* action = new QAction(icon(iconName), text, this);
+    action->setShortcut(QKeySequence(keys | Qt::Key_F8));
+    action->setToolTip(text + QStringLiteral(" (") + action->shortcut().toString(QKeySequence::NativeText) +
+                       QLatin1Char(')'));
+    connect(action, &QAction::triggered, this, step);
+    addAction(action);
+    auto* button = new QToolButton(this);
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+std::optional<ComparisonModel::Side> CompareView::sideAt(QPoint point) const {
+    const QPoint here = mapFromGlobal(point);
+    if (!rect().contains(here)) {
+        return std::nullopt;
+    }
+    return here.x() < width() / 2 ? ComparisonModel::Side::left : ComparisonModel::Side::right;
+}
+
+// The way through the differences.
+
+void CompareView::goToNextDifference() {
+    commitEditing();
+    finishStep(comparison->goToNextDifference());
+}
+
+void CompareView::goToPreviousDifference() {
+    commitEditing();
+    finishStep(comparison->goToPreviousDifference());
+}
+
+void CompareView::finishStep(bool isThere) {
+    if (isThere) {
+        tables->enterSideWithRecord();
+    } else {
+        emit noticed(comparison->logs().comparison().differences().empty()
+                         ? QStringLiteral("Es gibt keine Unterschiede.")
+                         : QStringLiteral("Kein weiterer Unterschied in dieser Richtung."));
+    }
+}
+
+void CompareView::commitEditing() {
+    tables->commitEditing();
+}
+
+// What is shown.
+
+void CompareView::showComparison() {
+    const bool isEmpty = comparison->logs().comparison().rowCount() == 0;
+    pages->setCurrentIndex(isEmpty ? 0 : 1);
+    setFocusProxy(nullptr);
+    setFocusPolicy(isEmpty ? Qt::TabFocus : Qt::NoFocus);
+    showHeaderDifferences();
+    showCounts();
+    if (!isEmpty && hasFocus()) {
+        tables->enter();
+    }
+}
+
+void CompareView::showCounts() {
+    const tallyrig::ADIFComparison& found = comparison->logs().comparison();
+    const std::array<std::size_t, 4> numbers = {found.counts().equal, found.counts().differs,
+                                                found.counts().onlyLeft, found.counts().onlyRight};
+    for (const Status status : allStatus) {
+        const auto index = static_cast<std::size_t>(status);
+        counts[index]->setText(numberText(numbers[index]) + QLatin1Char(' ') +
+                               ComparisonModel::statusName(status));
+    }
+    rowCount->setText(numberText(found.rowCount()) + QStringLiteral(" Zeilen"));
+}
+
+void CompareView::showHeaderDifferences() {
+    const auto& differences = comparison->logs().comparison().headerDiffs();
+    QStringList lines;
+    for (const auto& difference : differences) {
+        if (static_cast<std::size_t>(lines.size()) == mostHeaderLines) {
+            lines.append(QStringLiteral("und %1 weitere").arg(differences.size() - mostHeaderLines));
+            break;
+        }
+        lines.append(QStringLiteral("%1: %2  →  %3")
+                         .arg(shown(std::string_view(difference.field)), shown(difference.left),
+                              shown(difference.right)));
+    }
+    headerText->setText(lines.join(QLatin1Char('\n')));
+    headerArea->setVisible(!differences.empty());
+    const int line = fontMetrics().lineSpacing();
+    const int wanted = static_cast<int>(std::min<qsizetype>(lines.size(), highestHeaderLines));
+    headerScroll->setFixedHeight((wanted + 1) * line + 18);
+    headerScroll->setFocusPolicy(lines.size() > wanted ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void CompareView::focusInEvent(QFocusEvent*) {
+    if (pages->currentIndex() == 1) {
+        tables->enter();
+    }
+}
+
+void CompareView::hideEvent(QHideEvent* event) {
+    comparison->setWatched(false);
+    QWidget::hideEvent(event);
+}
+
+void CompareView::showEvent(QShowEvent* event) {
+    comparison->setWatched(true);
+    QWidget::showEvent(event);
+}
+
+}  // namespace quillon
