@@ -31,10 +31,13 @@ void setUp(QApplication& application, QTranslator& translator) {
 }  // namespace
 
 QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
-    : settings(userSettings()), logStore(*settings, panels, measurer), crossCheckStore(panels, fileManager) {
+    : settings(userSettings()),
+      logStore(*settings, panels, measurer),
+      compareStore(*settings, panels),
+      crossCheckStore(panels, fileManager) {
     setUp(application, translator);
-    contentView = std::make_unique<ContentView>(AppStores{logStore, contestStore, crossCheckStore}, *settings,
-                                                arguments);
+    contentView = std::make_unique<ContentView>(
+        AppStores{logStore, compareStore, contestStore, crossCheckStore}, *settings, arguments);
     QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
         if (logStore.fileURL()) {
             panels.setFolder(folderOf(*logStore.fileURL()));

@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Platform/Settings.h"
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/LogStore.h"
@@ -38,6 +39,7 @@ class QuillonApp {
     DesktopPanels panels;
     FontMeasurer measurer;
     LogStore logStore;
+    CompareStore compareStore;
     ContestStore contestStore;
     DesktopFileManager fileManager;
     CrossCheckStore crossCheckStore;

@@ -2,6 +2,7 @@
 
 namespace quillon {
 
+class CompareStore;
 class ContestStore;
 class CrossCheckStore;
 class LogStore;
@@ -10,6 +11,7 @@ class LogStore;
 /// whoever takes this.
 struct AppStores {
     LogStore& log;
+    CompareStore& compare;
     ContestStore& contest;
     CrossCheckStore& crossCheck;
 };

@@ -5,6 +5,7 @@
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Sidebar/CheckSections.h"
+#include "Quillon/Views/Sidebar/CompareSections.h"
 #include "Quillon/Views/Sidebar/ContestSections.h"
 #include "Quillon/Views/Sidebar/CrossCheckSections.h"
 
@@ -26,7 +27,9 @@ struct OfferedMode {
 };
 
 std::vector<OfferedMode> offeredModes() {
-    return {{AppMode::check, QStringLiteral("Prüfen")}, {AppMode::contest, QStringLiteral("Contest")}};
+    return {{AppMode::check, QStringLiteral("Prüfen")},
+            {AppMode::compare, QStringLiteral("Vergleichen")},
+            {AppMode::contest, QStringLiteral("Contest")}};
 }
 
 }  // namespace
@@ -88,6 +91,8 @@ void SidebarPane::showMode() {
         connect(check, &CheckSections::checkRequested, this, &SidebarPane::checkRequested);
         connect(check, &CheckSections::fieldAdded, this, &SidebarPane::fieldAdded);
         sections = check;
+    } else if (stores.log.mode() == AppMode::compare) {
+        sections = new CompareSections(stores.compare, widget());
     } else if (stores.log.mode() == AppMode::contest) {
         sections = contestSections();
     }

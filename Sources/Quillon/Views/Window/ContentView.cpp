@@ -1,6 +1,7 @@
 #include "Quillon/Views/Window/ContentView.h"
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/LogStore.h"
@@ -74,7 +75,7 @@ ContentView::ContentView(const AppStores& appStores, Settings& userSettings, QSt
     new StoreSheets(stores.log, *this);
     new RedoKey(this);
     followStore();
-    alertOfFailures(stores.log, stores.crossCheck, *this);
+    alertOfFailures(stores, *this);
 }
 
 ContentView::~ContentView() = default;
@@ -156,6 +157,7 @@ void ContentView::buildPanes() {
     statusLine = new StatusLine(stores.log, area);
     areaLayout->addWidget(statusLine);
     connect(&table(), &QSOTableView::noticed, statusLine, &StatusLine::showNotice);
+    connect(workArea, &WorkArea::noticed, statusLine, &StatusLine::showNotice);
 }
 
 void ContentView::buildToolBar() {
@@ -270,9 +272,27 @@ void ContentView::dragEnterEvent(QDragEnterEvent* event) {
     const QStringList paths = takenFrom(*event->mimeData());
     if (!paths.isEmpty()) {
         event->acceptProposedAction();
-        dropHint->showFor(isForCrossCheck(paths) ? QStringLiteral("Logs in den Cross-Check aufzunehmen")
-                                                 : QStringLiteral("die Datei zu öffnen"));
+        showDropHint(*event);
     }
+}
+
+void ContentView::dragMoveEvent(QDragMoveEvent* event) {
+    showDropHint(*event);
+}
+
+void ContentView::showDropHint(const QDropEvent& event) {
+    QString what = QStringLiteral("die Datei zu öffnen");
+    if (const auto side = comparedSideAt(event)) {
+        what = *side == CompareStore::Side::left ? QStringLiteral("die Datei links zu laden")
+                                                 : QStringLiteral("die Datei rechts zu laden");
+    } else if (isForCrossCheck(takenFrom(*event.mimeData()))) {
+        what = QStringLiteral("Logs in den Cross-Check aufzunehmen");
+    }
+    dropHint->showFor(what);
+}
+
+std::optional<CompareStore::Side> ContentView::comparedSideAt(const QDropEvent& event) const {
+    return workArea->comparedSideAt(mapToGlobal(event.position().toPoint()));
 }
 
 void ContentView::dragLeaveEvent(QDragLeaveEvent*) {
@@ -291,7 +311,15 @@ void ContentView::dropEvent(QDropEvent* event) {
         workArea->crossCheck().addLogs(files);
         return;
     }
-    openFile(files.first());
+    const auto side = comparedSideAt(*event);
+    if (side) {
+        commitEditing();
+        showBusyCursorUntilIdle();
+        stores.compare.load(*side, files.first());
+        workArea->focus();
+    } else {
+        openFile(files.first());
+    }
     if (files.size() > 1 && !stores.log.errorMessage()) {
         statusLine->showNotice(QStringLiteral("Nur „%1“ wurde geöffnet, die erste von %2 Dateien")
                                    .arg(QFileInfo(files.first()).fileName())

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "Quillon/Stores/AppStores.h"
+#include "Tallyrig/Analysis/ADIFComparison.h"
 
 #include <QMainWindow>
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class QMimeData;
 
@@ -58,6 +60,7 @@ class ContentView : public QMainWindow {
   protected:
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -72,6 +75,9 @@ class ContentView : public QMainWindow {
     /// What the window takes of what is dragged over it: files, and for a cross-check folders too.
     QStringList takenFrom(const QMimeData& dragged) const;
     bool isForCrossCheck(const QStringList& paths) const;
+    /// Where the file is to be loaded if it is dropped on a comparison.
+    std::optional<tallyrig::ADIFComparison::Side> comparedSideAt(const QDropEvent& event) const;
+    void showDropHint(const QDropEvent& event);
     void openFile(const QString& path);
     /// What F6 goes through; some may be absent or hidden.
     QWidgetList panes() const;

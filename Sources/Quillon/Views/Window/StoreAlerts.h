@@ -4,10 +4,9 @@ class QWidget;
 
 namespace quillon {
 
-class CrossCheckStore;
-class LogStore;
+struct AppStores;
 
 /// Shows what has failed in the stores over `window`, each in an alert of its own. All outlive the alerts.
-void alertOfFailures(LogStore& log, CrossCheckStore& cross, QWidget& window);
+void alertOfFailures(const AppStores& stores, QWidget& window);
 
 }  // namespace quillon

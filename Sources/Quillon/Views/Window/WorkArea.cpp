@@ -4,6 +4,7 @@
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Compare/CompareView.h"
 #include "Quillon/Views/Contest/ContestView.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
@@ -89,6 +90,10 @@ bool WorkArea::isCrossCheckShown() const {
     return stores.log.mode() == AppMode::contest && stores.contest.pane() == ContestStore::Pane::crossCheck;
 }
 
+std::optional<tallyrig::ADIFComparison::Side> WorkArea::comparedSideAt(QPoint point) const {
+    return compareView != nullptr && compareView->isVisible() ? compareView->sideAt(point) : std::nullopt;
+}
+
 void WorkArea::showTable() {
     if (!isTableShown()) {
         stores.log.setMode(AppMode::check);
@@ -114,6 +119,9 @@ QWidgetList WorkArea::panes() const {
 
 void WorkArea::commitEditing() {
     tableView->commitEditing();
+    if (compareView != nullptr) {
+        compareView->commitEditing();
+    }
 }
 
 void WorkArea::showMode() {
@@ -137,13 +145,23 @@ QWidget* WorkArea::paneOfMode() {
     switch (stores.log.mode()) {
         case AppMode::contest:
             return isCrossCheckShown() ? static_cast<QWidget*>(crossCheckPane()) : contestPane();
-        case AppMode::check:
         case AppMode::compare:
+            return comparePane();
+        case AppMode::check:
         case AppMode::stats:
         case AppMode::outdoor:
             break;
     }
     return nullptr;
+}
+
+CompareView* WorkArea::comparePane() {
+    if (compareView == nullptr) {
+        compareView = new CompareView(stores.log, stores.compare, dashboard);
+        dashboard->addWidget(compareView);
+        connect(compareView, &CompareView::noticed, this, &WorkArea::noticed);
+    }
+    return compareView;
 }
 
 ContestView* WorkArea::contestPane() {

@@ -1,18 +1,23 @@
 #pragma once
 
 #include "Quillon/Stores/AppStores.h"
+#include "Tallyrig/Analysis/ADIFComparison.h"
 #include "Tallyrig/Log/UUID.h"
 
 #include <QObject>
+#include <QPoint>
+#include <QString>
 #include <QWidgetList>
 
 #include <memory>
+#include <optional>
 
 class QBoxLayout;
 class QStackedWidget;
 
 namespace quillon {
 
+class CompareView;
 class ContestView;
 class CrossCheckRunner;
 class CrossCheckView;
@@ -38,6 +43,8 @@ class WorkArea : public QObject {
 
     bool isTableShown() const;
     bool isCrossCheckShown() const;
+    /// The side of the comparison that is seen at `point` of the screen; absent where there is none.
+    std::optional<tallyrig::ADIFComparison::Side> comparedSideAt(QPoint point) const;
     /// Lets the mode be one that shows the table, if it is not.
     void showTable();
     /// Selects the QSO and shows it in the table, which takes the keyboard.
@@ -54,12 +61,15 @@ class WorkArea : public QObject {
   signals:
     /// The user wants the log checked once more.
     void checkRequested();
+    /// Something happened that cannot be seen in the panes; `text` says so.
+    void noticed(const QString& text);
 
   private:
     void buildTable(PaneSplitter& splitter);
     void showMode();
     void showResults();
     QWidget* paneOfMode();
+    CompareView* comparePane();
     ContestView* contestPane();
     CrossCheckView* crossCheckPane();
 
@@ -71,7 +81,8 @@ class WorkArea : public QObject {
     RecordDetailView* detailView = nullptr;
     QWidget* results = nullptr;           ///< Null until there are results to show.
     QStackedWidget* dashboard = nullptr;  ///< Takes the place of the table in the modes that want it.
-    ContestView* contestView = nullptr;   ///< Null until seen, as those below.
+    CompareView* compareView = nullptr;   ///< Null until seen, as those below.
+    ContestView* contestView = nullptr;
     CrossCheckView* crossView = nullptr;
     CrossCheckRunner* crossRunner;
 };

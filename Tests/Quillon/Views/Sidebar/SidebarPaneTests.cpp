@@ -1,5 +1,6 @@
 #include "Quillon/Views/Sidebar/SidebarPane.h"
 
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/ValidationSettings.h"
@@ -14,6 +15,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -26,7 +28,7 @@ namespace {
 class Sidebar : public testing::LogStoreTest {
   protected:
     void show() {
-        pane = std::make_unique<SidebarPane>(AppStores{store, contest, cross}, settings);
+        pane = std::make_unique<SidebarPane>(AppStores{store, compare, contest, cross}, settings);
         QObject::connect(pane.get(), &SidebarPane::checkRequested, &store, &LogStore::runCheck);
     }
     template <typename Control>
@@ -45,6 +47,7 @@ class Sidebar : public testing::LogStoreTest {
         return states;
     }
 
+    CompareStore compare{settings, panels};
     ContestStore contest;
     testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
@@ -282,6 +285,28 @@ TEST_F(ContestSidebar, SetsUpTheCheckOfManyLogs) {
     }
     EXPECT_FALSE(cross.includeCurrentLog() || cross.compareMode() || cross.checkExchange());
     EXPECT_TRUE(cross.checkRST() && !cross.removeBustedExchange());
+}
+
+TEST_F(Sidebar, LoadsAndSavesTheSidesOfAComparison) {
+    store.setMode(AppMode::compare);
+    show();
+    const QString path = folder.write("left.adi", testing::adi({"CALL=A"}));
+    EXPECT_NE(testing::shownTexts(*pane).find("CALL + QSO_DATE + TIME_ON + BAND + MODE"), std::string::npos);
+    EXPECT_FALSE(named<QPushButton>("Links speichern").isEnabled());
+    EXPECT_FALSE(named<QPushButton>("Rechts speichern").isEnabled());
+    panels.answers = {path};
+    named<QPushButton>("Links laden").click();
+    EXPECT_NE(testing::shownTexts(*pane).find("Links:\nleft.adi\nRechts:\n—"), std::string::npos)
+        << testing::shownTexts(*pane);
+    compare.leftBinding(compare.leftFile()->document.records()[0].id(), "CALL").write("B");
+    named<QPushButton>("Links speichern").click();
+    EXPECT_NE(folder.read("left.adi").find("<CALL:1>B"), std::string::npos);
+    named<QPushButton>("Aktuelles Log links").click();
+    EXPECT_EQ(compare.leftFile(), nullptr);
+    EXPECT_FALSE(named<QPushButton>("Aktuelles Log links").isEnabled());
+    panels.answers = {path};
+    named<QPushButton>("Rechts laden").click();
+    EXPECT_TRUE(named<QPushButton>("Rechts speichern").isEnabled());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "Quillon/Views/Window/Commands.h"
 
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
@@ -40,10 +41,11 @@ class Commands : public LogStoreTest {
     }
     QAction& action(CommandID command) const { return *window.actions().action(command); }
 
+    CompareStore compare{settings, panels};
     ContestStore contest;
     testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
-    ContentView window{AppStores{store, contest, cross}, settings, {}};
+    ContentView window{AppStores{store, compare, contest, cross}, settings, {}};
 };
 
 TEST_F(Commands, ShareNoShortcutAndNoLetterOfAMenu) {

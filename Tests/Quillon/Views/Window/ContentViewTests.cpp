@@ -1,5 +1,6 @@
 #include "Quillon/Views/Window/ContentView.h"
 
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
@@ -42,7 +43,8 @@ namespace {
 class Window : public testing::LogStoreTest {
   protected:
     void show(const QStringList& arguments = {}) {
-        window = std::make_unique<ContentView>(AppStores{store, contest, cross}, settings, arguments);
+        window =
+            std::make_unique<ContentView>(AppStores{store, compare, contest, cross}, settings, arguments);
         QSignalSpy up(window.get(), &ContentView::cameUp);
         window->show();
         window->activateWindow();
@@ -66,6 +68,7 @@ class Window : public testing::LogStoreTest {
         return focus != nullptr && window->findChild<QSOTableView*>()->isAncestorOf(focus);
     }
 
+    CompareStore compare{settings, panels};
     ContestStore contest;
     testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
@@ -220,6 +223,36 @@ TEST_F(Window, OpensAnExportSheetForAsLongAsItsFlagStands) {
     EXPECT_TRUE(isOpen());
     window->findChildren<EDIExportSheet*>().last()->reject();
     EXPECT_FALSE(store.showEDIExport());
+}
+
+TEST_F(Window, ComparesTheFileDroppedOnTheHalfWhereItFalls) {
+    show();
+    store.setMode(AppMode::compare);
+    QApplication::processEvents();
+    const QString path = folder.write(QStringLiteral("other.adi"), testing::adi({"CALL=DL1ABC"}));
+    const auto drop = [&](int x) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(QPoint(x, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &enter);
+        QDropEvent event(QPointF(x, 400), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &event);
+    };
+    drop(window->width() - 50);
+    EXPECT_TRUE(compare.hasRightFile());
+    EXPECT_EQ(compare.leftFile(), nullptr);
+    compare.rightBinding(compare.rightDoc().records()[0].id(), "CALL").write("X");
+    drop(window->width() - 50);
+    EXPECT_NE(status().find("Ungesicherte Änderungen an „other.adi“ wurden verworfen."), std::string::npos)
+        << status();
+    drop(400);
+    EXPECT_NE(compare.leftFile(), nullptr);
+    EXPECT_EQ(store.fileURL(), std::nullopt);
+    drop(100);
+    EXPECT_TRUE(store.fileURL()) << "beside the comparison, a file becomes the open log";
+    compare.setErrorMessage(QStringLiteral("Speichern fehlgeschlagen:\nVoll."));
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->windowTitle(), QStringLiteral("Fehler"));
 }
 
 TEST_F(Window, OpensTheFirstOfTheFilesDroppedAndSaysSo) {
