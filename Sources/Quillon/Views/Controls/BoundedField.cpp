@@ -58,6 +58,8 @@ BoundedField::BoundedField(int longestText, QWidget* parent) : QWidget(parent), 
 void BoundedField::setEditor(QWidget* editor) {
     layout()->addWidget(editor);
     setFocusProxy(editor);
+    // What takes no focus has no place in the order of the tab key.
+    setFocusPolicy(editor->focusPolicy());
 }
 
 void BoundedField::tellThatCut(bool isCut) {

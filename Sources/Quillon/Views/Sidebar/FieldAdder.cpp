@@ -41,6 +41,7 @@ FieldAdder::FieldAdder(LogStore& logStore, QWidget* parent)
     ownRow->addWidget(newFieldName, 1);
     ownRow->addWidget(addButton, 0, Qt::AlignTop);
     own->setFocusProxy(&newFieldName->editor());
+    own->setFocusPolicy(newFieldName->focusPolicy());
 
     auto* formSection = new SidebarSection(QString(), form);
     formSection->addLabelled(QStringLiteral("Standardfeld"), picker);

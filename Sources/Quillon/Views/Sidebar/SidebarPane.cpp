@@ -152,8 +152,12 @@ void SidebarPane::putIntoTabOrder() {
     QWidget* before = modePicker;
     for (QWidget* control : sections->findChildren<QWidget*>()) {
         // The list of a picker is a window of its own.
-        const bool isHere = control->window() == window() && control->focusProxy() == nullptr;
-        if (isHere && (control->focusPolicy() & Qt::TabFocus) != 0) {
+        const bool isHere = control->window() == window();
+        // A field and the widget around it are moved as one: where Tab comes upon that, it goes to the field.
+        const bool isPart = before->isAncestorOf(control);
+        const QWidget* const proxy = control->focusProxy();
+        const bool isStop = proxy == nullptr || control->isAncestorOf(proxy);
+        if (isHere && isStop && !isPart && (control->focusPolicy() & Qt::TabFocus) != 0) {
             setTabOrder(before, control);
             before = control;
         }

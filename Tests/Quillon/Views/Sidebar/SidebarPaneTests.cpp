@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -20,7 +21,9 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -246,6 +249,47 @@ TEST_F(ContestSidebar, HasTheFormOfAContestOfOnesOwn) {
     EXPECT_FALSE(offers("Feld"));
     EXPECT_FALSE(contest.genericContest().multiplierEnabled);
     EXPECT_TRUE(contest.genericContest().multiplierPerBand);
+}
+
+TEST_F(ContestSidebar, LeadsTheTabKeyFromTopToBottomAndBack) {
+    openLog({"CALL=DL1ABC"});
+    select({0});
+    const auto walk = [this](Qt::Key key) {
+        auto& first = named<QComboBox>("Ansicht");
+        first.setFocus();
+        std::vector<int> tops;
+        constexpr std::size_t most = 50;
+        do {
+            const QWidget* stop = QApplication::focusWidget();
+            tops.push_back(stop->mapTo(pane->widget(), QPoint()).y());
+            QTest::keyClick(QApplication::focusWidget(), key);
+        } while (QApplication::focusWidget() != &first && tops.size() < most);
+        return tops;
+    };
+    showFor(Contest::generic);
+    QWidget window;
+    pane->setParent(&window);
+    pane->show();
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const struct {
+        AppMode mode;
+        ContestStore::Pane pane;
+        std::size_t stops;
+    } cases[] = {{AppMode::check, {}, 15},
+                 {AppMode::contest, ContestStore::Pane::score, 18},
+                 {AppMode::contest, ContestStore::Pane::crossCheck, 15}};
+    for (const auto& shown : cases) {
+        SCOPED_TRACE(shown.stops);
+        contest.setPane(shown.pane);
+        store.setMode(shown.mode);
+        QCoreApplication::processEvents();
+        const auto down = walk(Qt::Key_Tab);
+        EXPECT_TRUE(std::ranges::is_sorted(down));
+        EXPECT_EQ(down.size(), shown.stops);
+        EXPECT_EQ(walk(Qt::Key_Backtab).size(), down.size());
+    }
+    pane->setParent(nullptr);
 }
 
 TEST_F(ContestSidebar, SetsUpTheCheckOfManyLogs) {
