@@ -3,13 +3,17 @@
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace quillon {
 
 EmptyState::EmptyState(const QIcon& picture, const QString& title, const QString& text, QWidget* parent)
-    : QWidget(parent), titleLabel(new QLabel(this)), textLabel(new QLabel(this)) {
+    : QWidget(parent),
+      column(new QVBoxLayout(this)),
+      titleLabel(new QLabel(this)),
+      textLabel(new QLabel(this)) {
     QFont bold = titleLabel->font();
     bold.setBold(true);
     titleLabel->setFont(bold);
@@ -19,13 +23,12 @@ EmptyState::EmptyState(const QIcon& picture, const QString& title, const QString
         label->setAlignment(Qt::AlignCenter);
         label->setWordWrap(true);
     }
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(6);
-    layout->addStretch(2);
-    layout->addWidget(pictureWidget(picture, 32, this), 0, Qt::AlignHCenter);
-    layout->addWidget(titleLabel);
-    layout->addWidget(textLabel);
-    layout->addStretch(3);
+    column->setSpacing(6);
+    column->addStretch(2);
+    column->addWidget(pictureWidget(picture, 32, this), 0, Qt::AlignHCenter);
+    column->addWidget(titleLabel);
+    column->addWidget(textLabel);
+    column->addStretch(3);
     setTexts(title, text);
 }
 
@@ -35,6 +38,13 @@ EmptyState::EmptyState(const QString& iconName, const QString& title, const QStr
 void EmptyState::setTexts(const QString& title, const QString& text) {
     titleLabel->setText(title);
     textLabel->setText(text);
+}
+
+void EmptyState::addButton(QAbstractButton* button) {
+    constexpr int gapPx = 8;
+    const int end = column->count() - 1;
+    column->insertSpacing(end, gapPx);
+    column->insertWidget(end + 1, button, 0, Qt::AlignHCenter);
 }
 
 }  // namespace quillon

@@ -3,7 +3,9 @@
 #include <QIcon>
 #include <QWidget>
 
+class QAbstractButton;
 class QLabel;
+class QVBoxLayout;
 
 namespace quillon {
 
@@ -17,8 +19,11 @@ class EmptyState : public QWidget {
     EmptyState(const QString& iconName, const QString& title, const QString& text, QWidget* parent = nullptr);
 
     void setTexts(const QString& title, const QString& text);
+    /// Puts a button under the sentence, by which the user can bring content.
+    void addButton(QAbstractButton* button);
 
   private:
+    QVBoxLayout* column;
     QLabel* titleLabel;
     QLabel* textLabel;
 };

@@ -15,12 +15,15 @@
 #include "Quillon/Views/CrossCheck/RankingModel.h"
 #include "Quillon/Views/CrossCheck/RankingTable.h"
 
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStackedLayout>
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -48,8 +51,11 @@ CrossCheckView::CrossCheckView(LogStore& logStore, CrossCheckStore& crossStore, 
     body->addWidget(resultPage());
     body->addWidget(new QWidget(this));
     column->addLayout(body, 1);
-    setFocusProxy(table);
 
+    constexpr int patienceMs = 250;
+    patience.setSingleShot(true);
+    patience.setInterval(patienceMs);
+    connect(&patience, &QTimer::timeout, strip, &QWidget::show);
     connect(&runner, &CrossCheckRunner::changed, this, &CrossCheckView::showProgress);
     connect(&store, &CrossCheckStore::evaluationChanged, this, &CrossCheckView::showResult);
     connect(&store, &CrossCheckStore::selectedLogIDChanged, this, &CrossCheckView::showFindings);
@@ -74,24 +80,19 @@ QWidget* CrossCheckView::progressStrip() {
     row->addWidget(stripButton);
     connect(stripButton, &QPushButton::clicked, this,
             [this] { runner.isRunning() ? runner.cancel() : runner.resume(); });
+    strip->hide();
     return strip;
 }
 
 QWidget* CrossCheckView::emptyPage() {
-    auto* page = new QWidget(this);
-    auto* message = new EmptyState(
+    auto* page = new EmptyState(
         QStringLiteral("view-list-details"), QStringLiteral("Mindestens zwei Logs nötig"),
         QStringLiteral("Füge in der Seitenleiste die Logs der Gegenstationen hinzu – einzeln oder als ganzen "
                        "Ordner (ADI, ADX, Cabrillo, EDI)."),
-        page);
-    auto* button =
-        new QPushButton(icon(QStringLiteral("list-add")), QStringLiteral("Logs hinzufügen …"), page);
-    connect(button, &QPushButton::clicked, &runner, &CrossCheckRunner::addLogsWithPanel);
-    auto* column = new QVBoxLayout(page);
-    column->setSpacing(0);
-    column->addWidget(message, 2);
-    column->addWidget(button, 0, Qt::AlignHCenter);
-    column->addStretch(3);
+        this);
+    addButton = new QPushButton(icon(QStringLiteral("list-add")), QStringLiteral("Logs hinzufügen …"), page);
+    connect(addButton, &QPushButton::clicked, &runner, &CrossCheckRunner::addLogsWithPanel);
+    page->addButton(addButton);
     return page;
 }
 
@@ -128,6 +129,14 @@ QWidget* CrossCheckView::resultPage() {
             [this](tallyrig::UUID chosen) { store.setSelectedLogID(chosen); });
     connect(findings, &FindingsCard::qsoWanted, this, &CrossCheckView::goTo);
     return page;
+}
+
+/// Not by a focus proxy: from behind the pane Tab would come back to it, and never leave.
+void CrossCheckView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    QWidget* const stops[] = {addButton, table, body->currentWidget()};
+    // From a page without a stop Qt takes the keyboard along to the page that takes its place.
+    stops[body->currentIndex()]->setFocus(event->reason());
 }
 
 void CrossCheckView::hideEvent(QHideEvent* event) {
@@ -188,10 +197,21 @@ void CrossCheckView::showFindings() {
 
 void CrossCheckView::showProgress() {
     const bool isRunning = runner.isRunning();
-    strip->setVisible(isRunning || runner.isGivenUp());
+    if (!isRunning) {
+        patience.stop();
+        strip->setVisible(runner.isGivenUp());
+        stripText->setMinimumWidth(0);
+    } else if (strip->isHidden() && !patience.isActive()) {
+        // What is done at once needs no word, and the result need not make room for it.
+        patience.start();
+    }
     stripText->setText(isRunning     ? runner.progressText()
                        : hasResult() ? QStringLiteral("Abgebrochen: Das Ergebnis ist noch das vorige.")
                                      : QStringLiteral("Abgebrochen."));
+    if (isRunning) {
+        // The bar stays where it is while the figure grows.
+        stripText->setMinimumWidth(std::max(stripText->minimumWidth(), stripText->sizeHint().width()));
+    }
     stripBar->setVisible(isRunning);
     stripBar->setValue(static_cast<int>(runner.progress() * stripBar->maximum()));
     choosePage();

@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Log/UUID.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -38,6 +39,7 @@ class CrossCheckView : public QWidget {
     void qsoWanted(tallyrig::UUID record);
 
   protected:
+    void focusInEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -62,6 +64,8 @@ class CrossCheckView : public QWidget {
     QLabel* stripText = nullptr;
     QProgressBar* stripBar = nullptr;
     QPushButton* stripButton = nullptr;
+    QTimer patience;  ///< Until a run is long enough to be told of.
+    QPushButton* addButton = nullptr;
     QStackedLayout* body = nullptr;
     std::array<Tile*, 4> tiles{};
     Card* rankingCard = nullptr;

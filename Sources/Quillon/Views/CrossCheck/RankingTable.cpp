@@ -107,6 +107,8 @@ void RankingTable::showLog(std::optional<tallyrig::UUID> log) {
         clearSelection();
         return;
     }
+    // Otherwise the row is brought into a view of the rows that were there before.
+    executeDelayedItemsLayout();
     // In the column where the keyboard was.
     const int column = std::max(currentIndex().column(), 0);
     setCurrentIndex(ranking.index(row, std::min(column, ranking.columnCount() - 1)));

@@ -10,7 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -145,6 +147,43 @@ TEST_F(CrossChecking, LeadsToAQSOOfTheOpenLogAlone) {
     cross.setFindingFilter(FindingFilter::all());
     press();
     EXPECT_EQ(wanted.size(), 2) << "the log of another is not open";
+}
+
+TEST_F(CrossChecking, TakesTheKeyboardAndLetsTabLeave) {
+    QWidget window;
+    auto* before = new QLineEdit(&window);
+    view->setParent(&window);
+    auto* behind = new QLineEdit(&window);
+    window.resize(1000, 700);
+    window.show();
+    view->show();
+    QApplication::setActiveWindow(&window);
+    view->setFocus();
+    EXPECT_EQ(QApplication::focusWidget(), testing::shownButton(*view, QStringLiteral("Logs hinzufügen …")));
+    add({b});
+    EXPECT_EQ(QApplication::focusWidget(), &table()) << "where the result is now";
+    for (int stop = 0; stop < 3; ++stop) {
+        EXPECT_TRUE(view->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(QApplication::focusWidget(), behind);
+    QTest::keyClick(behind, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), before);
+    view->setParent(nullptr);
+}
+
+TEST_F(CrossChecking, BringsTheChosenLogIntoViewWhereverItsRowIs) {
+    QStringList logs;
+    for (int log = 0; log < 60; ++log) {
+        const std::string call = "DL" + std::to_string(log) + "Z";
+        logs.append(write((call + ".adi").c_str(), {qso(call, "DL8X", "1500", "001", "001"),
+                                                    qso(call, "DL9X", "1500", "002", "001")}));
+    }
+    add({b, c});
+    table().setCurrentIndex(table().model()->index(2, 1));
+    add(logs);
+    EXPECT_GT(table().currentIndex().row(), 2);
+    EXPECT_TRUE(table().viewport()->rect().contains(table().visualRect(table().currentIndex())));
 }
 
 TEST_F(CrossChecking, KeepsWhatWasThereWhenTheUserGivesUp) {
