@@ -1,10 +1,14 @@
-// What the user sees: a frame of the table, and the first window.
+// What the user sees: a frame of the table and of a comparison, and the first window.
 
+#include "Quillon/Stores/CompareStore.h"
+#include "Quillon/Views/Compare/CompareTable.h"
+#include "Quillon/Views/Compare/CompareView.h"
 #include "Quillon/Views/Grid/TableScroll.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableQuestions.h"
 #include "StoreStandIns.h"
+#include "Tallyrig/Analysis/ADIFComparator.h"
 #include "Timing.h"
 
 #include <benchmark/benchmark.h>
@@ -14,6 +18,9 @@
 #include <QProcess>
 
 #include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace quillon {
 namespace {
@@ -63,6 +70,91 @@ void scrolling(benchmark::State& state) {
 }
 BENCHMARK(scrolling)->Arg(10'000)->Arg(1'000'000)->Iterations(300)->UseManualTime()->Unit(
     benchmark::kMillisecond);
+
+/// The comparison of the log of `count` QSOs with a copy in which each fiftieth is another one, which scrolls
+/// on and paints itself anew.
+class ScrollingComparison {
+  public:
+    explicit ScrollingComparison(std::size_t count) : log(count), compare(settings, panels) {
+        compare.setRight({editedCopy(log.log().document()), QStringLiteral("copy.adi"), {}});
+        view.emplace(log.log(), compare);
+        view->resize(1280, 800);
+        view->show();
+        QApplication::processEvents();
+        picture = QImage(view->size(), QImage::Format_RGB32);
+        lowest = ComparisonModel::rowHeight * static_cast<double>(count) - 800;
+    }
+
+    void paintNextFrame() {
+        position = position + ComparisonModel::rowHeight > lowest ? 0 : position + ComparisonModel::rowHeight;
+        view->table().scroll(ComparisonModel::Side::right).setScrollY(position);
+        view->render(&picture);
+    }
+
+  private:
+    static tallyrig::ADIFDocument editedCopy(tallyrig::ADIFDocument copy) {
+        std::size_t index = 0;
+        copy.records().transform(
+            [&index](const tallyrig::ADIFRecord& record) -> std::optional<tallyrig::ADIFRecord> {
+                if (++index % 50 != 0) {
+                    return std::nullopt;
+                }
+                tallyrig::ADIFRecord edited = record;
+                edited.set("RST_SENT", "339");
+                return edited;
+            });
+        return copy;
+    }
+
+    OpenLog log;
+    NoSettings settings;
+    NoPanels panels;
+    CompareStore compare;
+    std::optional<CompareView> view;
+    QImage picture;
+    double position = 0;
+    double lowest = 0;
+};
+
+/// A frame while scrolling, beside the same of a comparison of 200 rows.
+void scrollingComparison(benchmark::State& state) {
+    ScrollingComparison comparison(static_cast<std::size_t>(state.range(0)));
+    ScrollingComparison small(200);
+    inTurns(
+        state, "framesOf200", [&] { comparison.paintNextFrame(); }, [&] { small.paintNextFrame(); });
+}
+BENCHMARK(scrollingComparison)
+    ->Arg(10'000)
+    ->Arg(1'000'000)
+    ->Iterations(300)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// What follows of a key typed into a cell of a compared log, beside the comparison of both logs.
+void editingComparedLog(benchmark::State& state) {
+    OpenLog open(static_cast<std::size_t>(state.range(0)));
+    const tallyrig::ADIFDocument right = open.log().document();
+    tallyrig::ADIFDocument left = right;
+    const std::vector<std::string> keys = {"CALL", "QSO_DATE", "TIME_ON", "BAND", "MODE"};
+    ComparedLogs logs;
+    logs.follow(left, right, keys);
+    std::size_t edits = 0;
+    inTurns(
+        state, "comparisons",
+        [&] {
+            left.records().modify(left.records().size() / 2, [&edits](tallyrig::ADIFRecord& record) {
+                record.set("RST_SENT", std::to_string(++edits));
+            });
+            logs.follow(left, right, keys);
+        },
+        [&] { benchmark::DoNotOptimize(tallyrig::ADIFComparator(keys).compare(left, right)); });
+}
+BENCHMARK(editingComparedLog)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(10)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 /// From the start of the process to the first painted window, beside an empty one with the same libraries.
 void starting(benchmark::State& state) {
