@@ -11,7 +11,7 @@ Scripts/build.sh release Quillon
 # The status bar shows where the log lies, which is to be the same on every machine.
 folder=/var/tmp/Logbuch
 mkdir -p Docs/pictures "$folder"
-cp -r Examples/befunde.adi Examples/maerzcontest.adi Examples/crosscheck "$folder"
+cp -r Examples/befunde.adi Examples/maerzcontest.adi Examples/crosscheck Examples/vereinsabend*.adi "$folder"
 trap 'rm -r "$folder"' EXIT
 
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/befunde.adi" \
@@ -20,3 +20,5 @@ QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/maerzcontest.adi" \
     --grab Docs/pictures/contest.png --grab-size 1280x720 --grab-contest darcUKW
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon --crosscheck "$folder/crosscheck" \
     --grab Docs/pictures/crosscheck.png --grab-size 1280x800 --grab-contest darcUKW
+QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/vereinsabend.adi" \
+    --grab Docs/pictures/compare.png --grab-size 1280x640 --grab-compare "$folder/vereinsabend-abschrift.adi"

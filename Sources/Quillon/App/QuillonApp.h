@@ -28,6 +28,7 @@ class QuillonApp {
     ~QuillonApp();
 
     LogStore& store() { return logStore; }
+    CompareStore& compare() { return compareStore; }
     ContestStore& contest() { return contestStore; }
     ContentView& window() { return *contentView; }
     /// Tells the user that what was asked for last was given up.

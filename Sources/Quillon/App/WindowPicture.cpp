@@ -54,6 +54,7 @@ std::optional<WindowPicture> WindowPicture::takenFrom(QStringList& arguments) {
     picture.path = takeValue(arguments, QStringLiteral("--grab"));
     picture.withCheck = takeSwitch(arguments, QStringLiteral("--grab-check"));
     picture.isDark = takeSwitch(arguments, QStringLiteral("--grab-dark"));
+    picture.comparedFile = takeValue(arguments, QStringLiteral("--grab-compare"));
     picture.contest = contestNamed(takeValue(arguments, QStringLiteral("--grab-contest")).toStdString());
     picture.size = sizeFrom(takeValue(arguments, QStringLiteral("--grab-size")));
     if (const uint number = takeValue(arguments, QStringLiteral("--grab-select")).toUInt(); number > 0) {
@@ -78,6 +79,10 @@ void WindowPicture::takeOf(QuillonApp& app) const {
         }
         if (picture.selectedRecord) {
             app.store().selectRecord(*picture.selectedRecord);
+        }
+        if (!picture.comparedFile.isNull()) {
+            app.compare().load(CompareStore::Side::right, picture.comparedFile);
+            app.store().setMode(AppMode::compare);
         }
         if (picture.contest) {
             app.contest().setContest(*picture.contest);

@@ -19,6 +19,7 @@ class QuillonApp;
 ///     --grab FILE         opens what the other arguments ask for, writes a picture of the window and quits
 ///     --grab-check        with the results of the check
 ///     --grab-select N     with record N selected, counted from 1
+///     --grab-compare F    compared with the file F
 ///     --grab-contest C    with the score by the contest of this raw value
 ///     --grab-size WxH     with a window of this size in logical pixels
 ///     --grab-dark         with a dark palette
@@ -28,6 +29,7 @@ struct WindowPicture {
     QString path;
     bool withCheck = false;
     std::optional<std::size_t> selectedRecord;  ///< From zero.
+    QString comparedFile;                       ///< Null for none.
     std::optional<Contest> contest;
     std::optional<QSize> size;
     bool isDark = false;
