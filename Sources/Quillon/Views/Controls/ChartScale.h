@@ -1,0 +1,20 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <vector>
+
+namespace quillon {
+
+/// Where an axis of counts is labelled: whole numbers from 0 in equal steps of 1, 2 or 5 times a power of
+/// ten, up to the first that is not below `highest`; at least 0 and 1. Behind 0 stand `most` (1 or more) at
+/// most.
+std::vector<std::size_t> countTicks(std::size_t highest, std::size_t most);
+
+/// Where an axis of days is labelled that reaches from `first` to `last`, both included: ascending, one at
+/// least and `most` (2 or more) at most. According to the span they are days one, two, seven or fourteen
+/// apart, the first of a month, or the first of a year. Cost: the number of ticks.
+std::vector<std::chrono::sys_days> dayTicks(std::chrono::sys_days first, std::chrono::sys_days last,
+                                            std::size_t most);
+
+}  // namespace quillon
