@@ -21,9 +21,14 @@ Tile::Tile(const QString& caption, QWidget* parent)
     column->addStretch(1);
 }
 
+void Tile::setCaption(const QString& caption) {
+    word->setText(caption);
+    nameFigure();
+}
+
 void Tile::setFigure(const QString& figure, Tone tone) {
     number->setText(figure);
-    number->setAccessibleName(word->text() + QStringLiteral(": ") + figure);
+    nameFigure();
     figureTone = tone;
     color();
 }
@@ -37,6 +42,10 @@ void Tile::changeEvent(QEvent* event) {
 
 void Tile::paintEvent(QPaintEvent*) {
     paintCardGround(*this);
+}
+
+void Tile::nameFigure() {
+    number->setAccessibleName(word->text() + QStringLiteral(": ") + number->text());
 }
 
 void Tile::color() {

@@ -15,6 +15,7 @@ class Tile : public QWidget {
   public:
     explicit Tile(const QString& caption, QWidget* parent = nullptr);
 
+    void setCaption(const QString& caption);
     /// `figure` as it is read, such as "1.204".
     void setFigure(const QString& figure, Tone tone = Tone::plain);
 
@@ -23,6 +24,7 @@ class Tile : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void nameFigure();
     void color();
 
     QLabel* number;

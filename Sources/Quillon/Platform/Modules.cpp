@@ -1,0 +1,26 @@
+#include "Quillon/Platform/Modules.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QPluginLoader>
+
+namespace quillon {
+
+namespace {
+
+QString moduleFile(const QString& name) {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/quillon/") + name;
+}
+
+}  // namespace
+
+QObject* moduleRoot(const QString& name) {
+    QPluginLoader loader(moduleFile(name));
+    QObject* const root = loader.instance();
+    if (root == nullptr) {
+        qWarning().noquote() << loader.errorString();
+    }
+    return root;
+}
+
+}  // namespace quillon
