@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -29,6 +31,11 @@ QString takeValue(QStringList& arguments, const QString& name) {
 std::optional<QSize> sizeFrom(const QString& text) {
     const QStringList sides = text.split(QLatin1Char('x'));
     return sides.size() == 2 ? std::optional(QSize(sides[0].toInt(), sides[1].toInt())) : std::nullopt;
+}
+
+std::optional<AppMode> modeFrom(const QString& text) {
+    const auto* const mode = std::ranges::find(allAppModes, text, storedValue);
+    return mode != allAppModes.end() ? std::optional(*mode) : std::nullopt;
 }
 
 QPalette darkPalette() {
@@ -56,6 +63,7 @@ std::optional<WindowPicture> WindowPicture::takenFrom(QStringList& arguments) {
     picture.isDark = takeSwitch(arguments, QStringLiteral("--grab-dark"));
     picture.comparedFile = takeValue(arguments, QStringLiteral("--grab-compare"));
     picture.contest = contestNamed(takeValue(arguments, QStringLiteral("--grab-contest")).toStdString());
+    picture.mode = modeFrom(takeValue(arguments, QStringLiteral("--grab-mode")));
     picture.size = sizeFrom(takeValue(arguments, QStringLiteral("--grab-size")));
     if (const uint number = takeValue(arguments, QStringLiteral("--grab-select")).toUInt(); number > 0) {
         picture.selectedRecord = number - 1;
@@ -87,6 +95,9 @@ void WindowPicture::takeOf(QuillonApp& app) const {
         if (picture.contest) {
             app.contest().setContest(*picture.contest);
             app.store().setMode(AppMode::contest);
+        }
+        if (picture.mode) {
+            app.store().setMode(*picture.mode);
         }
         QTimer::singleShot(0, &app.window(), [picture, &app] {
             while (app.window().isWorking()) {

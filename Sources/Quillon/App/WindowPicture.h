@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quillon/Catalogue/Contests.h"
+#include "Quillon/Stores/AppMode.h"
 
 #include <QSize>
 #include <QString>
@@ -21,6 +22,7 @@ class QuillonApp;
 ///     --grab-select N     with record N selected, counted from 1
 ///     --grab-compare F    compared with the file F
 ///     --grab-contest C    with the score by the contest of this raw value
+///     --grab-mode M       in this mode, such as "stats"
 ///     --grab-size WxH     with a window of this size in logical pixels
 ///     --grab-dark         with a dark palette
 ///
@@ -31,6 +33,7 @@ struct WindowPicture {
     std::optional<std::size_t> selectedRecord;  ///< From zero.
     QString comparedFile;                       ///< Null for none.
     std::optional<Contest> contest;
+    std::optional<AppMode> mode;
     std::optional<QSize> size;
     bool isDark = false;
 

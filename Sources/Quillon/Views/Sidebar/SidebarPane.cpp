@@ -3,6 +3,7 @@
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/CalmComboBox.h"
+#include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Sidebar/CheckSections.h"
 #include "Quillon/Views/Sidebar/CompareSections.h"
@@ -29,6 +30,7 @@ struct OfferedMode {
 std::vector<OfferedMode> offeredModes() {
     return {{AppMode::check, QStringLiteral("Prüfen")},
             {AppMode::compare, QStringLiteral("Vergleichen")},
+            {AppMode::stats, QStringLiteral("Statistik")},
             {AppMode::contest, QStringLiteral("Contest")}};
 }
 
@@ -93,6 +95,10 @@ void SidebarPane::showMode() {
         sections = check;
     } else if (stores.log.mode() == AppMode::compare) {
         sections = new CompareSections(stores.compare, widget());
+    } else if (stores.log.mode() == AppMode::stats) {
+        sections = noteLabel(
+            QStringLiteral("Auswertung des aktuell geladenen Logbuchs – die Diagramme erscheinen rechts."),
+            widget());
     } else if (stores.log.mode() == AppMode::contest) {
         sections = contestSections();
     }

@@ -6,11 +6,13 @@
 #include "Quillon/Views/Check/CheckResultsView.h"
 #include "Quillon/Views/Compare/CompareView.h"
 #include "Quillon/Views/Contest/ContestView.h"
+#include "Quillon/Views/Controls/ChartPainter.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
 #include "Quillon/Views/CrossCheck/CrossCheckView.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
+#include "Quillon/Views/Statistics/StatsView.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableQuestions.h"
@@ -147,8 +149,9 @@ QWidget* WorkArea::paneOfMode() {
             return isCrossCheckShown() ? static_cast<QWidget*>(crossCheckPane()) : contestPane();
         case AppMode::compare:
             return comparePane();
-        case AppMode::check:
         case AppMode::stats:
+            return statsPane();
+        case AppMode::check:
         case AppMode::outdoor:
             break;
     }
@@ -181,6 +184,14 @@ CrossCheckView* WorkArea::crossCheckPane() {
         connect(crossView, &CrossCheckView::qsoWanted, this, &WorkArea::showQSO);
     }
     return crossView;
+}
+
+StatsView* WorkArea::statsPane() {
+    if (statsView == nullptr) {
+        statsView = new StatsView(stores.log, chartPainter(), dashboard);
+        dashboard->addWidget(statsView);
+    }
+    return statsView;
 }
 
 void WorkArea::showResults() {

@@ -24,6 +24,7 @@ class CrossCheckView;
 class PaneSplitter;
 class QSOTableView;
 class RecordDetailView;
+class StatsView;
 class TableQuestions;
 
 /// What stands beside the sidebar: the table with the findings below it and the chosen QSO at its right, or
@@ -72,6 +73,7 @@ class WorkArea : public QObject {
     CompareView* comparePane();
     ContestView* contestPane();
     CrossCheckView* crossCheckPane();
+    StatsView* statsPane();
 
     AppStores stores;
     std::unique_ptr<TableQuestions> questions;
@@ -84,6 +86,7 @@ class WorkArea : public QObject {
     CompareView* compareView = nullptr;   ///< Null until seen, as those below.
     ContestView* contestView = nullptr;
     CrossCheckView* crossView = nullptr;
+    StatsView* statsView = nullptr;
     CrossCheckRunner* crossRunner;
 };
 
