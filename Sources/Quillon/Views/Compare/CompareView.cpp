@@ -6,6 +6,7 @@
 #include "Quillon/Views/Compare/CompareTitle.h"
 #include "Quillon/Views/Compare/StatusSign.h"
 #include "Quillon/Views/Controls/EmptyState.h"
+#include "Quillon/Views/Controls/FlowLayout.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
@@ -30,7 +31,13 @@ using Status = ComparisonModel::Status;
 constexpr std::array allStatus = {Status::equal, Status::differs, Status::onlyLeft, Status::onlyRight};
 constexpr std::size_t mostHeaderLines = 200;
 constexpr std::size_t longestHeaderValue = 200;
-constexpr int highestHeaderLines = 5;
+
+QHBoxLayout* rowIn(QWidget* widget) {
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(4);
+    return row;
+}
 
 QString shown(std::string_view text) {
     return toQString(tallyrig::text::visibleText(cutToShow(text, longestHeaderValue)));
@@ -118,20 +125,27 @@ QWidget* CompareView::headerBar() {
 
 QWidget* CompareView::summaryBar() {
     auto* bar = new QWidget(this);
-    auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(12, 4, 12, 4);
-    row->setSpacing(4);
+    auto* flow = new FlowLayout(bar);
+    flow->setContentsMargins(12, 4, 12, 4);
+    flow->setSpacing(12);
     for (const Status status : allStatus) {
-        row->addWidget(new StatusSign(status, bar));
+        auto* entry = new QWidget(bar);
         QLabel*& count = counts[static_cast<std::size_t>(status)];
-        count = new QLabel(bar);
-        row->addWidget(count);
-        row->addSpacing(8);
+        count = new QLabel(entry);
+        rowIn(entry)->addWidget(new StatusSign(status, entry));
+        entry->layout()->addWidget(count);
+        flow->addWidget(entry);
     }
     rowCount = new QLabel(bar);
-    row->addWidget(rowCount);
-    row->addStretch(1);
-    differencesOnly = new QCheckBox(QStringLiteral("Nur Unterschiede"), bar);
+    flow->addWidget(rowCount);
+    flow->addWidget(wayThroughDifferences(bar));
+    return bar;
+}
+
+QWidget* CompareView::wayThroughDifferences(QWidget* parent) {
+    auto* way = new QWidget(parent);
+    QHBoxLayout* const row = rowIn(way);
+    differencesOnly = new QCheckBox(QStringLiteral("Nur Unterschiede"), way);
     connect(differencesOnly, &QCheckBox::toggled, this, [this](bool only) {
         commitEditing();
         comparison->setDifferencesOnly(only);
@@ -144,7 +158,7 @@ QWidget* CompareView::summaryBar() {
     row->addWidget(previous);
     row->addWidget(next);
     tables->addMenuActions({next->defaultAction(), previous->defaultAction()});
-    return bar;
+    return way;
 }
 
 QToolButton* CompareView::stepButton(const QString& text, const QString& iconName,
@@ -236,10 +250,24 @@ void CompareView::showHeaderDifferences() {
     }
     headerText->setText(lines.join(QLatin1Char('\n')));
     headerArea->setVisible(!differences.empty());
-    const int line = fontMetrics().lineSpacing();
-    const int wanted = static_cast<int>(std::min<qsizetype>(lines.size(), highestHeaderLines));
-    headerScroll->setFixedHeight((wanted + 1) * line + 18);
-    headerScroll->setFocusPolicy(lines.size() > wanted ? Qt::TabFocus : Qt::NoFocus);
+    fitHeaderBar();
+}
+
+/// It leaves the tables most of the height, and can be scrolled by the keyboard where it does not show all.
+void CompareView::fitHeaderBar() {
+    const QLayout& content = *headerScroll->widget()->layout();
+    const int all = content.totalHeightForWidth(headerScroll->viewport()->width());
+    if (all < 0) {
+        return;
+    }
+    const int most = std::max(height() / 5, 3 * fontMetrics().lineSpacing());
+    headerScroll->setFixedHeight(std::min(all, most));
+    headerScroll->setFocusPolicy(all > most ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void CompareView::resizeEvent(QResizeEvent* event) {
+    fitHeaderBar();
+    QWidget::resizeEvent(event);
 }
 
 void CompareView::focusInEvent(QFocusEvent*) {

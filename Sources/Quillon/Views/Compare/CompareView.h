@@ -46,6 +46,7 @@ class CompareView : public QWidget {
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
   private:
@@ -53,11 +54,13 @@ class CompareView : public QWidget {
     QWidget* comparisonPage();
     QWidget* headerBar();
     QWidget* summaryBar();
+    QWidget* wayThroughDifferences(QWidget* parent);
     QToolButton* stepButton(const QString& text, const QString& iconName, void (CompareView::*step)(),
                             Qt::KeyboardModifiers keys);
     void showComparison();
     void showCounts();
     void showHeaderDifferences();
+    void fitHeaderBar();
     void finishStep(bool isThere);
 
     CompareStore& store;

@@ -8,6 +8,8 @@
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/VisibleText.h"
 
+#include <QFontMetricsF>
+
 #include <algorithm>
 #include <cmath>
 
@@ -23,6 +25,12 @@ TableMetrics compareMetrics() {
     TableMetrics metrics = desktopTableMetrics();
     metrics.rowHeight += ComparisonModel::rowHeight - TableMetrics().rowHeight;
     return metrics;
+}
+
+/// How much larger letters are than in the largest of the usual fonts.
+double letterScale() {
+    constexpr double usualHeight = 16;
+    return std::max(1.0, QFontMetricsF(fontFor(MeasuredFont::cell)).height() / usualHeight);
 }
 
 std::optional<tallyrig::UUID> idOf(const tallyrig::ADIFRecord* record) {
@@ -107,10 +115,6 @@ void ComparisonModel::showRows() {
 
 // Rows and columns.
 
-double ComparisonModel::scale() const {
-    return places.rowHeight() / rowHeight;
-}
-
 void ComparisonModel::refreshGeometry() {
     const TableMetrics metrics = compareMetrics();
     std::vector<double> columnWidths;
@@ -118,14 +122,14 @@ void ComparisonModel::refreshGeometry() {
     for (const std::string& column : compared.columns()) {
         const auto set = widths.find(column);
         const double width = set == widths.end() ? cellWidth : set->second;
-        columnWidths.push_back(std::round(width * metrics.rowHeight / rowHeight));
+        columnWidths.push_back(std::round(width * letterScale()));
     }
     places = TableGeometry(columnWidths, compared.rowCount(), StatusGutter::hidden, metrics);
     emit geometryChanged();
 }
 
 void ComparisonModel::setColumnWidth(std::size_t column, double width) {
-    widths[compared.columns()[column]] = std::clamp(width, narrowestColumn, widestColumn) / scale();
+    widths[compared.columns()[column]] = std::clamp(width, narrowestColumn, widestColumn) / letterScale();
     refreshGeometry();
 }
 

@@ -33,7 +33,7 @@ class ComparisonModel : public QObject {
     /// With more QSOs than these in both logs, comparing takes so long that the user is shown it.
     static constexpr std::size_t longLogs = 100'000;
     static constexpr double cellWidth = 92;  ///< Of a column whose width nobody changed.
-    static constexpr double rowHeight = 24;  ///< In the usual font, as the width.
+    static constexpr double rowHeight = 24;  ///< Both in the usual fonts; they grow with larger ones.
 
     /// Both outlive the model.
     ComparisonModel(LogStore& logStore, CompareStore& compareStore, QObject* parent = nullptr);
@@ -104,7 +104,6 @@ class ComparisonModel : public QObject {
     std::optional<std::size_t> columnOf(const std::string& field) const;
     void noteCurrentCell(CellPosition cell);
     bool goTo(std::optional<std::size_t> row);
-    double scale() const;
 
     LogStore& log;
     CompareStore& store;

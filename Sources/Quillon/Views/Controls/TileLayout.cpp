@@ -1,16 +1,12 @@
 #include "Quillon/Views/Controls/TileLayout.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace quillon {
 
-TileLayout::TileLayout(QWidget* parent) : QLayout(parent) {
-    setContentsMargins(0, 0, 0, 0);
+TileLayout::TileLayout(QWidget* parent) : ItemLayout(parent) {
     setSpacing(12);
 }
-
-TileLayout::~TileLayout() = default;
 
 int TileLayout::columns(int count, int width, int leastWidth, int gap) {
     int inRow = std::max(count, 1);
@@ -18,23 +14,6 @@ int TileLayout::columns(int count, int width, int leastWidth, int gap) {
         --inRow;
     }
     return inRow;
-}
-
-void TileLayout::addItem(QLayoutItem* item) {
-    items.emplace_back(item);
-}
-
-QLayoutItem* TileLayout::itemAt(int index) const {
-    return index >= 0 && index < count() ? items[static_cast<std::size_t>(index)].get() : nullptr;
-}
-
-QLayoutItem* TileLayout::takeAt(int index) {
-    if (index < 0 || index >= count()) {
-        return nullptr;
-    }
-    QLayoutItem* const taken = items[static_cast<std::size_t>(index)].release();
-    items.erase(items.begin() + index);
-    return taken;
 }
 
 int TileLayout::heightForWidth(int width) const {
@@ -50,11 +29,7 @@ QSize TileLayout::sizeHint() const {
 }
 
 QSize TileLayout::minimumSize() const {
-    QSize largest;
-    for (const auto& item : items) {
-        largest = largest.expandedTo(item->sizeHint());
-    }
-    return largest;
+    return largestItem();
 }
 
 void TileLayout::setGeometry(const QRect& area) {

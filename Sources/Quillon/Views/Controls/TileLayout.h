@@ -1,32 +1,21 @@
 #pragma once
 
-#include <QLayout>
-
-#include <memory>
-#include <vector>
+#include "Quillon/Views/Controls/ItemLayout.h"
 
 namespace quillon {
 
 /// Puts tiles of one size beside each other, in as many rows of equally many as the width asks for: six
 /// tiles stand in one row, in two, in three or in six.
-class TileLayout : public QLayout {
+class TileLayout : public ItemLayout {
     Q_OBJECT
 
   public:
     explicit TileLayout(QWidget* parent = nullptr);
-    ~TileLayout() override;
 
     /// How many tiles stand in a row: the largest divisor of `count` so that each has `leastWidth` at least,
     /// with the gaps between them in `width`; 1 if none has.
     static int columns(int count, int width, int leastWidth, int gap);
 
-    void addItem(QLayoutItem* item) override;
-    int count() const override { return static_cast<int>(items.size()); }
-    QLayoutItem* itemAt(int index) const override;
-    QLayoutItem* takeAt(int index) override;
-
-    Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
-    bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
     /// All tiles in one row.
     QSize sizeHint() const override;
@@ -36,8 +25,6 @@ class TileLayout : public QLayout {
 
   private:
     int rowHeight(int tileWidth) const;
-
-    std::vector<std::unique_ptr<QLayoutItem>> items;
 };
 
 }  // namespace quillon
