@@ -21,10 +21,10 @@ constexpr double lineOpacity = 0.22;
 
 }  // namespace
 
-CentreBar::CentreBar(ComparisonModel& comparisonModel, TableScroll& tableScroll, CompareBody& besideBody)
+CentreBar::CentreBar(const ComparisonModel& comparisonModel, TableScroll& tableScroll,
+                     const CompareBody& besideBody)
     : QWidget(&tableScroll), model(comparisonModel), scroll(tableScroll), body(besideBody) {
     setAccessibleName(QStringLiteral("Status der Zeilen"));
-    body.leavePressesTo(*this);
     const auto refresh = [this] { update(); };
     connect(&tableScroll, &TableScroll::scrollYChanged, this, refresh);
     connect(&model, &ComparisonModel::logsChanged, this, refresh);
@@ -70,11 +70,7 @@ std::optional<std::size_t> CentreBar::rowAt(QPointF point) const {
 }
 
 void CentreBar::mousePressEvent(QMouseEvent* event) {
-    if (const auto row = rowAt(event->position())) {
-        body.pressRow(*row);
-    } else {
-        body.commitEditing();
-    }
+    emit pressed(rowAt(event->position()));
 }
 
 bool CentreBar::event(QEvent* event) {

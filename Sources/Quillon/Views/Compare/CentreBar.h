@@ -9,18 +9,21 @@ namespace quillon {
 class CompareBody;
 class TableScroll;
 
-/// The strip between the two tables of a comparison, which tells of each row what it is. A press on a sign
-/// makes the row the current one.
+/// The strip between the two tables of a comparison, which tells of each row what it is.
 class CentreBar : public QWidget {
     Q_OBJECT
 
   public:
-    /// All outlive the bar. It stands beside the header and the rows of `body`, which it takes the number of
-    /// its rows and its place from.
-    CentreBar(ComparisonModel& comparisonModel, TableScroll& tableScroll, CompareBody& besideBody);
+    /// All outlive the bar. It stands beside the header and the rows of `besideBody`.
+    CentreBar(const ComparisonModel& comparisonModel, TableScroll& tableScroll,
+              const CompareBody& besideBody);
 
     /// The place of the row's sign in the coordinates of this widget.
     QRectF signArea(std::size_t row) const;
+
+  signals:
+    /// The mouse was pressed on the sign of this row; absent above and below all signs.
+    void pressed(std::optional<std::size_t> row);
 
   protected:
     bool event(QEvent* event) override;
@@ -31,9 +34,9 @@ class CentreBar : public QWidget {
     std::optional<std::size_t> rowAt(QPointF point) const;
     void fitWidth();
 
-    ComparisonModel& model;
+    const ComparisonModel& model;
     TableScroll& scroll;
-    CompareBody& body;
+    const CompareBody& body;
 };
 
 }  // namespace quillon

@@ -162,6 +162,8 @@ void CompareBody::startEditing(CellPosition cell) {
     }
     model.showCell(cell);
     if (!isCellEditable(cell)) {
+        emit noticed(shownSide == Side::left ? QStringLiteral("Dieses QSO gibt es nur rechts.")
+                                             : QStringLiteral("Dieses QSO gibt es nur links."));
         return;
     }
     edited = model.binding(cell, shownSide);

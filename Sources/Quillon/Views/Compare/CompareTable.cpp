@@ -25,6 +25,15 @@ CompareTable::CompareTable(ComparisonModel& comparisonModel, QWidget* parent)
     left.scroll->moveUpAndDownWith(*right.scroll);
     setMinimumSize(left.scroll->minimumSizeHint().width() + right.scroll->minimumSizeHint().width(),
                    right.scroll->minimumSizeHint().height());
+    for (const Half& each : {left, right}) {
+        each.body->leavePressesTo(*bar);
+    }
+    connect(bar, &CentreBar::pressed, this, [this](std::optional<std::size_t> row) {
+        commitEditing();
+        if (row) {
+            body(model.usedSide()).pressRow(*row);
+        }
+    });
     connect(&model, &ComparisonModel::geometryChanged, this, &CompareTable::fitContent);
     connect(&model, &ComparisonModel::cellWanted, this, [this] {
         for (const Half& each : {left, right}) {

@@ -169,8 +169,20 @@ TEST_F(Comparing, EditsEitherSideByTheKeysOfATable) {
     press(Qt::Key_Up);
     typeText("x");
     EXPECT_FALSE(side(Side::right).editor().isOpen()) << "there is no QSO in this row";
+    QApplication::clipboard()->setText(QStringLiteral("3"));
+    press(Qt::Key_Up);
+    press(Qt::Key_V, Qt::ControlModifier);
+    press(Qt::Key_Return);
+    EXPECT_EQ(rightCell(0, "CALL"), "3");
+    press(Qt::Key_V, Qt::ControlModifier);
+    QTest::mouseClick(&view->table().centreBar(), Qt::LeftButton, {},
+                      view->table().centreBar().signArea(0).center().toPoint());
+    QApplication::processEvents();
+    EXPECT_FALSE(side(Side::right).editor().isOpen());
+    EXPECT_EQ(current().front(), '0');
+    EXPECT_TRUE(side(Side::right).hasFocus()) << "the side where it was";
     press(Qt::Key_End, Qt::ControlModifier);
-    EXPECT_EQ(current(), "2/2");
+    EXPECT_EQ(current(), "3/2");
 }
 
 TEST_F(Comparing, StaysWithTheRecordWhoseKeyIsEdited) {
