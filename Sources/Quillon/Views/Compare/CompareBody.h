@@ -40,6 +40,8 @@ class CompareBody : public QWidget, public AccessibleTable {
     void startEditing(CellPosition cell);
     const InlineEditor& editor() const { return *cellEditor; }
     void commitEditing() { cellEditor->commit(); }
+    /// Closes the editor without writing.
+    void dismissEditor() { cellEditor->dismiss(); }
     /// Lets `strip` turn presses on it into `pressRow` before an open editor is committed.
     void leavePressesTo(const QWidget& strip) { cellEditor->leavePressesTo(strip); }
     /// As a press of the mouse on the row, but not on one of its cells.

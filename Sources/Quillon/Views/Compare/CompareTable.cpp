@@ -71,7 +71,7 @@ TableScroll& CompareTable::scroll(Side side) const {
 
 /// The keys that are shown are handled by the rows themselves.
 void CompareTable::addCellActions(CompareBody& rows) {
-    auto* edit = new QAction(QStringLiteral("&Bearbeiten\tReturn"), &rows);
+    auto* edit = new QAction(QStringLiteral("&Bearbeiten\tF2"), &rows);
     auto* copy = new QAction(QStringLiteral("Wert &kopieren\tStrg+C"), &rows);
     connect(edit, &QAction::triggered, &rows, &CompareBody::editCurrentCell);
     connect(copy, &QAction::triggered, &rows, &CompareBody::copyCell);
@@ -110,6 +110,11 @@ void CompareTable::enterSideWithRecord() {
 void CompareTable::commitEditing() {
     left.body->commitEditing();
     right.body->commitEditing();
+}
+
+void CompareTable::dismissEditors() {
+    left.body->dismissEditor();
+    right.body->dismissEditor();
 }
 
 void CompareTable::fitContent() {

@@ -37,6 +37,8 @@ class CompareTable : public QWidget {
     void enterSideWithRecord();
     /// Writes what stands in an open editor and closes it.
     void commitEditing();
+    /// Closes it without writing.
+    void dismissEditors();
 
   signals:
     /// What the user wanted does not work here; `text` says why.

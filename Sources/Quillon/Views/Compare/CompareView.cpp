@@ -74,7 +74,10 @@ CompareView::CompareView(LogStore& logStore, CompareStore& compareStore, QWidget
     showComparison();
 }
 
-CompareView::~CompareView() = default;
+CompareView::~CompareView() {
+    // An editor that loses the focus on its way out would still write, by a model that is gone.
+    tables->dismissEditors();
+}
 
 QWidget* CompareView::emptyPage() {
     return new EmptyState(QStringLiteral("view-split-left-right"), QStringLiteral("Nichts zu vergleichen"),

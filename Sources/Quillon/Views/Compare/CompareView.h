@@ -25,7 +25,8 @@ class CompareView : public QWidget {
     Q_OBJECT
 
   public:
-    /// Both outlive the view.
+    /// Both outlive the view. What stands in an open editor when it ends is dropped: whoever ends it by a
+    /// command of the user commits first.
     CompareView(LogStore& logStore, CompareStore& compareStore, QWidget* parent = nullptr);
     ~CompareView() override;
 

@@ -34,8 +34,9 @@ ComparedLogs::Change ComparedLogs::follow(const ADIFDocument& left, const ADIFDo
     }
     if (keyFields == keys && isLeftSame != isRightSame) {
         const std::vector<std::string> columnsBefore = columns();
+        const std::size_t rowsBefore = rowCount();
         if (followEdit(isLeftSame ? right : left, isLeftSame ? Side::right : Side::left)) {
-            return columns() == columnsBefore ? Change::row : Change::all;
+            return columns() == columnsBefore && rowCount() == rowsBefore ? Change::row : Change::all;
         }
     }
     leftLog = left;

@@ -185,6 +185,15 @@ TEST_F(Comparing, EditsEitherSideByTheKeysOfATable) {
     EXPECT_EQ(current(), "3/2");
 }
 
+TEST_F(Comparing, WritesNothingOnItsWayOut) {
+    openLog({"CALL=A"});
+    show();
+    click(Side::left, 0, 0);
+    typeText("X");
+    view.reset();
+    EXPECT_EQ(cell(0, "CALL"), "A");
+}
+
 TEST_F(Comparing, StaysWithTheRecordWhoseKeyIsEdited) {
     openLog({"CALL=A", "CALL=B"});
     loadRight({"CALL=A", "CALL=B"});

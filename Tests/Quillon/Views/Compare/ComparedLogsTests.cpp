@@ -80,7 +80,7 @@ TEST_F(LogsSideBySide, ShowDifferencesOnlyAndKeepARowThatBecameEqual) {
     EXPECT_EQ(rows(), "B= <C >E") << "the row that the user works on does not vanish";
     EXPECT_EQ(logs.nextDifference(0), 1U);
     edit(right, 0, "RST", "2");
-    follow();
+    EXPECT_EQ(follow(), Change::all);
     EXPECT_EQ(rows(), "B= <C D! >E") << "one that came to differ is shown";
     logs.show(ComparedLogs::Shown::all);
     EXPECT_EQ(rows(), "A= B= <C D! >E");
