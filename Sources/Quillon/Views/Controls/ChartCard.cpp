@@ -58,6 +58,13 @@ void ChartCard::setData(ChartData chartData) {
     fillNumbers();
 }
 
+QWidget* ChartCard::firstControl() const {
+    if (data->entries.empty()) {
+        return nullptr;
+    }
+    return bars != nullptr ? static_cast<QWidget*>(bars) : numbers;
+}
+
 void ChartCard::fitScrollBar() {
     const ChartGeometry& places = bars->places();
     const auto beyond = static_cast<int>(places.barCount() - places.barsInSight());

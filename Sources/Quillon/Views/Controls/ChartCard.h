@@ -28,6 +28,8 @@ class ChartCard : public Card {
 
     /// Null without a painter.
     Chart* chart() const { return bars; }
+    /// What takes the keyboard first; null if nothing does.
+    QWidget* firstControl() const;
     void showNumbers(bool shown);
     void copyNumbers() const;
 

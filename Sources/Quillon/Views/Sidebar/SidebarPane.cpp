@@ -5,6 +5,7 @@
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
+#include "Quillon/Views/Controls/TabOrder.h"
 #include "Quillon/Views/Sidebar/CheckSections.h"
 #include "Quillon/Views/Sidebar/CompareSections.h"
 #include "Quillon/Views/Sidebar/ContestSections.h"
@@ -104,7 +105,7 @@ void SidebarPane::showMode() {
     }
     if (sections != nullptr) {
         column->insertWidget(1, sections);
-        putIntoTabOrder();
+        putIntoTabOrder(*modePicker, *sections);
     }
 }
 
@@ -151,23 +152,6 @@ void SidebarPane::showWhole(const QWidget& control) {
     constexpr int marginPx = 6;
     const QPoint middle = control.mapTo(widget(), control.rect().center());
     ensureVisible(middle.x(), middle.y(), 0, control.height() / 2 + marginPx);
-}
-
-/// What is made last comes last, behind the other panes, unless it is told its place.
-void SidebarPane::putIntoTabOrder() {
-    QWidget* before = modePicker;
-    for (QWidget* control : sections->findChildren<QWidget*>()) {
-        // The list of a picker is a window of its own.
-        const bool isHere = control->window() == window();
-        // A field and the widget around it are moved as one: where Tab comes upon that, it goes to the field.
-        const bool isPart = before->isAncestorOf(control);
-        const QWidget* const proxy = control->focusProxy();
-        const bool isStop = proxy == nullptr || control->isAncestorOf(proxy);
-        if (isHere && isStop && !isPart && (control->focusPolicy() & Qt::TabFocus) != 0) {
-            setTabOrder(before, control);
-            before = control;
-        }
-    }
 }
 
 }  // namespace quillon

@@ -41,7 +41,6 @@ class SidebarPane : public QScrollArea {
     void showMode();
     /// The sections for the contest, with the choice of its pane above them.
     QWidget* contestSections();
-    void putIntoTabOrder();
     void showWhole(const QWidget& control);
     void makeRoom();
 

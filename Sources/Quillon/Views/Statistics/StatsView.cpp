@@ -57,7 +57,6 @@ StatsView::StatsView(const LogStore& logStore, ChartPainter* painter, QWidget* p
                                    this));
     body->addWidget(page);
     setFocusProxy(page);
-
     pause.setSingleShot(true);
     connect(&pause, &QTimer::timeout, this, &StatsView::compute);
     connect(&log, &LogStore::documentChanged, this, &StatsView::computeWhenIdle);
@@ -130,6 +129,16 @@ void StatsView::arrangeTiles(int width) {
     figures->setDirection(needed <= width ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
+/// The first chart takes the keyboard: it shows that it has it, and the keys that it has no use for scroll.
+void StatsView::takeKeyboard() {
+    QWidget* first = nullptr;
+    for (const ChartCard* card : {bands, modes, days, countries}) {
+        first = first != nullptr ? first : card->firstControl();
+    }
+    page->setFocusPolicy(first != nullptr ? Qt::NoFocus : Qt::StrongFocus);
+    setFocusProxy(first != nullptr ? first : page);
+}
+
 void StatsView::compute() {
     pause.stop();
     isStale = false;
@@ -158,6 +167,7 @@ void StatsView::fill(tallyrig::ADIFStatistics statistics) {
     days->setData(StatisticsCharts::days(statistics.byDay));
     countries->setVisible(!statistics.byCountry.empty());
     countries->setData(StatisticsCharts::countries(std::move(statistics.byCountry)));
+    takeKeyboard();
     arrangeTiles(page->widget()->layout()->contentsRect().width());
 }
 

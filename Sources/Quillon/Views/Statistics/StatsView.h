@@ -48,6 +48,7 @@ class StatsView : public QWidget {
     QWidget* keyFigures();
     QWidget* bandsAndModes(ChartPainter* painter);
     void arrangeTiles(int width);
+    void takeKeyboard();
     void computeWhenIdle();
     void compute();
     void fill(tallyrig::ADIFStatistics statistics);

@@ -9,6 +9,7 @@
 #include "Quillon/Views/Controls/ChartPainter.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
+#include "Quillon/Views/Controls/TabOrder.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
 #include "Quillon/Views/CrossCheck/CrossCheckView.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
@@ -158,10 +159,15 @@ QWidget* WorkArea::paneOfMode() {
     return nullptr;
 }
 
+void WorkArea::addPane(QWidget& pane) {
+    dashboard->addWidget(&pane);
+    putIntoTabOrder(tableView->body(), pane);
+}
+
 CompareView* WorkArea::comparePane() {
     if (compareView == nullptr) {
         compareView = new CompareView(stores.log, stores.compare, dashboard);
-        dashboard->addWidget(compareView);
+        addPane(*compareView);
         connect(compareView, &CompareView::noticed, this, &WorkArea::noticed);
     }
     return compareView;
@@ -170,7 +176,7 @@ CompareView* WorkArea::comparePane() {
 ContestView* WorkArea::contestPane() {
     if (contestView == nullptr) {
         contestView = new ContestView(stores.log, stores.contest, mostContestIssues, dashboard);
-        dashboard->addWidget(contestView);
+        addPane(*contestView);
         connect(contestView, &ContestView::qsoWanted, this, &WorkArea::showQSO);
     }
     return contestView;
@@ -180,7 +186,7 @@ CrossCheckView* WorkArea::crossCheckPane() {
     if (crossView == nullptr) {
         crossView = new CrossCheckView(stores.log, stores.crossCheck, *crossRunner, mostCrossCheckFindings,
                                        dashboard);
-        dashboard->addWidget(crossView);
+        addPane(*crossView);
         connect(crossView, &CrossCheckView::qsoWanted, this, &WorkArea::showQSO);
     }
     return crossView;
@@ -189,7 +195,7 @@ CrossCheckView* WorkArea::crossCheckPane() {
 StatsView* WorkArea::statsPane() {
     if (statsView == nullptr) {
         statsView = new StatsView(stores.log, chartPainter(), dashboard);
-        dashboard->addWidget(statsView);
+        addPane(*statsView);
     }
     return statsView;
 }

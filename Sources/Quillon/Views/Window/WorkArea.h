@@ -70,6 +70,7 @@ class WorkArea : public QObject {
     void showMode();
     void showResults();
     QWidget* paneOfMode();
+    void addPane(QWidget& pane);
     CompareView* comparePane();
     ContestView* contestPane();
     CrossCheckView* crossCheckPane();

@@ -24,6 +24,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QListView>
@@ -63,6 +64,16 @@ class Window : public testing::LogStoreTest {
         return box != nullptr && box->isVisible() ? box : nullptr;
     }
     std::string status() const { return testing::shownTexts(*window->findChild<StatusLine*>()); }
+    /// Presses the key so many times and tells what has the keyboard after each.
+    static std::string walk(Qt::Key key, int steps) {
+        std::string names;
+        for (int step = 0; step < steps; ++step) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+            const QString name = QApplication::focusWidget()->accessibleName();
+            names += (name.isEmpty() ? QStringLiteral("(icon)") : name).toStdString() + "\n";
+        }
+        return names;
+    }
     bool tableHasFocus() const {
         const QWidget* focus = QApplication::focusWidget();
         return focus != nullptr && window->findChild<QSOTableView*>()->isAncestorOf(focus);
@@ -343,15 +354,6 @@ TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
     show();
     store.runCheck();
     select({0});
-    const auto walk = [](Qt::Key key, int steps) {
-        std::string names;
-        for (int step = 0; step < steps; ++step) {
-            QTest::keyClick(QApplication::focusWidget(), key);
-            const QString name = QApplication::focusWidget()->accessibleName();
-            names += (name.isEmpty() ? QStringLiteral("(icon)") : name).toStdString() + "\n";
-        }
-        return names;
-    };
     EXPECT_EQ(walk(Qt::Key_Tab, 10),
               "Befunde\n(icon)\nBefunde filtern\nErneut prüfen\nErgebnisleiste schließen\n"
               "Rufzeichen\nName\nFeld entfernen: Rufzeichen\nFeld entfernen: Name\nSuchen\n")
@@ -359,6 +361,16 @@ TEST_F(Window, LeadsTheTabKeyFromTheTableThroughFindingsAndFieldsToTheSearch) {
     window->findChild<QSOTableView*>()->setFocus();
     EXPECT_EQ(walk(Qt::Key_F6, 3), "Ergebnisleiste schließen\nFeld entfernen: Name\nSuchen\n")
         << "in each pane to where the keyboard was last";
+}
+
+TEST_F(Window, LeadsTheTabKeyThroughAPaneThatIsMadeWhenItIsSeen) {
+    openLog({"CALL=DL1ABC BAND=20m QSO_DATE=20240315"});
+    show();
+    testing::shownChild<SidebarPane>(*window)->findChild<QComboBox*>()->setFocus();
+    store.setMode(AppMode::stats);
+    EXPECT_EQ(walk(Qt::Key_Tab, 5),
+              "QSOs pro Band\nQSOs pro Band, Zahlen zeigen\nVerlauf pro Tag\nVerlauf pro Tag, Zahlen zeigen\n"
+              "Suchen\n");
 }
 
 TEST_F(Window, OpensTheMenuOfWhatHasTheKeyboardWithoutAMenuKey) {
