@@ -99,16 +99,16 @@ class Plot {
             text->setText(bar.annotation);
             text->setFont(picture.font);
             text->setColor(picture.text);
+            // No line of the grid goes through a number.
+            text->setBrush(picture.ground);
             text->setClipToAxisRect(false);
             text->position->setType(QCPItemPosition::ptPlotCoords);
             if (geometry.isSideways()) {
                 text->setPositionAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-                text->position->setCoords(lengthOf(bar), positionOf(bar));
-                text->setPadding(QMargins(5, 0, 0, 0));
+                text->position->setCoords(lengthOf(bar) + 5, positionOf(bar));
             } else {
                 text->setPositionAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-                text->position->setCoords(positionOf(bar), lengthOf(bar));
-                text->setPadding(QMargins(0, 0, 0, 2));
+                text->position->setCoords(positionOf(bar), lengthOf(bar) + 3);
             }
         }
     }

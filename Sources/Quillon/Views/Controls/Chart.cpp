@@ -22,8 +22,9 @@ namespace {
 
 constexpr double gridShare = 0.13;
 constexpr double lineShare = 0.45;
-/// So wide that two charts stand beside each other in a window of usual size.
+/// So wide that two charts stand beside each other in a window of usual size, unless one has too many bars.
 constexpr int usualWidthPx = 380;
+constexpr int wideWidthPx = 520;
 constexpr int leastWidthPx = 240;
 constexpr std::size_t pageOfBars = 10;
 
@@ -107,7 +108,9 @@ void Chart::copyPicture() const {
 }
 
 QSize Chart::sizeHint() const {
-    return {usualWidthPx, ChartGeometry::height(*shown, lettersOf(font()))};
+    const ChartLetters letters = lettersOf(font());
+    const double wanted = std::min<double>(ChartGeometry::width(*shown, letters), wideWidthPx);
+    return {std::max(usualWidthPx, static_cast<int>(wanted)), ChartGeometry::height(*shown, letters)};
 }
 
 QSize Chart::minimumSizeHint() const {

@@ -18,13 +18,14 @@ constexpr int usualHeightPx = 200;
 constexpr double leastHeight = 12;
 constexpr double paddingPx = 6;
 constexpr double gapPx = 10;
+constexpr double leastBarPx = 2;
 constexpr double widestBarPx = 56;
 constexpr double widestDayPx = 32;
 constexpr double barShare = 0.66;
 constexpr double pointerReachPx = 8;
 constexpr std::size_t measuredLabels = 100;
 /// In widths of a digit. Longer labels are cut off at their end.
-constexpr double widestColumnLabel = 12;
+constexpr double widestColumnLabel = 10;
 constexpr double widestRowLabel = 0.35;  ///< As a share of the chart.
 
 double widestCount(const ChartData& data, const ChartLetters& letters) {
@@ -43,8 +44,20 @@ double rowHeight(const ChartLetters& letters) {
     return std::ceil(letters.lineHeight) + 8;
 }
 
+/// The least that a bar takes with the gap beside it.
+double columnWidth(const ChartData& data, const ChartLetters& letters) {
+    const double longestLabel = widestColumnLabel * letters.width(QStringLiteral("8"));
+    return gapPx + std::max({widestCount(data, letters), letters.width(QStringLiteral("888")),
+                             std::min(widestLabel(data, letters), longestLabel)});
+}
+
 double titleHeight(const ChartLetters& letters) {
     return letters.lineHeight + paddingPx;
+}
+
+/// What lies on the left of upright bars: the numbers and the title of their axis.
+double columnsLeft(const ChartData& data, const ChartLetters& letters) {
+    return titleHeight(letters) + widestCount(data, letters) + 2 * paddingPx;
 }
 
 /// What lies below the plot: a tick's label of so many lines and the title of the axis.
@@ -68,6 +81,13 @@ int ChartGeometry::height(const ChartData& chart, const ChartLetters& letters) {
     return std::max(usualHeightPx, static_cast<int>(std::ceil(leastHeight * letters.lineHeight)));
 }
 
+double ChartGeometry::width(const ChartData& chart, const ChartLetters& letters) {
+    return chart.form == ChartData::Form::columns
+               ? static_cast<double>(chart.barCount()) * columnWidth(chart, letters) +
+                     columnsLeft(chart, letters) + paddingPx
+               : 0;
+}
+
 ChartGeometry::ChartGeometry(const ChartData& chart, QSize size, std::size_t firstBar,
                              const ChartLetters& letters)
     : data(&chart), form(chart.form), whole(size), count(chart.barCount()), first(firstBar) {
@@ -85,7 +105,7 @@ ChartGeometry::ChartGeometry(const ChartData& chart, QSize size, std::size_t fir
 
 void ChartGeometry::placePlot(const ChartLetters& letters) {
     const double counted = widestCount(*data, letters);
-    double left = titleHeight(letters) + counted + 2 * paddingPx;
+    double left = columnsLeft(*data, letters);
     double right = paddingPx;
     double above = titleHeight(letters);
     const double below = footHeight(form == ChartData::Form::days ? 2 : 1, letters);
@@ -120,17 +140,12 @@ void ChartGeometry::placeCountTicks(const ChartLetters& letters) {
 double ChartGeometry::lengthOf(std::size_t entry) const {
     const double length = isSideways() ? plotArea.width() : plotArea.height();
     // The smallest count is something else than none.
-    return std::max(1.0, std::round(length * static_cast<double>(data->entries[entry].count) / top));
+    return std::max(leastBarPx, std::round(length * static_cast<double>(data->entries[entry].count) / top));
 }
 
 void ChartGeometry::placeBars(const ChartLetters& letters) {
     const double length = isSideways() ? plotArea.height() : plotArea.width();
-    double least = rowHeight(letters);
-    if (!isSideways()) {
-        const double longestLabel = widestColumnLabel * letters.width(QStringLiteral("8"));
-        least = gapPx + std::max({widestCount(*data, letters), letters.width(QStringLiteral("888")),
-                                  std::min(widestLabel(*data, letters), longestLabel)});
-    }
+    const double least = isSideways() ? rowHeight(letters) : columnWidth(*data, letters);
     inSight = std::clamp<std::size_t>(static_cast<std::size_t>(length / least), 1, count);
     first = std::min(first, count - inSight);
     slot = length / static_cast<double>(inSight);

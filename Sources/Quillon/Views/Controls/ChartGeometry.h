@@ -48,6 +48,8 @@ class ChartGeometry {
 
     /// How high a chart of `data` wants to be.
     static int height(const ChartData& data, const ChartLetters& letters);
+    /// How wide it has to be for all bars to be in sight, where they stand beside each other; otherwise 0.
+    static double width(const ChartData& data, const ChartLetters& letters);
 
     QSize size() const { return whole; }
     /// Where the bars stand; the axes lie along its left and its lower edge.

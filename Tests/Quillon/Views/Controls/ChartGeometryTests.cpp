@@ -58,7 +58,7 @@ TEST(BarsBesideEachOther, StandOnTheAxisAndAreAsHighAsTheirCounts) {
     const QRect highest = places.bars()[1].area;
     EXPECT_EQ(highest.height(), places.plot().height());
     EXPECT_EQ(places.bars()[0].area.height(), places.plot().height() / 2);
-    EXPECT_EQ(places.bars()[3].area.height(), 1) << "a bar of nothing can still be pointed at";
+    EXPECT_EQ(places.bars()[3].area.height(), 2) << "a bar of nothing can still be pointed at";
     EXPECT_EQ(places.bars()[3].area.bottom(), places.plot().bottom());
     EXPECT_EQ(places.bars()[1].annotation, QStringLiteral("100"));
     EXPECT_NEAR(QRectF(highest).center().x(), places.plot().left() + places.labelTicks()[1].at, 1);
@@ -75,6 +75,9 @@ TEST(BarsBesideEachOther, KeepRoomForTheirLabelsAndComeIntoSightInTurn) {
     const std::size_t inSight = places.barsInSight();
     EXPECT_LT(inSight, 6) << "numbers of nine letters";
     EXPECT_EQ(places.bars().size(), inSight);
+    const int wide = static_cast<int>(ChartGeometry::width(data, letters())) + 2;
+    EXPECT_EQ(ChartGeometry(data, {wide, 200}, 0, letters()).barsInSight(), 40);
+    EXPECT_LT(ChartGeometry(data, {wide - 20, 200}, 0, letters()).barsInSight(), 40);
     EXPECT_GE((places.bars()[1].area.center() - places.bars()[0].area.center()).x(), 72);
 
     const ChartGeometry end(data, {400, 200}, 1000, letters());
@@ -142,7 +145,7 @@ TEST(DaysOnAnAxis, CoverEachOtherOnOnePixelButAreAllThere) {
     EXPECT_EQ(highest, 500);
     EXPECT_EQ(places.barCount(), tenThousandYears.size());
     EXPECT_EQ(places.barOf(1'235).left(), places.barOf(1'234).left());
-    EXPECT_EQ(places.barOf(1'235).height(), 1);
+    EXPECT_EQ(places.barOf(1'235).height(), 2);
 }
 
 TEST(ThePointer, MeansTheBarInItsSlotOrTheDayNearBy) {
