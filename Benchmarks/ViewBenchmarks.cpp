@@ -1,14 +1,18 @@
-// What the user sees: a frame of the table and of a comparison, and the first window.
+// What the user sees: a frame of the table and of a comparison, the statistics of a log, and the first
+// window.
 
 #include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Views/Compare/CompareTable.h"
 #include "Quillon/Views/Compare/CompareView.h"
+#include "Quillon/Views/Controls/ChartPainter.h"
 #include "Quillon/Views/Grid/TableScroll.h"
+#include "Quillon/Views/Statistics/StatsView.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Table/TableQuestions.h"
 #include "StoreStandIns.h"
 #include "Tallyrig/Analysis/ADIFComparator.h"
+#include "Tallyrig/Log/ADIFParser.h"
 #include "Timing.h"
 
 #include <benchmark/benchmark.h>
@@ -153,6 +157,28 @@ BENCHMARK(editingComparedLog)
     ->Arg(100'000)
     ->Arg(1'000'000)
     ->Iterations(10)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// From the choice of the statistics to their first picture, beside reading the log.
+void openingStatistics(benchmark::State& state) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    OpenLog log(count);
+    const std::string& text = tallyrig::benchmarks::logOf(count);
+    inTurns(
+        state, "readings",
+        [&] {
+            StatsView view(log.log(), chartPainter());
+            view.resize(1000, 800);
+            view.show();
+            QApplication::processEvents();
+        },
+        [&] { benchmark::DoNotOptimize(tallyrig::ADIFParser::parse(text)); });
+}
+BENCHMARK(openingStatistics)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Iterations(3)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
