@@ -11,11 +11,14 @@ Scripts/build.sh release Quillon
 # The status bar shows where the log lies, which is to be the same on every machine.
 folder=/var/tmp/Logbuch
 mkdir -p Docs/pictures "$folder"
-cp -r Examples/befunde.adi Examples/maerzcontest.adi Examples/crosscheck Examples/vereinsabend*.adi "$folder"
+cp -r Examples/befunde.adi Examples/jahreslog.adi Examples/maerzcontest.adi Examples/crosscheck \
+    Examples/vereinsabend*.adi "$folder"
 trap 'rm -r "$folder"' EXIT
 
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/befunde.adi" \
     --grab Docs/pictures/quillon.png --grab-size 1280x800 --grab-check --grab-select 15
+QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/jahreslog.adi" \
+    --grab Docs/pictures/statistics.png --grab-size 1280x800 --grab-mode stats
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/maerzcontest.adi" \
     --grab Docs/pictures/contest.png --grab-size 1280x720 --grab-contest darcUKW
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon --crosscheck "$folder/crosscheck" \
