@@ -84,6 +84,44 @@ void comparingByBand(benchmark::State& state) {
 }
 BENCHMARK(comparingByBand)->Arg(100'000)->Arg(1'000'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+/// One cell edited and taken back, beside comparing anew ("comparisons"). By the second number: its value,
+/// its field, which others have too, or a field that no other record of its log has.
+void refreshing(benchmark::State& state) {
+    const Logs logs(static_cast<std::size_t>(state.range(0)));
+    const ADIFComparator comparator(ADIFComparator::usualKeyFields());
+    ADIFComparison comparison = comparator.compare(logs.left, logs.right);
+    const std::size_t row = logs.left.records().size() / 2;
+    ADIFDocument edited = logs.left;
+    edited.records().modify(row, [&](ADIFRecord& record) {
+        switch (state.range(1)) {
+            case 0:
+                record.set("NAME", "Otto");
+                break;
+            case 1:
+                record.removeField("NAME");
+                break;
+            default:
+                record.set("NOTES", "Danke");
+        }
+    });
+    const ADIFRecord before = logs.left.records()[row];
+    const ADIFRecord after = edited.records()[row];
+    using Side = ADIFComparison::Side;
+    inTurns(
+        state, "comparisons",
+        [&] {
+            const bool there = comparator.refresh(comparison, edited, logs.right, {row, Side::left, before});
+            const bool back = comparator.refresh(comparison, logs.left, logs.right, {row, Side::left, after});
+            benchmark::DoNotOptimize(there && back);
+        },
+        [&] { benchmark::DoNotOptimize(comparator.compare(logs.left, logs.right)); });
+}
+BENCHMARK(refreshing)
+    ->ArgsProduct({{100'000, 1'000'000}, {0, 1, 2}})
+    ->Iterations(20)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
 void reportStatistics(benchmark::State& state, const std::string& text) {
     const ADIFDocument log = ADIFParser::parse(text);
     inTurns(

@@ -151,6 +151,29 @@ std::vector<std::string> fieldNames(std::initializer_list<const ADIFRecord*> rec
     return names;
 }
 
+/// The names of the fields in a record before and after it was changed, without those that records in front
+/// of it have. If these are the same in the same order, so are the columns.
+class NewNames {
+  public:
+    NewNames(const ADIFRecord& before, const ADIFRecord& after)
+        : namesBefore(fieldNames({&before})), namesAfter(fieldNames({&after})) {}
+
+    bool areSame() const { return namesBefore == namesAfter; }
+    /// Takes out what the first `count` of the records have, until that is so. Most names stand in the first
+    /// records of a log already.
+    void takeOut(const ADIFRecordList& records, std::size_t count) {
+        for (auto record = records.begin(); count > 0 && !areSame(); ++record, --count) {
+            const auto isInRecord = [&](const std::string& name) { return record->has(name); };
+            std::erase_if(namesBefore, isInRecord);
+            std::erase_if(namesAfter, isInRecord);
+        }
+    }
+
+  private:
+    std::vector<std::string> namesBefore;
+    std::vector<std::string> namesAfter;
+};
+
 std::vector<ADIFComparison::HeaderDiff> headerDiffs(const std::vector<ADIFField>& left,
                                                     const std::vector<ADIFField>& right) {
     std::vector<ADIFComparison::HeaderDiff> all;
@@ -250,17 +273,20 @@ bool ADIFComparator::refresh(ADIFComparison& comparison, const ADIFDocument& lef
     if (!text::equal(key(edit.before), key(after))) {
         return false;
     }
-    if (fieldNames({&edit.before}) != fieldNames({&after})) {
+    NewNames names(edit.before, after);
+    names.takeOut(left.records(), isLeft ? *row.left() : left.records().size());
+    names.takeOut(right.records(), isLeft ? 0 : *row.right());
+    if (!names.areSame()) {
         comparison.columnNames = columns(left, right);
     }
     if (row.left() && row.right()) {
         const ADIFRecord& leftRecord = left.records()[*row.left()];
         const ADIFRecord& rightRecord = right.records()[*row.right()];
-        const std::vector<std::string> names = inTextOrder(fieldNames({&leftRecord, &rightRecord}));
-        FieldDifferences differences(names);
+        const std::vector<std::string> pairNames = inTextOrder(fieldNames({&leftRecord, &rightRecord}));
+        FieldDifferences differences(pairNames);
         std::vector<std::string_view> differing;
         for (const Number number : differences.between(leftRecord, rightRecord)) {
-            differing.push_back(names[number]);
+            differing.push_back(pairNames[number]);
         }
         comparison.setDifferingFields(edit.row, differing);
     }

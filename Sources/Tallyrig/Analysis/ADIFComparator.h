@@ -43,7 +43,8 @@ class ADIFComparator {
     /// Brings `comparison`, which is that of the logs before `edit`, to what `compare(left, right)` gives,
     /// for logs that are otherwise as they were. If the edit changed the key of the record, so that others
     /// may pair up, it changes nothing and returns false. Cost: the row; if a field was added, removed or
-    /// renamed in the record also `ADIFDocument::fieldNames` of both logs.
+    /// renamed in the record also a look at the records in front of it until one has that field, and where
+    /// none has it `ADIFDocument::fieldNames` of both logs.
     [[nodiscard]] bool refresh(ADIFComparison& comparison, const ADIFDocument& left,
                                const ADIFDocument& right, const Edit& edit) const;
 
