@@ -14,6 +14,8 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QFontMetricsF>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -293,6 +295,40 @@ TEST_F(Comparing, WidensAColumnOnBothSidesForTheRestOfTheRun) {
     openLog({"X=1", "RST=2 CALL=B"});
     QApplication::processEvents();
     EXPECT_EQ(width(2), 48) << "the field, not the place";
+}
+
+TEST_F(Comparing, GrowsWithTheLetters) {
+    openLog({"QSO_DATE=20240315"});
+    show();
+    const TableGeometry& geometry = view->model().geometry();
+    EXPECT_EQ(geometry.rowHeight(), 24);
+    EXPECT_EQ(geometry.columnWidth(0), 92);
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(2.5 * before.pointSizeF());
+    QApplication::setFont(large);
+    QApplication::processEvents();
+    QApplication::processEvents();  // The layout is a turn behind.
+    EXPECT_GT(geometry.rowHeight(), QFontMetricsF(large).height());
+    EXPECT_GT(geometry.columnWidth(0), QFontMetricsF(large).horizontalAdvance(QStringLiteral("20240315")));
+    EXPECT_GT(view->table().header(Side::left).height(), 38);
+    QApplication::setFont(before);
+}
+
+TEST_F(Comparing, LeavesTheTablesMostOfTheHeight) {
+    std::string header = "x";
+    for (int number = 0; number < 300; ++number) {
+        header += "<FIELD" + std::to_string(number) + ":1>1";
+    }
+    compare.load(Side::right, folder.write("right.adi", header + "<EOH><CALL:1>A<EOR>"));
+    show();
+    auto& list = testing::namedChild<QScrollArea>(*view, "Header-Unterschiede");
+    EXPECT_LT(list.height(), view->height() / 4);
+    EXPECT_EQ(list.focusPolicy(), Qt::TabFocus) << "to be scrolled by keyboard";
+    EXPECT_TRUE(says("FIELD199: —  →  1\nund 100 weitere"));
+    compare.load(Side::right, folder.write("few.adi", "x<FIELD:1>1<EOH><CALL:1>A<EOR>"));
+    QApplication::processEvents();
+    EXPECT_EQ(list.focusPolicy(), Qt::NoFocus);
 }
 
 TEST_F(Comparing, TellsAssistiveTechnologyOfEachRow) {
