@@ -1,5 +1,5 @@
-#include "Quillon/Catalogue/ADIFFieldCatalog.h"
 #include "Quillon/Catalogue/ScoreWords.h"
+#include "Quillon/Catalogue/StatisticsWords.h"
 #include "Tallyrig/Analysis/ADIFStatistics.h"
 #include "Tallyrig/Text/Characters.h"
 #include "TallyrigTool/Commands.h"
@@ -23,6 +23,7 @@ namespace tallyrig::tool {
 
 namespace {
 
+using quillon::StatisticsWords;
 using Json = nlohmann::ordered_json;
 using Buckets = std::vector<ADIFStatistics::Bucket>;
 
@@ -112,7 +113,7 @@ std::string course(const Buckets& days) {
     if (days.size() <= most) {
         Buckets shown = days;
         for (ADIFStatistics::Bucket& day : shown) {
-            day.label = quillon::ADIFFieldCatalog::formatDate(day.label);
+            day.label = StatisticsWords::day(day.label);
         }
         return chart("QSOs pro Tag", shown, most);
     }
@@ -123,27 +124,20 @@ std::string course(const Buckets& days) {
         return chart("QSOs pro Jahr", grouped(days, yearLength), mostYears);
     }
     for (ADIFStatistics::Bucket& month : months) {
-        const std::string_view year = text::firstCharacters(month.label, yearLength);
-        month.label = month.label.substr(year.size()) + "." + std::string(year);
+        if (StatisticsWords::dayOf(month.label + "01")) {
+            month.label = month.label.substr(yearLength) + "." + month.label.substr(0, yearLength);
+        }
     }
     return chart("QSOs pro Monat", months, most);
-}
-
-std::string period(const ADIFStatistics& statistics) {
-    if (!statistics.firstDate) {
-        return {};
-    }
-    const std::string first = quillon::ADIFFieldCatalog::formatDate(statistics.firstDate);
-    const std::string last = quillon::ADIFFieldCatalog::formatDate(statistics.lastDate);
-    return (first == last ? first : first + " – " + last) + "\n";
 }
 
 void writeText(Output& output, const LogFile& log, const ADIFStatistics& statistics) {
     constexpr std::size_t mostValues = 40;
     constexpr std::size_t mostCountries = 15;
+    const std::string period = StatisticsWords::period(statistics);
     output.write(visible(log.argument) + ": " + number(statistics.total) +
                  (statistics.total == 1 ? " QSO, " : " QSOs, ") + number(statistics.uniqueCalls) +
-                 " Rufzeichen\n" + period(statistics) +
+                 " Rufzeichen\n" + (period.empty() ? "" : period + "\n") +
                  chart("QSOs pro Band", statistics.byBand, mostValues) +
                  chart("QSOs pro Modus", statistics.byMode, mostValues) + course(statistics.byDay) +
                  chart("Top-Länder", statistics.byCountry, mostCountries));

@@ -1,5 +1,6 @@
 #include "Quillon/Views/Statistics/StatsView.h"
 
+#include "Quillon/Catalogue/StatisticsWords.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/ChartCard.h"
@@ -159,7 +160,7 @@ void StatsView::fill(tallyrig::ADIFStatistics statistics) {
     tiles[2]->setFigure(numberText(bandCount));
     tiles[3]->setCaption(modeCount == 1 ? QStringLiteral("Modus") : QStringLiteral("Modi"));
     tiles[3]->setFigure(numberText(modeCount));
-    period->setFigure(StatisticsCharts::period(statistics));
+    period->setFigure(toQString(StatisticsWords::period(statistics)));
     period->setVisible(statistics.firstDate.has_value());
     bands->setData(StatisticsCharts::bands(std::move(statistics.byBand)));
     modes->setData(StatisticsCharts::modes(std::move(statistics.byMode)));
