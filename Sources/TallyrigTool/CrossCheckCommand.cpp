@@ -27,6 +27,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <ctime>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <numeric>
@@ -93,6 +94,13 @@ std::string today() {
     return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", &local)};
 }
 
+/// What tells how much of `what` is done; the work outlives it.
+std::function<std::string()> shareDone(std::string what, const LogWork& work) {
+    return [what = std::move(what), &work] {
+        return fmt::format("{} … {} %", what, static_cast<int>(work.progress() * 100));
+    };
+}
+
 /// The files that are meant, folders replaced by the logs in them.
 std::vector<std::string> filesOf(const std::vector<std::string>& paths) {
     std::vector<std::string> files;
@@ -157,7 +165,7 @@ std::vector<CrossCheckLog> readLogs(const Options& options) {
         add("-", std::move(document), owner);
     }
     LogWork work(options.threads);
-    const Progress progress(work, "Logs lesen");
+    const Progress progress([&work] { return quillon::readingText(work); });
     std::vector<quillon::LoadedLog> loaded =
         quillon::readLogs(files, work).value_or(std::vector<quillon::LoadedLog>());
     for (std::size_t file = 0; file < loaded.size(); ++file) {
@@ -178,14 +186,14 @@ Evaluation evaluated(const Options& options) {
     }
     {
         LogWork work(options.threads);
-        const Progress progress(work, "Cross-Check");
+        const Progress progress(shareDone("Cross-Check", work));
         evaluation.report = ContestCrossChecker(options.checkOptions())
                                 .check(evaluation.logs, work)
                                 .value_or(CrossCheckReport());
     }
     if (!options.hasNoScoring) {
         LogWork work(options.threads);
-        const Progress progress(work, "Wertung");
+        const Progress progress(shareDone("Wertung", work));
         const CrossCheckPenalties penalties = {!options.keepsBustedExchange, options.nilPenalty,
                                                options.bustedPenalty};
         const auto rules = [&](const ContestStation& station) { return options.rules(station); };
@@ -208,11 +216,10 @@ std::string rankingTable(const std::vector<CrossCheckEntry>& ranking, bool isSco
     }
     for (const CrossCheckEntry& entry : ranking) {
         const auto count = [&](CrossCheckStatus status) { return number(entry.counts.count(status)); };
-        const auto accuracy = entry.counts.accuracy();
         TableRow row = {std::to_string(entry.rank),
                         entry.owner.empty() ? "(Inhaber unbekannt)" : visible(entry.owner),
                         number(entry.counts.total()),
-                        accuracy ? fmt::format("{:.1f} %", *accuracy * 100) : "–",
+                        quillon::quotaText(entry.counts.accuracy()),
                         count(CrossCheckStatus::confirmed),
                         count(CrossCheckStatus::notInLog),
                         count(CrossCheckStatus::bustedCall),
@@ -268,7 +275,7 @@ void writeReports(const Options& options, const std::string& contestName,
     LogWork work(options.threads);
     std::optional<std::variant<quillon::ReportFolder, quillon::FileError>> written;
     {
-        const Progress progress(work, "Berichte schreiben");
+        const Progress progress(shareDone("Berichte schreiben", work));
         written = quillon::writeReports(writer, options.reports, quillon::reportFolderName(contestName, date),
                                         work);
     }

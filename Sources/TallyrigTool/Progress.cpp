@@ -9,7 +9,7 @@
 
 namespace tallyrig::tool {
 
-Progress::Progress(const LogWork& logWork, std::string doing) : work(logWork), what(std::move(doing)) {
+Progress::Progress(std::function<std::string()> words) : text(std::move(words)) {
     if (::isatty(STDERR_FILENO) == 1) {
         reporter = std::thread([this] { report(); });
     }
@@ -32,8 +32,7 @@ void Progress::report() {
     std::unique_lock lock(mutex);
     // What is done at once needs no word.
     while (!ended.wait_for(lock, interval, [this] { return isOver; })) {
-        quillon::writeAll(STDERR_FILENO, "\r" + what + " … " +
-                                             std::to_string(static_cast<int>(work.progress() * 100)) + " %");
+        quillon::writeAll(STDERR_FILENO, "\r" + text() + "\033[K");
     }
     quillon::writeAll(STDERR_FILENO, "\r\033[K");
 }

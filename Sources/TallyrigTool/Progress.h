@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Tallyrig/CrossCheck/LogWork.h"
-
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -12,8 +11,8 @@ namespace tallyrig::tool {
 /// Says on a terminal at standard error how far the work is, for as long as this lives; elsewhere nothing.
 class Progress {
   public:
-    /// `what` is done, in German; the work outlives this.
-    Progress(const LogWork& work, std::string what);
+    /// `words` says it in German; called on another thread.
+    explicit Progress(std::function<std::string()> words);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     ~Progress();
@@ -21,8 +20,7 @@ class Progress {
   private:
     void report();
 
-    const LogWork& work;
-    std::string what;
+    std::function<std::string()> text;
     std::mutex mutex;
     std::condition_variable ended;
     bool isOver = false;

@@ -1,7 +1,14 @@
 #include "Quillon/Catalogue/CrossCheckWords.h"
 
+#include "Quillon/Catalogue/ScoreWords.h"
+#include "Tallyrig/CrossCheck/LogWork.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 namespace quillon {
 
@@ -31,6 +38,24 @@ SystemColor badgeColor(CrossCheckStatus status) {
             break;
     }
     return SystemColor::gray;
+}
+
+std::string quotaText(std::optional<double> share) {
+    if (!share) {
+        return "–";
+    }
+    std::string text = fmt::format("{:.1f} %", *share * 100);
+    std::ranges::replace(text, '.', ',');
+    return text;
+}
+
+std::string readingText(const tallyrig::LogWork& reading) {
+    const auto number = [](std::size_t count) {
+        return ScoreWords::number(static_cast<std::int64_t>(count));
+    };
+    return reading.steps() == 0
+               ? "Logs werden gesucht …"
+               : number(reading.stepsDone()) + " von " + number(reading.steps()) + " Logs gelesen …";
 }
 
 }  // namespace quillon

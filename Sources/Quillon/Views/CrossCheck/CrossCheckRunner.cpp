@@ -1,5 +1,6 @@
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
 
+#include "Quillon/Catalogue/CrossCheckWords.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckEvaluation.h"
 #include "Quillon/Stores/CrossCheckFiles.h"
@@ -181,10 +182,7 @@ QString CrossCheckRunner::progressText() const {
     const QString share = QString::number(static_cast<int>(progress() * 100)) + QStringLiteral(" %");
     switch (phase) {
         case Phase::reading:
-            return !reading || reading->steps() == 0
-                       ? QStringLiteral("Logs werden gesucht …")
-                       : numberText(reading->stepsDone()) + QStringLiteral(" von ") +
-                             numberText(reading->steps()) + QStringLiteral(" Logs gelesen …");
+            return reading ? toQString(readingText(*reading)) : QString();
         case Phase::checking:
             return QStringLiteral("Cross-Check … ") + share;
         case Phase::writing:

@@ -1,12 +1,12 @@
 #include "Quillon/Views/CrossCheck/Quota.h"
 
-#include <QLocale>
+#include "Quillon/Catalogue/CrossCheckWords.h"
+#include "Quillon/Views/Controls/Strings.h"
 
 namespace quillon {
 
 QString Quota::text() const {
-    return share ? QLocale(QLocale::German).toString(*share * 100, 'f', 1) + QStringLiteral(" %")
-                 : QStringLiteral("–");
+    return toQString(quotaText(share));
 }
 
 Tone Quota::tone() const {
