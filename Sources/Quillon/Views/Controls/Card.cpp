@@ -1,19 +1,27 @@
 #include "Quillon/Views/Controls/Card.h"
 
+#include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
 #include "Quillon/Views/Controls/Labels.h"
 
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 
 namespace quillon {
 
 Card::Card(const QString& heading, QWidget* parent)
-    : QWidget(parent), column(new QVBoxLayout(this)), headingLine(headingLabel(heading, this)) {
+    : QWidget(parent),
+      column(new QVBoxLayout(this)),
+      headRow(new QHBoxLayout),
+      headingLine(new ElidedLabel(Qt::ElideMiddle, this)) {
     column->setContentsMargins(16, 12, 16, 12);
     column->setSpacing(6);
-    column->addWidget(headingLine);
+    headingLine->setFont(fontFor(MeasuredFont::label));
+    headRow->setSpacing(8);
+    headRow->addWidget(headingLine, 1);
+    column->addLayout(headRow);
     setHeading(heading);
 }
 
@@ -21,6 +29,10 @@ void Card::setHeading(const QString& heading) {
     headingLine->setText(heading);
     headingLine->setVisible(!heading.isEmpty());
     setAccessibleName(heading);
+}
+
+void Card::putBesideHeading(QWidget* control) {
+    headRow->addWidget(control);
 }
 
 void Card::setFramed(bool framed) {

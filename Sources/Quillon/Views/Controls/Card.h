@@ -2,10 +2,12 @@
 
 #include <QWidget>
 
-class QLabel;
+class QHBoxLayout;
 class QVBoxLayout;
 
 namespace quillon {
+
+class ElidedLabel;
 
 /// What belongs together in a pane of figures: a heading and what stands below it, on a ground of its own
 /// with rounded corners.
@@ -17,6 +19,8 @@ class Card : public QWidget {
     explicit Card(const QString& heading, QWidget* parent = nullptr);
 
     void setHeading(const QString& heading);
+    /// Puts a control on the line of the heading, behind those that are there, at the right.
+    void putBesideHeading(QWidget* control);
     /// Frames the card as what has the keyboard.
     void setFramed(bool framed);
     /// Where the content goes, from top to bottom.
@@ -27,7 +31,8 @@ class Card : public QWidget {
 
   private:
     QVBoxLayout* column;
-    QLabel* headingLine;
+    QHBoxLayout* headRow;
+    ElidedLabel* headingLine;
     bool isFramed = false;
 };
 

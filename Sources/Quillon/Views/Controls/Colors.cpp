@@ -1,6 +1,7 @@
 #include "Quillon/Views/Controls/Colors.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -104,6 +105,20 @@ QColor secondaryTextColor(const QPalette& palette, QPalette::ColorGroup group) {
         blended(palette.color(group, QPalette::WindowText), secondaryShare, window),
         {window, palette.color(group, QPalette::Base), palette.color(group, QPalette::AlternateBase)},
         textContrast);
+}
+
+void calmSelection(QPalette& palette, const QWidget* list) {
+    const QWidget* const keyboard = QApplication::focusWidget();
+    if (list == nullptr || list == keyboard || list->isAncestorOf(keyboard)) {
+        return;
+    }
+    constexpr double share = 0.25;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        palette.setColor(
+            group, QPalette::Highlight,
+            blended(palette.color(group, QPalette::Highlight), share, palette.color(group, QPalette::Base)));
+        palette.setColor(group, QPalette::HighlightedText, palette.color(group, QPalette::Text));
+    }
 }
 
 void makeSecondaryTextReadable() {

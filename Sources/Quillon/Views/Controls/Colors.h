@@ -6,6 +6,8 @@
 #include <QList>
 #include <QPalette>
 
+class QWidget;
+
 namespace quillon {
 
 /// The colour as the screen shows it.
@@ -34,6 +36,9 @@ QColor standingOut(const QColor& color, const QList<QColor>& grounds, double lea
 /// The colour of remarks and of all that stands back behind the text proper, to be read on each ground on
 /// which the panes of a window in `palette` put text. Follows from text and grounds alone.
 QColor secondaryTextColor(const QPalette& palette, QPalette::ColorGroup group = QPalette::Active);
+
+/// Lets what is chosen in `list` stand back in the palette of its rows while the keyboard is elsewhere.
+void calmSelection(QPalette& palette, const QWidget* list);
 
 /// Makes `secondaryTextColor` the one that the whole application paints secondary text and placeholders in
 /// (`QPalette::PlaceholderText`): the one that comes with a desktop is often too pale. To be called whenever

@@ -160,6 +160,7 @@ class FindingList::Delegate : public QStyledItemDelegate {
                const QModelIndex& index) const override {
         QStyleOptionViewItem item = option;
         initStyleOption(&item, index);
+        calmSelection(item.palette, item.widget);
         item.text.clear();
         const QStyle& style = item.widget != nullptr ? *item.widget->style() : *QApplication::style();
         style.drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
@@ -271,7 +272,7 @@ void FindingList::setFindings(std::vector<FindingRow> findings) {
 
 QSize FindingList::sizeHint() const {
     if (height == Height::ofPane) {
-        return CopyableList::sizeHint();
+        return minimumSizeHint();
     }
     int rows = 0;
     for (int row = 0; row < findingModel->rowCount(); ++row) {
@@ -281,7 +282,11 @@ QSize FindingList::sizeHint() const {
 }
 
 QSize FindingList::minimumSizeHint() const {
-    return height == Height::ofPane ? CopyableList::minimumSizeHint() : sizeHint();
+    if (height == Height::ofRows) {
+        return sizeHint();
+    }
+    constexpr int fewestRows = 2;
+    return {CopyableList::minimumSizeHint().width(), fewestRows * (fontMetrics().height() + rowPaddingPx)};
 }
 
 void FindingList::changeEvent(QEvent* event) {

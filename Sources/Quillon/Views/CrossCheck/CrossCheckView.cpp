@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QStackedLayout>
 
@@ -30,6 +31,7 @@ namespace quillon {
 namespace {
 
 constexpr int marginPx = 16;
+constexpr int gapPx = 12;
 constexpr std::size_t fewestLogs = 2;
 
 QString number(std::size_t count) {
@@ -97,7 +99,13 @@ QWidget* CrossCheckView::emptyPage() {
 }
 
 QWidget* CrossCheckView::resultPage() {
-    auto* page = new QWidget(this);
+    // A large font may need more height than the window has.
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    auto* page = new QWidget(area);
+    area->setWidget(page);
     auto* figures = new QWidget(page);
     auto* figuresLayout = new TileLayout(figures);
     const char* const captions[] = {"Logs", "QSOs gesamt", "Fehler (NIL/Busted)", "Quote gesamt"};
@@ -108,7 +116,7 @@ QWidget* CrossCheckView::resultPage() {
 
     auto* splitter = new QSplitter(Qt::Vertical, page);
     splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(12);
+    splitter->setHandleWidth(gapPx);
     rankingCard = new Card(QStringLiteral("Rangliste"), splitter);
     ranking = new RankingModel(this);
     table = new RankingTable(*ranking, rankingCard);
@@ -121,14 +129,14 @@ QWidget* CrossCheckView::resultPage() {
     splitter->setStretchFactor(1, 1);
 
     auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(marginPx, marginPx, marginPx, marginPx);
-    column->setSpacing(12);
+    column->setContentsMargins(marginPx, gapPx, marginPx, gapPx);
+    column->setSpacing(gapPx);
     column->addWidget(figures);
     column->addWidget(splitter, 1);
     connect(table, &RankingTable::logChosen, this,
             [this](tallyrig::UUID chosen) { store.setSelectedLogID(chosen); });
     connect(findings, &FindingsCard::qsoWanted, this, &CrossCheckView::goTo);
-    return page;
+    return area;
 }
 
 /// Not by a focus proxy: from behind the pane Tab would come back to it, and never leave.

@@ -9,7 +9,6 @@
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/VisibleText.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -94,12 +93,10 @@ FindingsCard::FindingsCard(CrossCheckStore& crossStore, std::size_t mostFindings
     filterPicker->setMinimumWidth(
         filterPicker->fontMetrics().horizontalAdvance(QStringLiteral("Band/Modus abweichend (8.888)")) + 50);
     list->setAccessibleName(QStringLiteral("Befunde"));
-    auto* head = new QHBoxLayout;
-    head->addWidget(label);
-    head->addWidget(filterPicker);
-    head->addSpacing(8);
-    head->addWidget(countLine, 1);
-    content().addLayout(head);
+    countLine->setWordWrap(false);
+    putBesideHeading(countLine);
+    putBesideHeading(label);
+    putBesideHeading(filterPicker);
     content().addWidget(nothing, 1, Qt::AlignTop);
     content().addWidget(list, 1);
     content().addWidget(further);

@@ -1,15 +1,20 @@
 #include "Quillon/Views/CrossCheck/RankingTable.h"
 
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
+#include "Quillon/Views/Controls/Colors.h"
+#include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Tone.h"
 #include "Quillon/Views/CrossCheck/RankingModel.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -28,6 +33,7 @@ class RankingDelegate : public QStyledItemDelegate {
                const QModelIndex& index) const override {
         QStyleOptionViewItem item = option;
         initStyleOption(&item, index);
+        calmSelection(item.palette, item.widget);
         const QString text = item.text;
         item.text.clear();
         const QStyle& style = item.widget != nullptr ? *item.widget->style() : *QApplication::style();
@@ -42,7 +48,9 @@ class RankingDelegate : public QStyledItemDelegate {
         painter->setPen(isSelected || tone == Tone::plain
                             ? plain
                             : toneColor(tone, item.palette, item.palette.color(QPalette::Base)));
-        QRect line = item.rect.adjusted(paddingPx / 2, 0, -paddingPx / 2, 0);
+        // Under its heading.
+        const int margin = style.pixelMetric(QStyle::PM_HeaderMargin, nullptr, item.widget);
+        QRect line = item.rect.adjusted(margin, 0, -margin, 0);
         const QString name = nameUnder(index);
         if (!name.isEmpty()) {
             line.setBottom(line.center().y());
@@ -61,6 +69,23 @@ class RankingDelegate : public QStyledItemDelegate {
             draw(name, Qt::AlignLeft | Qt::AlignTop);
         }
         painter->restore();
+    }
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        const QString owner = index.data().toString();
+        const QString name = nameUnder(index);
+        const int room = option.rect.width() - paddingPx;
+        const bool isCut = QFontMetrics(view->font()).horizontalAdvance(owner) > room ||
+                           QFontMetrics(smallFont()).horizontalAdvance(name) > room;
+        if (event->type() != QEvent::ToolTip || name.isEmpty() || !isCut) {
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        }
+        QToolTip::showText(event->globalPos(),
+                           plainToolTip(owner + QLatin1Char('\n') + name) + QLatin1Char('\n') +
+                               index.data(Qt::ToolTipRole).toString(),
+                           view);
+        return true;
     }
 
   private:
@@ -125,6 +150,13 @@ void RankingTable::keyboardSearch(const QString& search) {
     QTableView::keyboardSearch(search);
 }
 
+QSize RankingTable::minimumSizeHint() const {
+    constexpr int fewestRows = 3;
+    return {QTableView::minimumSizeHint().width(), horizontalHeader()->sizeHint().height() +
+                                                       fewestRows * verticalHeader()->defaultSectionSize() +
+                                                       horizontalScrollBar()->sizeHint().height()};
+}
+
 void RankingTable::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
@@ -173,6 +205,7 @@ void RankingTable::layOutColumns() {
     }
     const int readable = letters.horizontalAdvance(QStringLiteral("DL1QZA/P DL1QZA/P"));
     setColumnWidth(owner, std::max(readable, viewport()->width() - others));
+    updateGeometry();
 }
 
 void RankingTable::resizeEvent(QResizeEvent* event) {

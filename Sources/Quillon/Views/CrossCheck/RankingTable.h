@@ -22,6 +22,9 @@ class RankingTable : public QTableView {
     void showLog(std::optional<tallyrig::UUID> log);
     /// Looks for the next call that begins with what is typed, or else holds it.
     void keyboardSearch(const QString& search) override;
+    /// The headings and some rows.
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override { return minimumSizeHint(); }
 
   signals:
     /// The user chose another log.
