@@ -117,12 +117,13 @@ std::optional<std::variant<ReportFolder, FileError>> writeReports(
         }
         work.addDone(1);
     });
+    if (!failure && !work.isCancelled()) {
+        failure = makeLast(folder);
+    }
+    // To wait for the disk takes a while, in which the user may give up as well.
     if (work.isCancelled()) {
         removeFiles(folder, files);
         return std::nullopt;
-    }
-    if (!failure) {
-        failure = makeLast(folder);
     }
     if (failure) {
         return *failure;

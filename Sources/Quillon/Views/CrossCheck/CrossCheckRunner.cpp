@@ -146,12 +146,12 @@ void CrossCheckRunner::addLogsWithPanel() {
 }
 
 bool CrossCheckRunner::canExport() const {
-    return !isRunning() && !isStale && !givenUp && store.evaluation() &&
+    return (!isRunning() || phase == Phase::writing) && !isStale && !givenUp && store.evaluation() &&
            store.evaluation()->input.logs.size() >= 2;
 }
 
 void CrossCheckRunner::exportReportsWithPanel() {
-    if (!canExport()) {
+    if (!canExport() || phase == Phase::writing) {
         return;
     }
     const auto wanted = store.reportsToWriteWithPanel(store.evaluation(), QDate::currentDate());
@@ -159,13 +159,12 @@ void CrossCheckRunner::exportReportsWithPanel() {
         return;
     }
     phase = Phase::writing;
-    background.start<tallyrig::LogWork>([this, wanted = *wanted](tallyrig::LogWork& work) -> TakeOver {
-        auto written = writeReports(wanted, work);
-        if (!written) {
+    written = std::make_shared<std::optional<WrittenReports>>();
+    background.start<tallyrig::LogWork>(
+        [wanted = *wanted, result = written](tallyrig::LogWork& work) -> TakeOver {
+            *result = writeReports(wanted, work);
             return {};
-        }
-        return [this, result = std::move(*written)] { store.take(result); };
-    });
+        });
     emit changed();
 }
 
@@ -197,6 +196,10 @@ QString CrossCheckRunner::progressText() const {
 void CrossCheckRunner::ended() {
     if (!background.isRunning()) {
         phase = Phase::idle;
+        // Also where the user gave up too late: what lies on the disk is told of.
+        if (const auto result = std::exchange(written, nullptr); result && *result) {
+            store.take(**result);
+        }
         if (!pathsToAdd.isEmpty()) {
             QTimer::singleShot(0, this, [this] {
                 if (phase == Phase::idle && !pathsToAdd.isEmpty()) {

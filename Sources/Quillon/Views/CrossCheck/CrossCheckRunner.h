@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quillon/Platform/BackgroundWork.h"
+#include "Quillon/Stores/CrossCheckFiles.h"
 
 #include <QObject>
 #include <QString>
@@ -8,6 +9,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace tallyrig {
 class LogWork;
@@ -35,7 +37,8 @@ class CrossCheckRunner : public QObject {
     /// Reads files, and of folders the logs in them. What is being read is finished first.
     void addLogs(const QStringList& paths);
     void addLogsWithPanel();
-    /// Writes the reports of what is on screen. Nothing happens while there is no result that holds.
+    /// Writes the reports of what is on screen. Nothing happens while there is no result that holds, or while
+    /// they are written.
     void exportReportsWithPanel();
     /// Gives up what runs. What was there before stays.
     void cancel();
@@ -47,6 +50,7 @@ class CrossCheckRunner : public QObject {
     bool isBusy() const { return isRunning() || pause.isActive() || !pathsToAdd.isEmpty(); }
     /// Whether the result on screen lags behind because the user gave up the check.
     bool isGivenUp() const { return givenUp; }
+    /// Also while it is exported, or the button for it would lose the keyboard.
     bool canExport() const;
     /// What is being done, such as "Cross-Check … 38 %"; empty while nothing is.
     QString progressText() const;
@@ -72,7 +76,8 @@ class CrossCheckRunner : public QObject {
     CrossCheckStore& store;
     BackgroundWork background;
     Phase phase = Phase::idle;
-    std::shared_ptr<const tallyrig::LogWork> reading;  ///< Of the logs that are read, or were last.
+    std::shared_ptr<const tallyrig::LogWork> reading;        ///< Of the logs that are read, or were last.
+    std::shared_ptr<std::optional<WrittenReports>> written;  ///< By what writes; null while nothing does.
     QTimer pause;
     QStringList pathsToAdd;  ///< What is to be read next.
     bool watched = false;

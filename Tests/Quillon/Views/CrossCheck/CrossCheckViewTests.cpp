@@ -12,11 +12,13 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
+#include <thread>
 
 namespace quillon {
 namespace {
@@ -184,6 +186,24 @@ TEST_F(CrossChecking, BringsTheChosenLogIntoViewWhereverItsRowIs) {
     add(logs);
     EXPECT_GT(table().currentIndex().row(), 2);
     EXPECT_TRUE(table().viewport()->rect().contains(table().visualRect(table().currentIndex())));
+}
+
+TEST_F(CrossChecking, TellsOfReportsThatWereWrittenWhenTheUserGaveUp) {
+    add({b});
+    panels.answers = QStringList{folder.path(".")};
+    runner.exportReportsWithPanel();
+    EXPECT_TRUE(runner.canExport()) << "the button for it keeps the keyboard";
+    while (runner.progress() < 1) {
+        std::this_thread::yield();
+    }
+    runner.cancel();
+    QSignalSpy changed(&runner, &CrossCheckRunner::changed);
+    while (runner.isRunning()) {
+        ASSERT_TRUE(changed.wait());
+    }
+    const auto folders = QDir(folder.path(".")).entryList({QStringLiteral("Cross-Check *")}, QDir::Dirs);
+    EXPECT_EQ(folders.size(), fileManager.shown.size()) << "either told of or removed";
+    EXPECT_EQ(folders.isEmpty(), !cross.exportMessage().has_value());
 }
 
 TEST_F(CrossChecking, KeepsWhatWasThereWhenTheUserGivesUp) {
