@@ -1,21 +1,15 @@
 #pragma once
 
-#include "Tallyrig/Log/UUID.h"
-
 #include <QWidget>
 
-#include <optional>
-
-class QLabel;
-class QLineEdit;
-class QListView;
 class QPushButton;
 
 namespace quillon {
 
 class CrossCheckStore;
 
-/// The list of the logs that take part in a cross-check, with the owner of the chosen one to be corrected.
+/// The list of the logs that take part in a cross-check: in each row a field with the owner, to be corrected,
+/// the name of the log, and a button that takes the log out.
 /// The list draws what is seen of it: there may be ten thousand logs.
 class CrossCheckLogs : public QWidget {
     Q_OBJECT
@@ -26,17 +20,16 @@ class CrossCheckLogs : public QWidget {
 
   private:
     class Model;
+    class Delegate;
+    class Table;
 
     void refresh();
-    void showChosen();
-    std::optional<tallyrig::UUID> chosen() const;
 
     CrossCheckStore& store;
     Model* model;
-    QListView* list;
-    QWidget* details;
-    QLineEdit* owner;
+    Table* table;
     QPushButton* removeAll;
+    bool isRefreshing = false;
 };
 
 }  // namespace quillon

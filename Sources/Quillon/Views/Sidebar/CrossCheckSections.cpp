@@ -4,6 +4,7 @@
 #include "Quillon/Views/Controls/CalmComboBox.h"
 #include "Quillon/Views/Controls/CalmSpinBox.h"
 #include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Controls/WrappingCheckBox.h"
 #include "Quillon/Views/Sidebar/ContestPicker.h"
@@ -52,7 +53,7 @@ SidebarSection* CrossCheckSections::logs() {
     section->add(add);
     QLabel* message = section->addNote(QString());
     const auto showMessage = [this, message] {
-        message->setText(store.loadMessage().value_or(QString()));
+        setWrappedText(*message, store.loadMessage().value_or(QString()));
         message->setVisible(store.loadMessage().has_value());
     };
     connect(&store, &CrossCheckStore::loadMessageChanged, message, showMessage);
