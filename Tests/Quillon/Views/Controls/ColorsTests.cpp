@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QWidget>
 
 namespace quillon {
 namespace {
@@ -44,6 +45,20 @@ TEST(SecondaryText, IsReadableOnEveryDesktop) {
         EXPECT_LT(contrast(secondary, window), contrast(text, window)) << "it stands back behind the text";
     }
     QApplication::setPalette(before);
+}
+
+TEST(CalmSelection, IsSeenAndReadableOnEveryDesktop) {
+    const QWidget list;
+    for (const auto& [window, base, alternate, text] : desktops) {
+        SCOPED_TRACE(window.name().toStdString());
+        QPalette palette(text, window, window, window, window, text, text, base, window);
+        palette.setColor(QPalette::Highlight, "#3daee9");
+        calmSelection(palette, &list);
+        const QColor ground = palette.color(QPalette::Highlight);
+        EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), ground), textContrast);
+        EXPECT_GE(contrast(ground, base), 1.2) << "told from the other rows";
+        EXPECT_GE(contrast(ground, "#3daee9"), 1.5) << "told from what has the keyboard";
+    }
 }
 
 }  // namespace
