@@ -24,6 +24,10 @@ std::span<const LogStore::Changes::Property> LogStore::observedProperties() {
         Changes::Property{Changes::differ<&Observed::fileURL>, &LogStore::fileURLChanged},
         Changes::Property{Changes::differ<&Observed::isDirty>, &LogStore::isDirtyChanged},
         Changes::Property{[](const Observed& before, const Observed& now) {
+                              return !areSame(before.savedDocument, now.savedDocument);
+                          },
+                          &LogStore::savedDocumentChanged},
+        Changes::Property{[](const Observed& before, const Observed& now) {
                               return before.windowTitle() != now.windowTitle();
                           },
                           &LogStore::windowTitleChanged},

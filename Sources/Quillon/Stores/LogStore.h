@@ -57,6 +57,9 @@ class LogStore : public QObject {
     const std::optional<QString>& fileURL() const { return state.fileURL; }
     /// Whether the log differs from what was last saved or opened.
     bool isDirty() const { return state.isDirty; }
+    /// What the log's file holds as far as the store knows: the log as it was last opened or saved. The empty
+    /// log where it has no file, or was brought back.
+    const tallyrig::ADIFDocument& savedDocument() const { return state.savedDocument; }
     /// What the user must be told; absent once it was.
     const std::optional<QString>& errorMessage() const { return state.errorMessage; }
     void setErrorMessage(std::optional<QString> message);
@@ -66,6 +69,9 @@ class LogStore : public QObject {
     /// Reads the file at `path`; on failure only `errorMessage` changes.
     void open(const QString& path);
     void openWithPanel();
+    /// Shows a log that was kept from an earlier time, as one with changes that the file behind it does not
+    /// have.
+    void bringBack(tallyrig::ADIFDocument document, std::optional<QString> path);
     /// Opens the first of the program's `arguments` (the program's name left out) that names an existing
     /// path, passing over what follows `--crosscheck`. Nothing happens if a file is open already.
     /// `errorMessage` tells of the other paths, that they were not opened, and of one that leads nowhere if
@@ -73,6 +79,9 @@ class LogStore : public QObject {
     void openFromCommandLineIfNeeded(const QStringList& arguments);
     void save();
     void saveWithPanel();
+    /// `keep` is called with the path before the log is saved or exported there, whether or not there is a
+    /// file.
+    void beforeReplacing(std::function<void(const QString& path)> keep) { keepFormer = std::move(keep); }
 
     /// As `saveWithPanel`, but proposes the extension of ADI text whatever file the log came from.
     void saveAsADI();
@@ -268,6 +277,8 @@ class LogStore : public QObject {
     void documentChanged();
     void fileURLChanged();
     void isDirtyChanged();
+    /// The log was opened, begun, brought back or saved.
+    void savedDocumentChanged();
     void errorMessageChanged();
     void windowTitleChanged();
     /// `canUndo` or `canRedo` changed.
@@ -298,6 +309,7 @@ class LogStore : public QObject {
         tallyrig::ADIFDocument document;
         std::optional<QString> fileURL;
         bool isDirty = false;
+        tallyrig::ADIFDocument savedDocument;
         std::optional<QString> errorMessage;
         AppMode mode = AppMode::check;
         std::shared_ptr<const CheckResults> checkResults;  ///< Never null.
@@ -323,6 +335,7 @@ class LogStore : public QObject {
     static std::span<const Changes::Property> observedProperties();
 
     void showLog(tallyrig::ADIFDocument document, std::optional<QString> path);
+    void announceReplacing(const QString& path) const;
     /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs
     /// out.
     void forgetEdits();
@@ -353,6 +366,7 @@ class LogStore : public QObject {
     Settings& settings;
     Panels& panels;
     const TextMeasurer& measurer;
+    std::function<void(const QString& path)> keepFormer;
     Observed state;
     Changes changes{*this, state, observedProperties()};
     EditHistory history;

@@ -61,6 +61,7 @@ void LogStore::showLog(ADIFDocument document, std::optional<QString> path) {
     state.document = std::move(document);
     state.fileURL = std::move(path);
     state.isDirty = false;
+    state.savedDocument = state.document;
     state.columns.setNames(ColumnLayout::namesFor(state.document));
     clearCheckResults();
 }
@@ -90,6 +91,15 @@ void LogStore::open(const QString& path) {
         return;
     }
     showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, fullPath);
+    autoFitColumns();
+    forgetEdits();
+}
+
+void LogStore::bringBack(ADIFDocument document, std::optional<QString> path) {
+    const Operation operation(*this);
+    showLog(std::move(document), std::move(path));
+    state.isDirty = true;
+    state.savedDocument = ADIFDocument();
     autoFitColumns();
     forgetEdits();
 }
@@ -150,6 +160,7 @@ bool LogStore::write(const QString& path) {
     const Operation operation(*this);
     const QString fullPath = absolutePath(path);
     const std::string content = textFor(fullPath, state.document, settings);
+    announceReplacing(fullPath);
     if (const auto error = replaceFile(fullPath.toStdString(), content)) {
         state.errorMessage = fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath,
                                          error->message + " „Speichern unter…“ wählt einen anderen Ort.");
@@ -157,7 +168,14 @@ bool LogStore::write(const QString& path) {
     }
     state.fileURL = fullPath;
     state.isDirty = false;
+    state.savedDocument = state.document;
     return true;
+}
+
+void LogStore::announceReplacing(const QString& path) const {
+    if (keepFormer) {
+        keepFormer(path);
+    }
 }
 
 QString LogStore::proposedName(const QString& extension) const {
@@ -189,6 +207,7 @@ void LogStore::exportText(const std::string& text, const FileType& type, const Q
         return;
     }
     const QString fullPath = absolutePath(*path);
+    announceReplacing(fullPath);
     if (const auto error = replaceFile(fullPath.toStdString(), text)) {
         setErrorMessage(fileFailure(failurePrefix, fullPath, error->message));
         return;

@@ -28,15 +28,16 @@ TEST_F(OpeningLogs, EndsWhatBelongedToTheOldOneOnly) {
     const QString path = folder.write("Größe.adi", adi({"MODE=CW", "X=1"}));
     store.open(path);
     EXPECT_EQ(told.sent(),
-              "checkResults columnWidths columns displayedRecords document fileURL history isDirty selection "
+              "checkResults columnWidths columns displayedRecords document fileURL history isDirty "
+              "savedDocument selection "
               "showCheckResults windowTitle");
     EXPECT_EQ(title(), "Größe.adi");
     EXPECT_EQ(columns(), "MODE X");
     EXPECT_EQ(store.width("OLD"), 333);
     store.open(path);  // The same values, but other ids.
-    EXPECT_EQ(told.sent(), "displayedRecords document");
+    EXPECT_EQ(told.sent(), "displayedRecords document savedDocument");
     store.newLog();
-    EXPECT_EQ(told.sent(), "columns displayedRecords document fileURL windowTitle");
+    EXPECT_EQ(told.sent(), "columns displayedRecords document fileURL savedDocument windowTitle");
     EXPECT_EQ(title(), "Unbenanntes Logbuch");
     EXPECT_TRUE(store.columnExists("CALL"));
     store.newLog();
@@ -90,7 +91,7 @@ TEST_F(SavingLogs, WritesTheWholeLogWhateverTheTableShows) {
     type(0, "CALL", "C");
     told.sent();
     store.save();
-    EXPECT_EQ(told.sent(), "isDirty windowTitle");
+    EXPECT_EQ(told.sent(), "isDirty savedDocument windowTitle");
     const std::string text = folder.read("log.adi");
     EXPECT_NE(text.find("<ADIF_VER:5>3.1.4 <PROGRAMID:7>Quillon"), std::string::npos) << text;
     EXPECT_TRUE(text.ends_with("<CALL:1>C <BAND:3>20m <EOR>\n<CALL:1>A <EOR>\n")) << text;
@@ -101,7 +102,7 @@ TEST_F(SavingLogs, AsksWhereForALogWithoutFile) {
     told.sent();
     panels.answers = {folder.path("x.edi"), folder.path("y.adi")};
     store.save();
-    EXPECT_EQ(told.sent(), "fileURL isDirty windowTitle");
+    EXPECT_EQ(told.sent(), "fileURL isDirty savedDocument windowTitle");
     store.saveWithPanel();
     EXPECT_EQ(title(), "y.adi");
     EXPECT_EQ(panels.proposedNames.join(' '), "Logbuch.adi x.edi");

@@ -13,7 +13,8 @@ class OwnHome {
     OwnHome() {
         const QByteArray home = QFile::encodeName(folder.path());
         qputenv("HOME", home);
-        for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
+        for (const char* const variable :
+             {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
             qputenv(variable, home);
         }
     }

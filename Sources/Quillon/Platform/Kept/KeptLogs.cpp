@@ -223,7 +223,8 @@ void KeptLogs::tidy(const std::string& last) const {
 }
 
 std::optional<FileError> KeptLogs::keepFormerFile(const std::string& path, std::uint64_t records) const {
-    if (struct stat status = {}; ::stat(path.c_str(), &status) != 0 || status.st_size == 0) {
+    if (struct stat status = {};
+        ::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size == 0) {
         return std::nullopt;
     }
     const auto content = readFile(path);
@@ -262,6 +263,9 @@ std::optional<FileError> KeptInHand::keep(const tallyrig::ADIFDocument& document
         return keepWhole(document, note);
     }
     KeptFile& file = opened->file;
+    if (document.isSameAs(last) && file.note()->path == path) {
+        return std::nullopt;
+    }
     note.log = log;
     note.order = file.note()->order + 1;
     note.timeMs = kept.now();
@@ -344,8 +348,13 @@ std::variant<tallyrig::ADIFDocument, FileError> KeptInHand::takeUp(const KeptEnt
     if (!document) {
         return FileError{"Die aufgehobene Datei ist beschädigt."};
     }
+    KeptNote note = *taken->file.note();
+    note.reason = KeptReason::inHand;
+    note.isDismissed = false;
+    // Without the note it would be listed with the old one, which is no loss.
+    static_cast<void>(taken->file.append(note, KeptFile::Content::none, {}));
     last = *document;
-    log = taken->file.note()->log;
+    log = note.log;
     opened = std::move(taken);
     return *std::move(document);
 }

@@ -51,7 +51,7 @@ class KeptLogs {
     void dismiss(const KeptEntry& entry) const;
 
     /// Keeps what the file at `path` holds, which has `records` records as far as the caller knows. Nothing
-    /// to do for a file that is not there or is empty.
+    /// to do for what is not there, is empty or is no file.
     std::optional<FileError> keepFormerFile(const std::string& path, std::uint64_t records) const;
 
   private:

@@ -1,0 +1,16 @@
+#include "Quillon/Platform/StateFolder.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace quillon {
+
+QString stateFolder() {
+    const QString given = QFile::decodeName(qgetenv("XDG_STATE_HOME"));
+    // What is not given from the root on does not count.
+    const QString base =
+        given.startsWith(QLatin1Char('/')) ? given : QDir::homePath() + QStringLiteral("/.local/state");
+    return base + QStringLiteral("/quillon");
+}
+
+}  // namespace quillon
