@@ -1,5 +1,7 @@
 #include "Quillon/App/QuillonApp.h"
 
+#include "Quillon/App/ProgramEnd.h"
+#include "Quillon/Keeping/LogKeeper.h"
 #include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Views/Controls/Colors.h"
@@ -46,6 +48,24 @@ QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
 }
 
 QuillonApp::~QuillonApp() = default;
+
+void QuillonApp::keepLogsIn(const QString& folder) {
+    keeper = std::make_unique<LogKeeper>(logStore, folder.toStdString(), LogKeeper::Pace());
+    contentView->offerKept(*keeper);
+    programEnd = std::make_unique<ProgramEnd>(
+        *qApp,
+        [this](KeptReason reason) {
+            // What is typed in a cell is the user's as well; but without a display no cell may be touched.
+            if (reason != KeptReason::displayLost) {
+                contentView->commitEditing();
+            }
+            keeper->end(reason);
+        },
+        [this] {
+            contentView->commitEditing();
+            keeper->keepNow();
+        });
+}
 
 void QuillonApp::tellOutOfMemory() {
     logStore.setErrorMessage(

@@ -19,6 +19,8 @@ class QApplication;
 namespace quillon {
 
 class ContentView;
+class LogKeeper;
+class ProgramEnd;
 
 /// The program: it owns the stores and opens the one main window.
 class QuillonApp {
@@ -26,6 +28,8 @@ class QuillonApp {
     /// `arguments` are those of the program without its name. `application` outlives this.
     QuillonApp(QApplication& application, const QStringList& arguments);
     ~QuillonApp();
+    /// Lets the log outlive the program in `folder`. To be called before the window is shown, if at all.
+    void keepLogsIn(const QString& folder);
 
     LogStore& store() { return logStore; }
     CompareStore& compare() { return compareStore; }
@@ -44,7 +48,9 @@ class QuillonApp {
     ContestStore contestStore;
     DesktopFileManager fileManager;
     CrossCheckStore crossCheckStore;
+    std::unique_ptr<LogKeeper> keeper;
     std::unique_ptr<ContentView> contentView;
+    std::unique_ptr<ProgramEnd> programEnd;
 };
 
 }  // namespace quillon

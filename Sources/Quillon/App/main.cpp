@@ -2,6 +2,7 @@
 #include "Quillon/App/QuillonApp.h"
 #include "Quillon/App/Terminal.h"
 #include "Quillon/App/WindowPicture.h"
+#include "Quillon/Platform/StateFolder.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <csignal>
@@ -27,6 +28,8 @@ int main(int argumentCount, char** argumentValues) {
     application.whenOutOfMemory([&quillonApp] { quillonApp.tellOutOfMemory(); });
     if (picture) {
         picture->takeOf(quillonApp);
+    } else {
+        quillonApp.keepLogsIn(quillon::stateFolder() + QStringLiteral("/kept"));
     }
     quillonApp.window().show();
     return QApplication::exec();

@@ -31,10 +31,12 @@ class CommandActions : public QObject {
     /// for all of them together. Those in the tool bar have theirs already.
     void showIcons(CommandMenu menu);
 
+    /// Looks anew at what is possible. Called by itself when the store or the table changes.
+    void refresh();
+
   private:
     void addSeparator(QWidget& place);
     void showIcon(const Command& command);
-    void refresh();
 
     ContentView& window;
     std::vector<QAction*> actions;  ///< By `CommandID`.

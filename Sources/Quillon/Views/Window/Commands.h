@@ -25,6 +25,7 @@ enum class CommandID {
     open,
     save,
     saveAs,
+    keptLogs,
     quit,
     undo,
     redo,

@@ -8,6 +8,7 @@
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
+#include "Quillon/Views/Controls/NoticeStrip.h"
 #include "Quillon/Views/Controls/PaneSplitter.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
@@ -19,6 +20,7 @@
 #include "Quillon/Views/Window/CommandActions.h"
 #include "Quillon/Views/Window/Commands.h"
 #include "Quillon/Views/Window/DropHint.h"
+#include "Quillon/Views/Window/KeptNotices.h"
 #include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/RedoKey.h"
 #include "Quillon/Views/Window/SearchField.h"
@@ -79,6 +81,18 @@ ContentView::ContentView(const AppStores& appStores, Settings& userSettings, QSt
 }
 
 ContentView::~ContentView() = default;
+
+void ContentView::offerKept(LogKeeper& keeper) {
+    keptNotices = new KeptNotices(stores.log, keeper, *notices, *this, [this] {
+        showTable();
+        workArea->focus();
+    });
+    commandActions->refresh();
+}
+
+void ContentView::showKeptLogs() {
+    keptNotices->showList();
+}
 
 QSOTableView& ContentView::table() const {
     return workArea->table();
@@ -141,6 +155,9 @@ void ContentView::buildPanes() {
     areaLayout->setSpacing(0);
     setCentralWidget(area);
 
+    notices = new NoticeStrip(area);
+    areaLayout->addWidget(notices);
+    connect(notices, &NoticeStrip::left, this, [this] { workArea->focus(); });
     auto* splitter = new PaneSplitter(area);
     sidebar = new SidebarPane(stores, settings, splitter);
     splitter->addPane(sidebar, sidebarWidths);
@@ -216,6 +233,9 @@ void ContentView::comeUp() {
         workArea->crossCheck().addLogs({*folder});
     }
     workArea->focus();
+    if (keptNotices != nullptr) {
+        keptNotices->tellOfLeftBehind();
+    }
     emit cameUp();
 }
 
@@ -234,7 +254,7 @@ void ContentView::showReportMessage() {
 }
 
 QWidgetList ContentView::panes() const {
-    return QWidgetList{searchField, sidebar} + workArea->panes();
+    return QWidgetList{searchField, notices, sidebar} + workArea->panes();
 }
 
 void ContentView::showTitle() {

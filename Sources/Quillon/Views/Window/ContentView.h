@@ -15,6 +15,9 @@ namespace quillon {
 
 class CommandActions;
 class DropHint;
+class KeptNotices;
+class LogKeeper;
+class NoticeStrip;
 class PaneKeys;
 class QSOTableView;
 class SearchField;
@@ -34,6 +37,12 @@ class ContentView : public QMainWindow {
     ContentView(const AppStores& appStores, Settings& userSettings, QStringList arguments,
                 QWidget* parent = nullptr);
     ~ContentView() override;
+
+    /// Tells the user what `keeper` keeps, and offers what was kept. It outlives the window, and is given
+    /// before that is shown.
+    void offerKept(LogKeeper& keeper);
+    bool keepsLogs() const { return keptNotices != nullptr; }
+    void showKeptLogs();
 
     LogStore& store() const { return stores.log; }
     QSOTableView& table() const;
@@ -93,6 +102,8 @@ class ContentView : public QMainWindow {
     WorkArea* workArea = nullptr;
     StatusLine* statusLine = nullptr;
     DropHint* dropHint = nullptr;
+    NoticeStrip* notices = nullptr;
+    KeptNotices* keptNotices = nullptr;  ///< Null where nothing is kept.
     bool hasComeUp = false;
 };
 
