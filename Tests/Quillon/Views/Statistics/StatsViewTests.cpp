@@ -1,9 +1,9 @@
 #include "Quillon/Views/Statistics/StatsView.h"
 
+#include "Quillon/Support/BlankPainter.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
 #include "Quillon/Views/Controls/Chart.h"
-#include "Quillon/Views/Controls/ChartPainter.h"
 #include "Quillon/Views/Statistics/StatisticsCharts.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,8 @@ namespace {
 
 class Statistics : public testing::LogStoreTest {
   protected:
-    void show(ChartPainter* painter = chartPainter()) {
+    void show() { show(&blank); }
+    void show(ChartPainter* painter) {
         view = std::make_unique<StatsView>(store, painter);
         view->resize(900, 700);
         view->show();
@@ -35,6 +36,7 @@ class Statistics : public testing::LogStoreTest {
         return all;
     }
 
+    testing::BlankPainter blank;
     std::unique_ptr<StatsView> view;
 };
 

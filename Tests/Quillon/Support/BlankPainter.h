@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Quillon/Views/Controls/ChartPainter.h"
+
+namespace quillon::testing {
+
+/// Leaves charts blank, so that they can be tested without the module that paints them.
+class BlankPainter : public ChartPainter {
+  public:
+    void paint(QPaintDevice&, const ChartPicture&) override {}
+};
+
+}  // namespace quillon::testing
