@@ -23,6 +23,8 @@ ChartCard::ChartCard(ChartPainter* painter, QWidget* parent)
     content().addWidget(nothing);
     if (painter != nullptr) {
         buildChart(*painter);
+    } else {
+        addNumbers();
     }
     content().addStretch(1);
 }
@@ -40,6 +42,12 @@ void ChartCard::buildChart(ChartPainter& painter) {
     connect(scrollBar, &QScrollBar::valueChanged, bars,
             [this](int first) { bars->showFrom(static_cast<std::size_t>(first)); });
     connect(opener, &DisclosureButton::expandedChanged, this, &ChartCard::fillNumbers);
+}
+
+void ChartCard::addNumbers() {
+    numbers = new ChartNumbers(this);
+    content().insertWidget(content().indexOf(opener != nullptr ? static_cast<QWidget*>(opener) : nothing) + 1,
+                           numbers);
 }
 
 void ChartCard::setData(ChartData chartData) {
@@ -83,11 +91,8 @@ void ChartCard::showNumbers(bool shown) {
 void ChartCard::fillNumbers() {
     const bool isWanted = (opener == nullptr || opener->isExpanded()) && !data->entries.empty();
     if (numbers == nullptr && isWanted) {
-        numbers = new ChartNumbers(this);
-        content().insertWidget(content().count() - 1, numbers);
-        if (opener != nullptr) {
-            QWidget::setTabOrder(opener, numbers);
-        }
+        addNumbers();
+        QWidget::setTabOrder(opener, numbers);
     }
     if (numbers != nullptr) {
         if (isWanted) {

@@ -39,6 +39,7 @@ class ChartCard : public Card {
   private:
     void buildChart(ChartPainter& painter);
     void fitScrollBar();
+    void addNumbers();
     void fillNumbers();
 
     std::shared_ptr<const ChartData> data = std::make_shared<const ChartData>();
@@ -46,7 +47,7 @@ class ChartCard : public Card {
     QScrollBar* scrollBar = nullptr;
     DisclosureButton* opener = nullptr;
     QLabel* nothing = nullptr;
-    ChartNumbers* numbers = nullptr;  ///< Null until wanted.
+    ChartNumbers* numbers = nullptr;  ///< Null until wanted, where there is a chart.
 };
 
 }  // namespace quillon

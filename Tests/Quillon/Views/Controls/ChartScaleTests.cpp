@@ -80,7 +80,7 @@ TEST(AxisOfDays, IsLabelledInStepsThatSuitTheSpan) {
 
 TEST(AxisOfDays, HasNoMoreLabelsThanFit) {
     for (int span = 0; span < 20'000; span = span * 5 / 4 + 1) {
-        for (const std::size_t most : {2, 5, 11}) {
+        for (const std::size_t most : {2U, 5U, 11U}) {
             const auto ticks = dayTicks(day(1999, 12, 31), day(1999, 12, 31) + days(span), most);
             EXPECT_GE(ticks.size(), 1) << span;
             EXPECT_LE(ticks.size(), most) << span;
