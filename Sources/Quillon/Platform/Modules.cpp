@@ -18,7 +18,7 @@ QObject* moduleRoot(const QString& name) {
     QPluginLoader loader(moduleFile(name));
     QObject* const root = loader.instance();
     if (root == nullptr) {
-        qWarning().noquote() << loader.errorString();
+        qWarning().noquote() << moduleFile(name) + QStringLiteral(": ") + loader.errorString();
     }
     return root;
 }
