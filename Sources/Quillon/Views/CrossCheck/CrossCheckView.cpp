@@ -53,6 +53,7 @@ CrossCheckView::CrossCheckView(LogStore& logStore, CrossCheckStore& crossStore, 
     body->addWidget(resultPage());
     body->addWidget(new QWidget(this));
     column->addLayout(body, 1);
+    strip->lower();
 
     constexpr int patienceMs = 250;
     patience.setSingleShot(true);
@@ -123,8 +124,8 @@ QWidget* CrossCheckView::resultPage() {
     table->setAccessibleName(QStringLiteral("Rangliste"));
     rankingCard->content().addWidget(table, 1);
     findings = new FindingsCard(store, findingLimit, splitter);
-    splitter->addWidget(rankingCard);
-    splitter->addWidget(findings);
+    // Tab follows the children, and the splitter put the later one first.
+    rankingCard->lower();
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 1);
 

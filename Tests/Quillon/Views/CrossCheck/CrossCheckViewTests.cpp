@@ -5,6 +5,7 @@
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
 #include "Quillon/Views/Controls/FindingList.h"
+#include "Quillon/Views/Controls/TabOrder.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
 #include "Quillon/Views/CrossCheck/RankingTable.h"
 
@@ -156,6 +157,7 @@ TEST_F(CrossChecking, TakesTheKeyboardAndLetsTabLeave) {
     auto* before = new QLineEdit(&window);
     view->setParent(&window);
     auto* behind = new QLineEdit(&window);
+    putIntoTabOrder(*before, *view);
     window.resize(1000, 700);
     window.show();
     view->show();
@@ -171,6 +173,8 @@ TEST_F(CrossChecking, TakesTheKeyboardAndLetsTabLeave) {
     EXPECT_EQ(QApplication::focusWidget(), behind);
     QTest::keyClick(behind, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), before);
+    QTest::keyClick(before, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &table());
     view->setParent(nullptr);
 }
 
