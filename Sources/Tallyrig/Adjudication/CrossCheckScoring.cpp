@@ -31,8 +31,9 @@ std::optional<CrossCheckScores> crossCheckScores(
         score.logID = log.id;
         score.station = baseStation.adapted(log.owner, log.document);
         const ContestChecker checker(rules(score.station));
-        score.claimed = checker.score(log.document);
-        score.checked = checker.score(log.document, report, log.id, penalties);
+        ContestChecker::ScorePair pair = checker.scorePair(log.document, report, log.id, penalties);
+        score.claimed = std::move(pair.claimed);
+        score.checked = std::move(pair.checked);
         work.addDone(log.document.records().size());
     });
     if (work.isCancelled()) {

@@ -17,7 +17,7 @@ class LogWork;
 
 /// Scores each log twice by the rules of its own station. What `baseStation` says is common to all logs holds
 /// where a log does not tell better (`ContestStation::adapted`). `rules` gives the rules for a station, and
-/// is asked by several threads at once. Cost: two passes over each log, on all cores.
+/// is asked by several threads at once. Cost: a pass over each log, on all cores.
 CrossCheckScores crossCheckScores(std::span<const CrossCheckLog> logs, const CrossCheckReport& report,
                                   const CrossCheckPenalties& penalties, const ContestStation& baseStation,
                                   const std::function<ContestRules(const ContestStation&)>& rules);

@@ -3,27 +3,21 @@
 #include "Tallyrig/Contest/ContestRun.h"
 #include "Tallyrig/Geography/DXCCInfo.h"
 
+#include <array>
+#include <span>
 #include <utility>
+#include <vector>
 
 namespace tallyrig {
 
-ContestChecker::ContestChecker(ContestRules rules) : contestRules(std::move(rules)) {}
+namespace {
 
-ContestScore ContestChecker::score(const ADIFDocument& log) const {
-    return score(log, {}, {});
-}
+using Statuses = std::unordered_map<UUID, CrossCheckStatus>;
 
-ContestScore ContestChecker::score(const ADIFDocument& log,
-                                   const std::unordered_map<UUID, CrossCheckStatus>& crossCheck,
-                                   const CrossCheckPenalties& penalties) const {
-    return ContestRun(contestRules, crossCheck, penalties).score(log);
-}
-
-ContestScore ContestChecker::score(const ADIFDocument& log, const CrossCheckReport& adjudicatedBy, UUID logID,
-                                   const CrossCheckPenalties& penalties) const {
-    const auto findings = adjudicatedBy.findings(logID);
+/// By the ids of the records; of several findings on one record the first counts.
+Statuses statusesOf(std::span<const CrossCheckFinding> findings) {
     // Most findings change nothing and need to be known only where a later one may be on the same record.
-    std::unordered_map<UUID, CrossCheckStatus> statuses;
+    Statuses statuses;
     UUID last;
     bool areAllDifferent = true;
     for (const CrossCheckFinding& finding : findings) {
@@ -39,7 +33,38 @@ ContestScore ContestChecker::score(const ADIFDocument& log, const CrossCheckRepo
             statuses.emplace(finding.id, finding.status);
         }
     }
-    return score(log, statuses, penalties);
+    return statuses;
+}
+
+}  // namespace
+
+ContestChecker::ContestChecker(ContestRules rules) : contestRules(std::move(rules)) {}
+
+ContestScore ContestChecker::score(const ADIFDocument& log) const {
+    return score(log, {}, {});
+}
+
+ContestScore ContestChecker::score(const ADIFDocument& log,
+                                   const std::unordered_map<UUID, CrossCheckStatus>& crossCheck,
+                                   const CrossCheckPenalties& penalties) const {
+    const std::array adjudications = {Adjudication{crossCheck, penalties}};
+    return std::move(ContestRun(contestRules, adjudications).scores(log).front());
+}
+
+ContestScore ContestChecker::score(const ADIFDocument& log, const CrossCheckReport& adjudicatedBy, UUID logID,
+                                   const CrossCheckPenalties& penalties) const {
+    return score(log, statusesOf(adjudicatedBy.findings(logID)), penalties);
+}
+
+ContestChecker::ScorePair ContestChecker::scorePair(const ADIFDocument& log,
+                                                    const CrossCheckReport& adjudicatedBy, UUID logID,
+                                                    const CrossCheckPenalties& penalties) const {
+    const Statuses none;
+    const CrossCheckPenalties noPenalties;
+    const Statuses statuses = statusesOf(adjudicatedBy.findings(logID));
+    const std::array adjudications = {Adjudication{none, noPenalties}, Adjudication{statuses, penalties}};
+    std::vector<ContestScore> scores = ContestRun(contestRules, adjudications).scores(log);
+    return {std::move(scores[0]), std::move(scores[1])};
 }
 
 ADIFRecord ContestChecker::withDerivedDXCC(const ADIFRecord& record) {

@@ -40,6 +40,14 @@ class ContestChecker {
     /// counts.
     ContestScore score(const ADIFDocument& log, const CrossCheckReport& adjudicatedBy, UUID logID,
                        const CrossCheckPenalties& penalties) const;
+    /// What a log gives as it stands, and as a cross-check leaves it.
+    struct ScorePair {
+        ContestScore claimed;
+        ContestScore checked;
+    };
+    /// The score as claimed and the one with what the report says. Cost: one pass over the records.
+    ScorePair scorePair(const ADIFDocument& log, const CrossCheckReport& adjudicatedBy, UUID logID,
+                        const CrossCheckPenalties& penalties) const;
 
     /// `record` with the entity of its call in `DXCC`, where that is empty and the call tells it.
     static ADIFRecord withDerivedDXCC(const ADIFRecord& record);

@@ -1,11 +1,11 @@
 #include "Tallyrig/Contest/ContestRun.h"
 
 #include "Tallyrig/Contest/DuplicateSearch.h"
-#include "Tallyrig/Contest/Saturation.h"
-#include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
-#include <utility>
+#include <cstdint>
+#include <iterator>
+#include <optional>
 #include <variant>
 
 namespace tallyrig {
@@ -41,13 +41,29 @@ struct ProblemOfRelation {
     std::string operator()(const relation::Any&) const { return "ungültig"; }
 };
 
+/// What the findings remove the QSO by, if they do.
+std::optional<ContestLedger::Removal> removalOf(UUID id, const Adjudication& adjudication) {
+    const auto& [statuses, penalties] = adjudication;
+    const auto found = statuses.find(id);
+    if (found == statuses.end()) {
+        return std::nullopt;
+    }
+    const CrossCheckStatus status = found->second;
+    if (status == CrossCheckStatus::notInLog) {
+        return ContestLedger::Removal{status, penalties.nilPenaltyFactor};
+    }
+    if (status == CrossCheckStatus::bustedCall ||
+        (status == CrossCheckStatus::bustedExchange && penalties.removeBustedExchange)) {
+        return ContestLedger::Removal{status, penalties.bustedPenaltyFactor};
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
-ContestRun::ContestRun(const ContestRules& contestRules, const CrossCheck& findings,
-                       const CrossCheckPenalties& costs)
+ContestRun::ContestRun(const ContestRules& contestRules, std::span<const Adjudication> allAdjudications)
     : rules(contestRules),
-      crossCheck(findings),
-      penalties(costs),
+      adjudications(allAdjudications),
       band(fields, "BAND"),
       mode(fields, "MODE"),
       readsMode(rules.modes || std::ranges::any_of(rules.multipliers, &ContestMultiplier::perMode)),
@@ -56,45 +72,31 @@ ContestRun::ContestRun(const ContestRules& contestRules, const CrossCheck& findi
     for (const UpperText& field : rules.requiredFields) {
         requiredFields.push_back(fields.add(field));
     }
-    for (const ContestMultiplier& multiplier : rules.multipliers) {
-        const auto known = std::ranges::find_if(
-            tallies, [&](const Tally& tally) { return text::equal(tally.name, multiplier.name); });
-        const auto tally = static_cast<std::size_t>(known - tallies.begin());
-        if (known == tallies.end()) {
-            tallies.push_back({multiplier.name, KeyNumbers(), 0});
-        }
-        multipliers.push_back({multiplier, MultiplierKey(multiplier, fields), tally});
+    for (std::size_t count = adjudications.size(); count > 0; --count) {
+        ledgers.emplace_back(rules, fields);
     }
     if (rules.validRelation) {
         relationProblem = std::visit(ProblemOfRelation(), *rules.validRelation);
     }
 }
 
-ContestScore ContestRun::score(const ADIFDocument& log) {
-    result.contestName = rules.name;
-    result.totalQSOs = log.records().size();
-    result.results.reserve(result.totalQSOs);
+std::vector<ContestScore> ContestRun::scores(const ADIFDocument& log) {
+    for (ContestLedger& ledger : ledgers) {
+        ledger.reserve(log.records().size());
+    }
     DuplicateSearch duplicates(rules, log.records());
+    ContestQSOResult qso;
     for (const ADIFRecord& record : log.records()) {
         fields.read(record);
-        ContestQSOResult& qso = result.results.emplace_back();
         qso.id = record.id();
-        qso.index = result.results.size() - 1;
         // An invalid QSO is remembered too: the valid one that comes later is its duplicate.
         qso.isDupe = duplicates.isNextDuplicate();
         scoreQSO(qso);
-        result.countedQSOs += qso.isCounted() ? 1 : 0;
-        result.dupeQSOs += qso.isDupe ? 1 : 0;
-        result.invalidQSOs += qso.problems.empty() ? 0 : 1;
+        ++qso.index;
     }
-    for (const Tally& tally : tallies) {
-        result.multiplierCount = saturatedSum(result.multiplierCount, tally.count);
-    }
-    result.total = total();
-    for (const Multiplier& multiplier : multipliers) {
-        result.multiplierBreakdown.push_back({multiplier.rule.name, tallies[multiplier.tally].count});
-    }
-    return std::move(result);
+    std::vector<ContestScore> scores;
+    std::ranges::transform(ledgers, std::back_inserter(scores), &ContestLedger::take);
+    return scores;
 }
 
 void ContestRun::scoreQSO(ContestQSOResult& qso) {
@@ -102,14 +104,19 @@ void ContestRun::scoreQSO(ContestQSOResult& qso) {
     const RelationTable::Verdict& relation = relations.read(fields);
     findProblems(relation.validity);
     qso.problems = problems.take();
-    if (!qso.problems.empty() || qso.isDupe) {
+    for (ContestLedger& ledger : ledgers) {
+        ledger.add(qso);
+    }
+    if (qso.isFlagged()) {
         return;
     }
     const std::int64_t points = valuation.points(fields, relation.rule);
-    if (const auto removal = removalOf(qso.id)) {
-        remove(qso, *removal, points);
-    } else {
-        count(qso, points);
+    for (std::size_t number = 0; number < ledgers.size(); ++number) {
+        if (const auto removal = removalOf(qso.id, adjudications[number])) {
+            ledgers[number].remove(*removal, points, band);
+        } else {
+            ledgers[number].count(points, fields, band, mode);
+        }
     }
 }
 
@@ -117,8 +124,8 @@ void ContestRun::scoreQSO(ContestQSOResult& qso) {
 void ContestRun::turnToPlace() {
     if (band.turn(fields)) {
         if (band.isNew()) {
-            bands.push_back(
-                {!rules.bands || (!band.name().empty() && rules.bands->contains(band.name())), 0, 0});
+            isBandAllowed.push_back(!rules.bands ||
+                                    (!band.name().empty() && rules.bands->contains(band.name())));
         }
         valuation.turnToBand(band.key());
     }
@@ -128,7 +135,7 @@ void ContestRun::turnToPlace() {
 }
 
 void ContestRun::findProblems(RelationAnswer validity) {
-    if (!bands[band.number()].isAllowed) {
+    if (!isBandAllowed[band.number()]) {
         addProblemOf("Band", band.name());
     }
     if (!isModeAllowed) {
@@ -153,67 +160,6 @@ void ContestRun::addProblemOf(const char* kind, const std::string& name) {
     } else {
         problems.add(kind, " ", name, " nicht erlaubt");
     }
-}
-
-std::optional<ContestRun::Removal> ContestRun::removalOf(UUID id) const {
-    const auto found = crossCheck.find(id);
-    if (found == crossCheck.end()) {
-        return std::nullopt;
-    }
-    const CrossCheckStatus status = found->second;
-    if (status == CrossCheckStatus::notInLog) {
-        return Removal{status, penalties.nilPenaltyFactor};
-    }
-    if (status == CrossCheckStatus::bustedCall ||
-        (status == CrossCheckStatus::bustedExchange && penalties.removeBustedExchange)) {
-        return Removal{status, penalties.bustedPenaltyFactor};
-    }
-    return std::nullopt;
-}
-
-void ContestRun::remove(ContestQSOResult& qso, const Removal& removal, std::int64_t points) {
-    const std::int64_t penalty = saturatedProduct(removal.factor, points);
-    Band& gathered = bands[band.number()];
-    ++result.removedQSOs;
-    result.penaltyPoints = saturatedSum(result.penaltyPoints, penalty);
-    result.qsoPoints = saturatedDifference(result.qsoPoints, penalty);
-    gathered.points = saturatedDifference(gathered.points, penalty);
-    qso.points = saturatedDifference(0, penalty);
-    qso.crossCheckRemoval = removal.status;
-}
-
-void ContestRun::count(ContestQSOResult& qso, std::int64_t points) {
-    Band& gathered = bands[band.number()];
-    qso.points = points;
-    result.qsoPoints = saturatedSum(result.qsoPoints, points);
-    gathered.points = saturatedSum(gathered.points, points);
-    for (Multiplier& multiplier : multipliers) {
-        Tally& tally = tallies[multiplier.tally];
-        if (!multiplier.key.addNew(fields, band, mode, tally.seen)) {
-            continue;
-        }
-        const std::int64_t* const weight =
-            multiplier.rule.bandWeights ? multiplier.rule.bandWeights->find(band.key()) : nullptr;
-        const std::int64_t worth = weight == nullptr ? 1 : *weight;
-        tally.count = saturatedSum(tally.count, worth);
-        gathered.multiplierCount = saturatedSum(gathered.multiplierCount, worth);
-        newMultipliers.add(multiplier.rule.name);
-    }
-    qso.newMultipliers = newMultipliers.take();
-}
-
-std::int64_t ContestRun::total() const {
-    if (rules.multipliers.empty()) {
-        return result.qsoPoints;
-    }
-    if (!rules.scorePerBand) {
-        return saturatedProduct(result.qsoPoints, result.multiplierCount);
-    }
-    std::int64_t sum = 0;
-    for (const Band& gathered : bands) {
-        sum = saturatedSum(sum, saturatedProduct(gathered.points, gathered.multiplierCount));
-    }
-    return sum;
 }
 
 }  // namespace tallyrig

@@ -43,9 +43,16 @@ TEST(AdjudicatedScore, TakesTheFirstOfTwoFindingsOnOneRecord) {
         CrossCheckSummary summary;
         summary.logID = id;
         const CrossCheckReport report({summary}, {findings});
-        const ContestRules rules = {.name = "Probe", .station = common, .points = points::Fixed{2}};
-        EXPECT_EQ(ContestChecker(rules).score(log, report, UUID::fresh(), {}).countedQSOs, 2U);
-        return ContestChecker(rules).score(log, report, id, {}).countedQSOs;
+        const ContestRules rules = {.name = "Probe",
+                                    .station = common,
+                                    .points = points::Fixed{2},
+                                    .multipliers = {{.name = "Land", .field = "DXCC"}}};
+        const ContestChecker checker(rules);
+        EXPECT_EQ(checker.score(log, report, UUID::fresh(), {}).countedQSOs, 2U);
+        const ContestChecker::ScorePair pair = checker.scorePair(log, report, id, {});
+        EXPECT_EQ(pair.claimed, checker.score(log));
+        EXPECT_EQ(pair.checked, checker.score(log, report, id, {}));
+        return pair.checked.countedQSOs;
     };
     EXPECT_EQ(counted({{0, Status::notInLog}, {1, Status::confirmed}}), 1U);
     EXPECT_EQ(counted({{0, Status::confirmed}, {0, Status::notInLog}}), 2U);
