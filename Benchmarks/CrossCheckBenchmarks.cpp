@@ -1,6 +1,7 @@
 // Checking and scoring the logs of a contest on one thread, beside reading the same logs from memory
-// ("readings"); on two threads beside one; and a check in which nothing is found beside one as usual. With
-// --largest also a contest of the largest size, which takes some minutes and 6 GB.
+// ("readings"); on two threads beside one; a check in which nothing is found beside one as usual, and of logs
+// that no station would send. With --largest also a contest of the largest size, which takes some minutes and
+// 6 GB.
 
 #include "GeneratedContest.h"
 #include "MemoryCount.h"
@@ -10,6 +11,7 @@
 #include "Tallyrig/CrossCheck/CrossCheckIndex.h"
 #include "Tallyrig/CrossCheck/LogWork.h"
 #include "Tallyrig/Formats/CabrilloParser.h"
+#include "Tallyrig/Log/ADIFParser.h"
 #include "Timing.h"
 
 #include <benchmark/benchmark.h>
@@ -79,8 +81,10 @@ void checking(benchmark::State& state) {
             static_cast<double>(counts.count(status)) / static_cast<double>(counts.total());
     }
     LogWork work(1);
+    std::vector<CrossCheckReport::Findings> findings;
     const std::size_t before = heapInUse();
-    const CrossCheckIndex index(contest.logs, {}, work);
+    const CrossCheckIndex index(contest.logs, {}, findings, work);
+    findings = {};
     state.counters["indexBytesPerQSO"] =
         static_cast<double>(heapInUse() - before) / static_cast<double>(contest.qsoCount);
 }
@@ -121,6 +125,50 @@ void checkingInVain(benchmark::State& state) {
     setCounters(state, contest);
 }
 
+/// What is odd of the QSOs of two stations, each with a log of `count`. Texts in ADIF; "#" is the QSO's
+/// number.
+struct OddLogs {
+    const char* name;
+    std::string_view mine;    ///< What DL1A has logged each time.
+    std::string_view theirs;  ///< What DL1B has.
+};
+
+constexpr OddLogs oddLogs[] = {
+    {"timelessUnderALikeCall", "<CALL:4>DL1B<BAND:3>20m", "<CALL:5>DL1AX<BAND:3>20m"},
+    {"timeless", "<CALL:4>DL1B<BAND:3>20m", "<CALL:4>DL1A<BAND:3>20m<TIME_ON:5>#"},
+    {"eachOnABandOfItsOwn", "<CALL:4>DL1B<BAND:6>A#<TIME_ON:4>1200", "<CALL:4>DL1A<BAND:6>B#<TIME_ON:4>1200"},
+    {"otherCallsInOneMinute", "<CALL:6>K#<BAND:3>20m<TIME_ON:4>1200",
+     "<CALL:4>DL1A<BAND:3>20m<TIME_ON:4>1200"},
+    {"otherBandInOneMinute", "<CALL:4>DL1B<BAND:3>20m<TIME_ON:4>1200",
+     "<CALL:4>DL1A<BAND:3>40m<TIME_ON:4>1200"},
+};
+
+CrossCheckLog repeatedQSO(std::string_view owner, std::string_view fields, std::size_t count) {
+    std::string text;
+    for (std::size_t number = 0; number < count; ++number) {
+        const std::string digits = std::to_string(100'000 + number).substr(1);
+        for (const char c : fields) {
+            text += c == '#' ? digits : std::string(1, c);
+        }
+        text += "<MODE:2>CW<QSO_DATE:8>20240323<EOR>";
+    }
+    return {UUID::fresh(), "", ADIFParser::parse(text), owner};
+}
+
+void checkingOddLogs(benchmark::State& state, const OddLogs& odd) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const std::vector<CrossCheckLog> logs = {repeatedQSO("DL1A", odd.mine, count),
+                                             repeatedQSO("DL1B", odd.theirs, count)};
+    // The same stations at ten QSOs a minute.
+    const std::vector<CrossCheckLog> matching = {
+        repeatedQSO("DL1A", "<CALL:4>DL1B<BAND:3>20m<TIME_ON:5>#", count),
+        repeatedQSO("DL1B", "<CALL:4>DL1A<BAND:3>20m<TIME_ON:5>#", count)};
+    inTurns(
+        state, "ofAMatch", [&] { benchmark::DoNotOptimize(checked(logs, 1)); },
+        [&] { benchmark::DoNotOptimize(checked(matching, 1)); });
+    state.counters["nsPerQSO"] = state.counters["bestMs"] * 1e6 / static_cast<double>(2 * count);
+}
+
 void addSize(std::int64_t logs, std::int64_t qsos) {
     const auto add = [&](const char* name, void (*run)(benchmark::State&)) {
         benchmark::RegisterBenchmark(name, run)
@@ -141,6 +189,14 @@ int main(int argc, char** argv) {
     using namespace tallyrig::benchmarks;
     addSize(100, 25'000);
     addSize(1'860, 480'000);
+    for (const OddLogs& odd : oddLogs) {
+        benchmark::RegisterBenchmark((std::string("checkingOddLogs/") + odd.name).c_str(), checkingOddLogs,
+                                     odd)
+            ->Arg(2'000)
+            ->Arg(20'000)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    }
     char** const end = std::remove(argv + 1, argv + argc, std::string_view("--largest"));
     if (end != argv + argc) {
         addSize(7'442, 5'500'000);

@@ -1,109 +1,130 @@
 #pragma once
 
+#include "Tallyrig/CrossCheck/Candidates.h"
 #include "Tallyrig/CrossCheck/CrossCheckIndex.h"
-#include "Tallyrig/CrossCheck/TimeWindow.h"
+#include "Tallyrig/CrossCheck/SpotTime.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tallyrig {
 
-/// The QSOs of all logs that hold one base call, for the station of that call to find its own among them. One
-/// that vouches for a QSO is taken out. Refers to the index.
+/// The QSOs of all logs that hold one base call, for the station of that call to find its own among them.
+/// Refers to the index.
 class CallHolders {
   public:
     using Number = CrossCheckIndex::Number;
+    using Holder = CrossCheckIndex::Holder;
 
-    /// The QSOs of one station: the places from `begin` up to, not including, `end`.
-    struct Range {
-        std::size_t begin = 0;
-        std::size_t end = 0;
-    };
-    /// A QSO by its place, and how far it is from the one that it was looked up for.
+    /// A QSO, and how far it is from the one that it was looked up for.
     struct Hit {
-        std::size_t place = 0;
+        const Holder* holder = nullptr;
         std::int64_t minutesApart = 0;
     };
-    /// A QSO among those of all stations.
-    struct Holder {
-        std::uint64_t spotTime = 0;  ///< Where it was and when, to be sorted by both.
-        const RecordStorage* record = nullptr;
-        Number number = 0;
-        Number station = 0;
-        Number log = 0;
 
-        /// The lowest value for a spot, that of no time; a spot ends where the next one begins.
-        static std::uint64_t spotBegin(Number spot) { return std::uint64_t{spot} << timeBits; }
-        static std::uint64_t spotTimeOf(Number spot, std::int64_t minutes) {
-            return spotBegin(spot) +
-                   (minutes == noTime ? 0 : static_cast<std::uint64_t>(minutes + timeOffset));
-        }
-        Number spot() const { return static_cast<Number>(spotTime >> timeBits); }
-        std::int64_t minutes() const {
-            const auto time = static_cast<std::int64_t>(spotTime & (spotBegin(1) - 1));
-            return time == 0 ? noTime : time - timeOffset;
-        }
+    explicit CallHolders(const CrossCheckIndex& crossCheckIndex)
+        : index(crossCheckIndex), ranges(crossCheckIndex.stationCount()) {}
 
-      private:
-        static constexpr unsigned timeBits = 35;
-        static constexpr std::int64_t timeOffset = std::int64_t{1} << 34;
-    };
-
-    explicit CallHolders(const CrossCheckIndex& crossCheckIndex) : index(crossCheckIndex) {}
-
-    /// Starts anew with those that hold this call, all of them left. Memory is used again.
+    /// Starts anew with those that hold this call. Memory is used again.
     void turnTo(Number base);
 
-    /// Empty if the station does not hold the call.
-    Range ofStation(Number station) const;
-    const Holder& operator[](std::size_t place) const { return holders[place]; }
-    /// What is nearest in time to `qso` of those that agree with it in band and mode and have not been taken
-    /// out; of equals the first. Cost: a few binary searches.
-    std::optional<Hit> nearest(const Range& range, const CrossCheckIndex::QSO& qso);
-    /// The same whatever the band and the mode.
-    std::optional<Hit> nearestAnywhere(const Range& range, const CrossCheckIndex::QSO& qso);
-    void takeOut(std::size_t place);
-    bool isLeft(std::size_t place) const { return next[place] == place; }
+    /// What is nearest in time to `minutes` of those of one station that are on the spot, or without one on
+    /// any, and of which `isUsed`, asked by number, is false; of equals the first. Who is used once is so
+    /// until the next turn. Most stations hold a call a few times; where they are many, the cost is a few
+    /// binary searches.
+    template <typename IsUsed>
+    std::optional<Hit> nearest(Number station, std::optional<SpotTime::Spot> spot, std::int64_t minutes,
+                               const IsUsed& isUsed) {
+        return nearestOf(station, left, spot, minutes, isUsed);
+    }
 
-    /// Calls `visit` with those of all stations, taken out or not, that agree with `qso` in band and mode and
-    /// lie at most `tolerance` minutes from it. In no order that means anything.
-    template <typename Visit>
-    void visitAround(const CrossCheckIndex::QSO& qso, std::int64_t tolerance, Visit visit) {
-        if (bySpot.empty()) {
-            sortBySpot();
+    /// The first of the stations for which `isWanted` is true and that have one on the spot, at most
+    /// `tolerance` minutes from `minutes`; of these the nearest, of equals the first. Used or not counts for
+    /// nothing here. Cost: a few binary searches, and a question for each that is so near or for each
+    /// station, whatever is less.
+    template <typename IsWanted>
+    const Holder* firstAround(SpotTime::Spot spot, std::int64_t minutes, std::int64_t tolerance,
+                              const IsWanted& isWanted) {
+        const ItemsAround<Place> around = itemsAround(sortedBySpot(), spot, minutes, tolerance);
+        const Holder* best = nullptr;
+        if (around.size() > stations.size()) {
+            for (std::size_t station = 0; station < stations.size() && best == nullptr; ++station) {
+                if (isWanted(stations[station])) {
+                    const auto hit =
+                        nearestOf(stations[station], all, spot, minutes, [](Number) { return false; });
+                    best = hit && hit->minutesApart <= tolerance ? hit->holder : nullptr;
+                }
+            }
+            return best;
         }
-        tallyrig::visitAround(ofSpot(bySpot, qso.spot), qso.minutes, tolerance, &Holder::minutes, visit);
+        const auto rank = [&](const Holder& holder) {
+            return std::tuple(index.stationOfLog(holder.log),
+                              minutesApart(holder.spotTime.minutes(), minutes), holder.number);
+        };
+        around.visit([&](const Place& place) {
+            const Holder& holder = holders[place.place];
+            if ((best == nullptr || rank(holder) < rank(*best)) && isWanted(index.stationOfLog(holder.log))) {
+                best = &holder;
+            }
+        });
+        return best;
     }
 
   private:
-    /// Those of a spot among holders sorted by spot and time.
-    static std::span<const Holder> ofSpot(std::span<const Holder> sorted, Number spot);
-    /// The slot of the station in the table, or the empty one in which it belongs.
-    std::size_t slotOf(Number station) const;
-    void sortStations();
-    void sortBySpot();
-    void findLowest();
-    /// The end of the places in `range` that are of the same spot as its first.
-    std::size_t endOfSpot(const Range& range) const;
-    std::optional<Hit> nearestOfSpot(const Range& spot, const CrossCheckIndex::QSO& qso);
-    /// The first place from `place` on that was not taken out; behind the last if there is none.
-    std::size_t leftFrom(std::size_t place);
-    /// One more than the last place before `place` that was not taken out; 0 if there is none.
-    std::size_t leftBefore(std::size_t place);
+    /// Places in `holders`: from `begin` up to, not including, `end`.
+    struct Range {
+        Number begin = 0;
+        Number end = 0;
+    };
+    struct Place {
+        SpotTime spotTime;
+        Number place = 0;
+    };
+    using CandidatesByStation = std::unordered_map<Number, Candidates>;
+
+    std::span<const Holder> ofStation(Number station) const {
+        return holders.subspan(ranges[station].begin, ranges[station].end - ranges[station].begin);
+    }
+    std::span<const Place> sortedBySpot();
+    template <typename IsUsed>
+    std::optional<Hit> nearestOf(Number station, CandidatesByStation& candidates,
+                                 std::optional<SpotTime::Spot> spot, std::int64_t minutes,
+                                 const IsUsed& isUsed) const {
+        constexpr std::size_t few = 16;
+        const std::span<const Holder> own = ofStation(station);
+        if (own.size() > few) {
+            return nearestOfMany(station, candidates, spot, minutes, isUsed);
+        }
+        std::optional<Hit> best;
+        for (const Holder& holder : own) {
+            if (spot && holder.spotTime.spot() != *spot) {
+                continue;
+            }
+            const std::int64_t apart = minutesApart(holder.spotTime.minutes(), minutes);
+            if ((!best || apart < best->minutesApart) && !isUsed(holder.number)) {
+                best = {&holder, apart};
+            }
+        }
+        return best;
+    }
+    std::optional<Hit> nearestOfMany(Number station, CandidatesByStation& candidates,
+                                     std::optional<SpotTime::Spot> spot, std::int64_t minutes,
+                                     const Candidates::IsUsed& isUsed) const;
 
     const CrossCheckIndex& index;
-    std::vector<std::size_t> borders;  ///< The first places of the stations, and the end.
-    std::vector<Holder> holders;       ///< Station by station, in each by spot, time and number.
-    std::vector<Range> ranges;         ///< The table of the stations: their places, empty in empty slots.
-    std::vector<Number> next;          ///< Where to look on for what is left, itself where it is left.
-    std::vector<Number> previous;      ///< The same for what lies before.
+    std::span<const Holder> holders;
+    std::vector<Number> stations;  ///< Those that hold the call, ascending.
+    std::vector<Range> ranges;     ///< By station; empty if it does not hold the call.
     // Made when they are first asked for.
-    std::vector<Holder> bySpot;  ///< All by spot and time.
-    std::vector<Number> lowest;  ///< The lowest number from here to the end of the spot.
+    std::vector<Place> bySpot;
+    CandidatesByStation left;  ///< Of stations with many.
+    CandidatesByStation all;   ///< The same, used or not.
 };
 
 }  // namespace tallyrig

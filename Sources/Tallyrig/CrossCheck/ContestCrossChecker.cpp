@@ -25,17 +25,17 @@ std::optional<CrossCheckReport> ContestCrossChecker::check(std::span<const Cross
     }
     // Each QSO is read once and looked for once.
     work.start(2 * count);
-    const CrossCheckIndex index(logs, crossCheckOptions, work);
+    std::vector<CrossCheckReport::Findings> findings;
+    const CrossCheckIndex index(logs, crossCheckOptions, findings, work);
     std::vector<CrossCheckSummary> summaries(logs.size());
-    std::vector<CrossCheckReport::Findings> findings(logs.size());
     tbb::enumerable_thread_specific<LogCrossCheck> checks(index, logs, crossCheckOptions);
     work.forEach(logs.size(), [&](std::size_t position) {
         const CrossCheckLog& log = logs[position];
         summaries[position] = {log.id, log.name, log.owner, {}};
-        if (log.document.records().empty()) {
+        if (findings[position].empty()) {
             return;
         }
-        findings[position] = checks.local().findings(position, work);
+        checks.local().judge(position, findings[position], work);
         for (const CrossCheckFinding& finding : findings[position]) {
             summaries[position].counts.add(finding.status);
         }

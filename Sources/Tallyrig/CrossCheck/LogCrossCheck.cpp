@@ -3,11 +3,10 @@
 #include "Tallyrig/CrossCheck/LogWork.h"
 
 #include "Tallyrig/CrossCheck/ExchangeCheck.h"
-#include "Tallyrig/CrossCheck/TimeWindow.h"
+#include "Tallyrig/CrossCheck/ExchangeWord.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <tuple>
 #include <utility>
@@ -30,77 +29,31 @@ LogCrossCheck::LogCrossCheck(const CrossCheckIndex& crossCheckIndex, std::span<c
                              const CrossCheckOptions& checkOptions)
     : index(crossCheckIndex), logs(allLogs), options(checkOptions), holders(crossCheckIndex) {}
 
-CrossCheckReport::Findings LogCrossCheck::findings(std::size_t position, const LogWork& work) {
+void LogCrossCheck::judge(std::size_t position, CrossCheckReport::Findings& findings, const LogWork& work) {
     turnTo(position);
-    CrossCheckReport::Findings findings(logs[position].document.records().size());
-    const auto block = [&](std::size_t begin) {
-        return index.qsosFrom(log->begin + static_cast<Number>(begin),
-                              std::min(blockSize, findings.size() - begin));
-    };
-    std::array<Outlook, blockSize> outlooks;
-    std::array<Outlook, blockSize> nextOutlooks;
-    lookAhead(block(0), nextOutlooks);
-    for (std::size_t begin = 0; begin < findings.size() && !work.isCancelled(); begin += blockSize) {
-        std::swap(outlooks, nextOutlooks);
-        if (begin + blockSize < findings.size()) {
-            lookAhead(block(begin + blockSize), nextOutlooks);
+    Number number = log->begin;
+    for (CrossCheckFinding& finding : findings) {
+        if (work.isCancelled()) {
+            return;
         }
-        const auto qsos = block(begin);
-        for (std::size_t place = 0; place < qsos.size(); ++place) {
-            const QSO& qso = qsos[place];
-            log->fields.read(*qso.record, own);
-            CrossCheckFinding& finding = findings[begin + place];
-            finding.id = qso.record->id();
-            finding.logID = log->id;
-            finding.index = begin + place;
-            finding.call = text::upper(text::trimmedOfBlanks(own[QSOField::call]), callBuffer);
-            evaluate(qso, outlooks[place], finding);
-        }
+        evaluate(number++, finding);
     }
-    return findings;
 }
 
 void LogCrossCheck::turnTo(std::size_t position) {
-    log = &index.log(position);
+    log = &index.logAt(position);
     ownBase = index.station(log->station).base;
     owner = upperTrimmed(logs[position].owner);
     holders.turnTo(ownBase);
+    mistyped.clear();
     used.clear(logs[position].document.records().size());
 }
 
-void LogCrossCheck::lookAhead(std::span<const QSO> qsos, std::span<Outlook> outlooks) {
-    constexpr std::size_t cacheLine = 64;
-    constexpr std::size_t usualRecordSize = 320;
-    for (std::size_t place = 0; place < qsos.size(); ++place) {
-        const QSO& qso = qsos[place];
-        Outlook& outlook = outlooks[place];
-        outlook = {};
-        if (qso.base != ownBase) {
-            outlook.station = index.stationOf(qso.base);
-        }
-        if (outlook.station != CrossCheckIndex::none) {
-            outlook.range = holders.ofStation(outlook.station);
-            outlook.hit = holders.nearest(outlook.range, qso);
-        }
-    }
-    // One line of each after the other, for what takes longest is to find the page. (In a function of its own
-    // this would do nothing that g++ can see, and be left out.)
-    for (std::size_t at = 0; at < usualRecordSize; at += cacheLine) {
-        for (std::size_t place = 0; place < qsos.size(); ++place) {
-            __builtin_prefetch(reinterpret_cast<const char*>(qsos[place].record) + at);
-            if (const auto& hit = outlooks[place].hit) {
-                const CallHolders::Holder& other = holders[hit->place];
-                __builtin_prefetch(reinterpret_cast<const char*>(other.record) + at);
-                __builtin_prefetch(&index.log(other.log));
-            }
-        }
-    }
-}
-
-void LogCrossCheck::evaluate(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding) {
-    const bool hasOtherLog = outlook.station != CrossCheckIndex::none;
-    if (hasOtherLog &&
-        (isInLog(qso, outlook, finding) || isUnderMistypedOwnCall(qso, outlook.station, finding))) {
+void LogCrossCheck::evaluate(Number number, CrossCheckFinding& finding) {
+    const QSO& qso = index.qso(number);
+    const Number station = qso.base == ownBase ? CrossCheckIndex::none : index.stationOf(qso.base);
+    const bool hasOtherLog = station != CrossCheckIndex::none;
+    if (hasOtherLog && (isInLog(qso, station, finding) || isUnderMistypedOwnCall(qso, station, finding))) {
         return;
     }
     if (isWithLikeCall(qso, finding)) {
@@ -118,51 +71,42 @@ void LogCrossCheck::evaluate(const QSO& qso, const Outlook& outlook, CrossCheckF
     }
 }
 
-bool LogCrossCheck::isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding) {
-    std::optional<CallHolders::Hit> hit = outlook.hit;
-    if (hit && !holders.isLeft(hit->place)) {
-        hit = holders.nearest(outlook.range, qso);
-    }
-    // A record may stand in several logs and be used under another number.
-    while (hit && isUsed(*holders[hit->place].record)) {
-        holders.takeOut(hit->place);
-        hit = holders.nearest(outlook.range, qso);
-    }
-    const bool isRegular = hit && hit->minutesApart <= options.timeToleranceMinutes;
-    if (isRegular || (hit && hit->minutesApart <= options.extendedToleranceMinutes)) {
-        const CallHolders::Holder& other = holders[hit->place];
-        used.insert(other.record->id());
-        holders.takeOut(hit->place);
-        setCounterpart(other.number, other.log, *other.record, finding);
-        if (isRegular) {
-            matched(qso.minutes != noTime && other.minutes() != noTime, finding);
+bool LogCrossCheck::isInLog(const QSO& qso, Number station, CrossCheckFinding& finding) {
+    const auto isOther = [this](Number number) { return isUsed(number); };
+    if (const auto hit = holders.nearest(station, index.spotOf(qso), qso.minutes, isOther);
+        hit &&
+        hit->minutesApart <= std::max(options.timeToleranceMinutes, options.extendedToleranceMinutes)) {
+        use(hit->holder->number);
+        setCounterpart(hit->holder->number, hit->holder->log, finding);
+        if (hit->minutesApart <= options.timeToleranceMinutes) {
+            matched(qso, *hit->holder, finding);
         } else {
-            matchedLate(hit->minutesApart, finding);
+            matchedLate(qso, *hit, finding);
         }
         return true;
     }
-
-    hit = holders.nearestAnywhere(outlook.range, qso);
-    while (hit && isUsed(*holders[hit->place].record)) {
-        holders.takeOut(hit->place);
-        hit = holders.nearestAnywhere(outlook.range, qso);
-    }
+    const auto hit = holders.nearest(station, std::nullopt, qso.minutes, isOther);
     if (!hit || hit->minutesApart > options.timeToleranceMinutes) {
         return false;
     }
     // It is not used up: it may be the match of a QSO that comes later.
-    const Number number = holders[hit->place].number;
-    setCounterpart(number, finding);
-    matchedElsewhere(qso, index.qso(number), finding);
+    setCounterpart(hit->holder->number, hit->holder->log, finding);
+    matchedElsewhere(qso, index.qso(hit->holder->number), finding);
     return true;
 }
 
-void LogCrossCheck::matched(bool haveTimes, CrossCheckFinding& finding) {
+void LogCrossCheck::matched(const QSO& qso, const CrossCheckIndex::Holder& other,
+                            CrossCheckFinding& finding) {
+    finding.status = CrossCheckStatus::confirmed;
+    const bool haveTimes = qso.minutes != noTime && other.spotTime.minutes() != noTime;
+    if (haveTimes && exchangeWord::agree(qso.received, other.sent)) {
+        return;
+    }
+    readRecords(qso, other.number, other.log);
     addSuffixNotes(finding);
     if (!haveTimes) {
         finding.notes.emplace_back("Zeit nicht prüfbar");
     }
-    finding.status = CrossCheckStatus::confirmed;
     if (options.checkExchange) {
         std::vector<std::string> mismatches = exchangeMismatches(own, others, options.checkRST);
         if (!mismatches.empty()) {
@@ -172,13 +116,17 @@ void LogCrossCheck::matched(bool haveTimes, CrossCheckFinding& finding) {
     }
 }
 
-void LogCrossCheck::matchedLate(std::int64_t minutesApart, CrossCheckFinding& finding) {
+void LogCrossCheck::matchedLate(const QSO& qso, const CallHolders::Hit& hit, CrossCheckFinding& finding) {
     finding.status = CrossCheckStatus::timeMismatch;
-    finding.notes.push_back("Zeitdifferenz " + std::to_string(minutesApart) + " min");
-    addSuffixNotes(finding);
+    finding.notes.push_back("Zeitdifferenz " + std::to_string(hit.minutesApart) + " min");
+    // Calls are plain where the exchange is known.
+    if (!exchangeWord::areKnown(qso.received, hit.holder->sent)) {
+        readRecords(qso, hit.holder->number, hit.holder->log);
+        addSuffixNotes(finding);
+    }
 }
 
-void LogCrossCheck::matchedElsewhere(const QSO& qso, const QSO& other, CrossCheckFinding& finding) {
+void LogCrossCheck::matchedElsewhere(const QSO& qso, const QSO& other, CrossCheckFinding& finding) const {
     finding.status = CrossCheckStatus::bandModeMismatch;
     const CrossCheckIndex::Place& place = index.place(qso.place);
     const CrossCheckIndex::Place& otherPlace = index.place(other.place);
@@ -194,37 +142,77 @@ bool LogCrossCheck::isUnderMistypedOwnCall(const QSO& qso, Number station, Cross
     if (index.isEmptyCall(ownBase)) {
         return false;
     }
-    // Of equals the one whose call comes first in the logs of the other station.
-    using Rank = std::tuple<std::int64_t, Number, Number>;
-    std::optional<Rank> best;
-    const CrossCheckIndex::Station& other = index.station(station);
-    const auto offer = [&](Number number) {
-        const QSO& candidate = index.qso(number);
-        const std::int64_t apart = minutesApart(candidate.minutes, qso.minutes);
-        if (candidate.spot != qso.spot || (best && apart > std::get<0>(*best)) ||
-            index.stationOf(candidate.base) != CrossCheckIndex::none || index.isEmptyCall(candidate.base) ||
-            !index.areAlike(candidate.base, ownBase) || isUsed(*candidate.record)) {
-            return;
-        }
-        const Rank rank = {apart, *std::ranges::lower_bound(index.holders(candidate.base), other.begin),
-                           number};
-        if (!best || rank < *best) {
-            best = rank;
-        }
-    };
-    visitAround(
-        index.inTimeOrder(other), qso.minutes, options.timeToleranceMinutes,
-        [&](Number number) { return index.qso(number).minutes; }, offer);
-    if (!best) {
+    const Number number = nearestMistyped(qso, station);
+    if (number == CrossCheckIndex::none) {
         return false;
     }
-    const Number number = std::get<2>(*best);
-    used.insert(index.qso(number).record->id());
-    setCounterpart(number, finding);
+    const Number otherLog = index.logOf(number);
+    use(number);
+    setCounterpart(number, otherLog, finding);
+    readRecords(qso, number, otherLog);
     finding.status = CrossCheckStatus::confirmed;
     finding.notes.push_back("Gegenstation loggte dein Rufzeichen als " +
                             upperTrimmed(others[QSOField::call]));
     return true;
+}
+
+CrossCheckIndex::Number LogCrossCheck::nearestMistyped(const QSO& qso, Number station) {
+    constexpr std::size_t few = 16;
+    const std::span<const CrossCheckIndex::Stray> strays = index.strays(station);
+    const SpotTime::Spot spot = index.spotOf(qso);
+    const auto around = itemsAround(strays, spot, qso.minutes, options.timeToleranceMinutes);
+    if (around.size() > few) {
+        // As soon as the whole log has been looked through once, a list is made of it.
+        Mistyped& known = mistyped[station];
+        known.visited += around.size();
+        if (known.visited > strays.size()) {
+            if (!known.candidates) {
+                known.candidates = mistypedBy(station);
+            }
+            const auto hit = known.candidates->nearest(spot, qso.minutes,
+                                                       [this](Number number) { return isUsed(number); });
+            return hit && hit->minutesApart <= options.timeToleranceMinutes ? hit->number
+                                                                            : CrossCheckIndex::none;
+        }
+    }
+    // Of equals the one whose call comes first in the logs of the other station.
+    using Rank = std::tuple<std::int64_t, Number, Number>;
+    std::optional<Rank> best;
+    around.visit([&](const CrossCheckIndex::Stray& stray) {
+        const std::int64_t apart = minutesApart(stray.spotTime.minutes(), qso.minutes);
+        if ((best && apart > std::get<0>(*best)) || !index.areAlike(stray.base, ownBase) ||
+            isUsed(stray.number)) {
+            return;
+        }
+        const Rank rank = {apart, index.firstHolder(stray.base, index.station(station)), stray.number};
+        if (!best || rank < *best) {
+            best = rank;
+        }
+    });
+    return best ? std::get<2>(*best) : CrossCheckIndex::none;
+}
+
+Candidates LogCrossCheck::mistypedBy(Number station) const {
+    struct Ranked {
+        Number firstOfCall;
+        Candidates::Candidate candidate;
+    };
+    std::unordered_map<Number, std::optional<Number>> firstOfCalls;
+    std::vector<Ranked> ranked;
+    for (const CrossCheckIndex::Stray& stray : index.strays(station)) {
+        const auto [entry, isNew] = firstOfCalls.try_emplace(stray.base);
+        if (isNew && index.areAlike(stray.base, ownBase)) {
+            entry->second = index.firstHolder(stray.base, index.station(station));
+        }
+        if (entry->second) {
+            ranked.push_back({*entry->second, {stray.spotTime, stray.number}});
+        }
+    }
+    std::ranges::sort(ranked, {},
+                      [](const Ranked& one) { return std::pair(one.firstOfCall, one.candidate.number); });
+    std::vector<Candidates::Candidate> candidates;
+    std::ranges::transform(ranked, std::back_inserter(candidates), &Ranked::candidate);
+    return Candidates(std::move(candidates));
 }
 
 bool LogCrossCheck::isWithLikeCall(const QSO& qso, CrossCheckFinding& finding) {
@@ -232,25 +220,18 @@ bool LogCrossCheck::isWithLikeCall(const QSO& qso, CrossCheckFinding& finding) {
         return false;
     }
     // The first station in text order, even if the call of another is more alike.
-    using Rank = std::tuple<Number, std::int64_t, Number>;
-    std::optional<Rank> best;
-    holders.visitAround(qso, options.timeToleranceMinutes, [&](const CallHolders::Holder& holder) {
-        const Rank rank = {holder.station, minutesApart(holder.minutes(), qso.minutes), holder.number};
-        if (best && rank > *best) {
-            return;
-        }
-        const Number base = index.station(holder.station).base;
-        if (base != qso.base && base != ownBase && !index.isEmptyCall(base) &&
-            index.areAlike(base, qso.base)) {
-            best = rank;
-        }
-    });
-    if (!best) {
+    const CrossCheckIndex::Holder* const other = holders.firstAround(
+        index.spotOf(qso), qso.minutes, options.timeToleranceMinutes, [&](Number station) {
+            const Number base = index.station(station).base;
+            return base != qso.base && base != ownBase && !index.isEmptyCall(base) &&
+                   index.areAlike(base, qso.base);
+        });
+    if (other == nullptr) {
         return false;
     }
-    setCounterpart(std::get<2>(*best), finding);
+    setCounterpart(other->number, other->log, finding);
     finding.status = CrossCheckStatus::bustedCall;
-    finding.notes.push_back("vermutlich " + index.station(std::get<0>(*best)).call);
+    finding.notes.push_back("vermutlich " + index.station(index.stationOfLog(other->log)).call);
     return true;
 }
 
@@ -267,17 +248,15 @@ void LogCrossCheck::addSuffixNotes(CrossCheckFinding& finding) {
     }
 }
 
-void LogCrossCheck::setCounterpart(Number number, CrossCheckFinding& finding) {
-    const QSO& other = index.qso(number);
-    setCounterpart(number, other.log, *other.record, finding);
-}
-
-void LogCrossCheck::setCounterpart(Number number, Number otherLog, const RecordStorage& record,
-                                   CrossCheckFinding& finding) {
+void LogCrossCheck::setCounterpart(Number number, Number otherLog, CrossCheckFinding& finding) const {
     const CrossCheckIndex::Log& other = index.log(otherLog);
-    other.fields.read(record, others);
     finding.counterpartLogID = other.id;
     finding.counterpartIndex = number - other.begin;
+}
+
+void LogCrossCheck::readRecords(const QSO& qso, Number number, Number otherLog) {
+    log->fields.read(*qso.record, own);
+    index.log(otherLog).fields.read(*index.qso(number).record, others);
 }
 
 }  // namespace tallyrig

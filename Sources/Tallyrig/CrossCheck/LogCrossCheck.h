@@ -1,13 +1,14 @@
 #pragma once
 
 #include "Tallyrig/CrossCheck/CallHolders.h"
+#include "Tallyrig/CrossCheck/Candidates.h"
 #include "Tallyrig/CrossCheck/CrossCheckFinding.h"
 #include "Tallyrig/CrossCheck/CrossCheckIndex.h"
 #include "Tallyrig/CrossCheck/CrossCheckLog.h"
 #include "Tallyrig/CrossCheck/CrossCheckOptions.h"
 #include "Tallyrig/CrossCheck/CrossCheckReport.h"
+#include "Tallyrig/CrossCheck/NumberSet.h"
 #include "Tallyrig/CrossCheck/QSOFields.h"
-#include "Tallyrig/CrossCheck/RecordIDSet.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,6 +16,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace tallyrig {
 
@@ -27,43 +29,42 @@ class LogCrossCheck {
     LogCrossCheck(const CrossCheckIndex& index, std::span<const CrossCheckLog> logs,
                   const CrossCheckOptions& options);
 
-    /// One finding for each record of the log at `position`, in their order. Once `work` is cancelled the
-    /// others say nothing.
-    CrossCheckReport::Findings findings(std::size_t position, const LogWork& work);
+    /// Completes the findings of the log at `position`, which has records. Once `work` is cancelled the
+    /// others stay as they are.
+    void judge(std::size_t position, CrossCheckReport::Findings& findings, const LogWork& work);
 
   private:
     using Number = CrossCheckIndex::Number;
     using QSO = CrossCheckIndex::QSO;
 
-    /// So many QSOs are looked up while those before them are judged, so that the memory can fetch at one go
-    /// what will be read: the records lie scattered over all logs.
-    static constexpr std::size_t blockSize = 16;
-    /// What is looked up of a QSO before.
-    struct Outlook {
-        Number station = CrossCheckIndex::none;  ///< Whose logs have to hold it; none if there is no log.
-        CallHolders::Range range;
-        std::optional<CallHolders::Hit> hit;
+    /// What one station may have logged under the own call, mistyped.
+    struct Mistyped {
+        std::size_t visited = 0;  ///< How many were looked at one by one.
+        std::optional<Candidates> candidates;
     };
 
     void turnTo(std::size_t position);
-    void lookAhead(std::span<const QSO> qsos, std::span<Outlook> outlooks);
-    void evaluate(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding);
+    void evaluate(Number number, CrossCheckFinding& finding);
     // What may have become of a QSO, one after the other; false where it has not.
-    bool isInLog(const QSO& qso, const Outlook& outlook, CrossCheckFinding& finding);
+    bool isInLog(const QSO& qso, Number station, CrossCheckFinding& finding);
     bool isUnderMistypedOwnCall(const QSO& qso, Number station, CrossCheckFinding& finding);
     bool isWithLikeCall(const QSO& qso, CrossCheckFinding& finding);
 
-    // What is said of a QSO whose counterpart was found.
-    void matched(bool haveTimes, CrossCheckFinding& finding);
-    void matchedLate(std::int64_t minutesApart, CrossCheckFinding& finding);
-    void matchedElsewhere(const QSO& qso, const QSO& other, CrossCheckFinding& finding);
-    void addSuffixNotes(CrossCheckFinding& finding);
-    /// Enters the QSO found, and reads it.
-    void setCounterpart(Number number, CrossCheckFinding& finding);
-    void setCounterpart(Number number, Number otherLog, const RecordStorage& record,
-                        CrossCheckFinding& finding);
+    /// The QSO of a station that may stand for `qso`, `none` if there is none.
+    Number nearestMistyped(const QSO& qso, Number station);
+    Candidates mistypedBy(Number station) const;
 
-    bool isUsed(const RecordStorage& record) const { return used.contains(record.id()); }
+    // What is said of a QSO whose counterpart was found.
+    void matched(const QSO& qso, const CrossCheckIndex::Holder& other, CrossCheckFinding& finding);
+    void matchedLate(const QSO& qso, const CallHolders::Hit& hit, CrossCheckFinding& finding);
+    void matchedElsewhere(const QSO& qso, const QSO& other, CrossCheckFinding& finding) const;
+    void addSuffixNotes(CrossCheckFinding& finding);
+    void setCounterpart(Number number, Number otherLog, CrossCheckFinding& finding) const;
+    /// Of `qso` and of its counterpart.
+    void readRecords(const QSO& qso, Number number, Number otherLog);
+
+    bool isUsed(Number number) const { return used.contains(index.recordNumber(number)); }
+    void use(Number number) { used.insert(index.recordNumber(number)); }
 
     const CrossCheckIndex& index;
     std::span<const CrossCheckLog> logs;
@@ -74,10 +75,10 @@ class LogCrossCheck {
     Number ownBase = 0;
     std::string owner;  ///< Trimmed.
     CallHolders holders;
-    RecordIDSet used;  ///< The records of others that vouch for a QSO.
-    QSOValues own;     ///< Of the record at hand.
-    QSOValues others;  ///< Of its counterpart.
-    std::string callBuffer;
+    std::unordered_map<Number, Mistyped> mistyped;  ///< By station, where there is much to look at.
+    NumberSet used;                                 ///< The records of others that vouch for a QSO.
+    QSOValues own;                                  ///< Of a record that was read.
+    QSOValues others;
 };
 
 }  // namespace tallyrig

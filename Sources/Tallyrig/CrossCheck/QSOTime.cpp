@@ -35,26 +35,48 @@ std::optional<std::int64_t> number(std::string_view text) {
     return value;
 }
 
-}  // namespace
-
-std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view time) {
+/// The minutes to the beginning of a date.
+std::optional<std::int64_t> minutesToDate(std::string_view date) {
     constexpr std::size_t dateLength = 8;
-    constexpr std::size_t timeLength = 4;
     date = text::trimmedOfBlanks(date);
-    time = text::firstCharacters(text::trimmedOfBlanks(time), timeLength);
-    // A character of several bytes makes no number.
-    if (date.size() != dateLength || time.size() != timeLength) {
+    if (date.size() != dateLength) {
         return std::nullopt;
     }
     const auto year = number(date.substr(0, 4));
     const auto month = number(date.substr(4, 2));
     const auto day = number(date.substr(6, 2));
-    const auto hour = number(time.substr(0, 2));
-    const auto minute = number(time.substr(2, 2));
-    if (!year || !month || !day || !hour || !minute) {
+    if (!year || !month || !day) {
         return std::nullopt;
     }
-    return (dayNumber(*year, *month, *day) * 24 + *hour) * 60 + *minute;
+    return dayNumber(*year, *month, *day) * 24 * 60;
+}
+
+/// Those of the day until a time.
+std::optional<std::int64_t> minutesToTime(std::string_view time) {
+    constexpr std::size_t timeLength = 4;
+    time = text::firstCharacters(text::trimmedOfBlanks(time), timeLength);
+    // A character of several bytes makes no number.
+    if (time.size() != timeLength) {
+        return std::nullopt;
+    }
+    const auto hour = number(time.substr(0, 2));
+    const auto minute = number(time.substr(2, 2));
+    return hour && minute ? std::optional(*hour * 60 + *minute) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> QSOClock::minutesOf(std::string_view date, std::string_view time) {
+    if (date != lastDate) {
+        lastDate = date;
+        toLastDate = minutesToDate(date);
+    }
+    const std::optional<std::int64_t> toTime = toLastDate ? minutesToTime(time) : std::nullopt;
+    return toTime ? std::optional(*toLastDate + *toTime) : std::nullopt;
+}
+
+std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view time) {
+    return QSOClock().minutesOf(date, time);
 }
 
 }  // namespace tallyrig

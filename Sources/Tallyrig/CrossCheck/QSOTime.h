@@ -12,4 +12,15 @@ namespace tallyrig {
 /// 2^33.
 std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view time);
 
+/// Tells the same of one QSO after the other; most are of the date of the one before. Refers to the last
+/// date.
+class QSOClock {
+  public:
+    std::optional<std::int64_t> minutesOf(std::string_view date, std::string_view time);
+
+  private:
+    std::string_view lastDate;
+    std::optional<std::int64_t> toLastDate;
+};
+
 }  // namespace tallyrig

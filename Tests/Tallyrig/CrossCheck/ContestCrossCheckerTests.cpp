@@ -147,6 +147,21 @@ TEST(MistypedCall, CountsAgainstTheOneWhoLoggedIt) {
     EXPECT_EQ(found(logs, {.maxCallDistance = 1}).front(), "bustedCall 1#0; vermutlich DL1XZ");
 }
 
+TEST(MistypedCall, IsTakenCallByCallHoweverManyThereAre) {
+    constexpr std::size_t count = 40;
+    std::vector<std::string_view> mine;
+    std::vector<std::string_view> theirs;
+    for (std::size_t index = 0; index < count; ++index) {
+        mine.emplace_back("DL1XX 1200 20m CW");
+        theirs.emplace_back(index % 2 == 0 ? "DL1AC 1200 20m CW" : "DL1AB 1200 20m CW");
+    }
+    const Lines lines = found({log("DL1AA", mine), log("DL1XX", theirs)});
+    for (std::size_t index = 0; index < count; ++index) {
+        const std::size_t other = index < count / 2 ? 2 * index : 2 * index + 1 - count;
+        EXPECT_TRUE(lines[index].starts_with("confirmed 1#" + std::to_string(other) + ";")) << lines[index];
+    }
+}
+
 TEST(CallWithoutLog, IsUniqueUnlessOthersHoldIt) {
     EXPECT_EQ(found({log("DL1A", {"OZ9X 1200 20m CW", "OZ9X/P 1200 20m CW", "LU7Z 1200 20m CW",
                                   "- 1200 20m CW", "DL1A 1200 20m CW", "VK4Q 1200 20m CW"}),
@@ -181,7 +196,8 @@ TEST(Record, VouchesForOneQSOWhateverLogsItStandsIn) {
 /// wrong that can. `random` decides.
 class Muddle {
   public:
-    explicit Muddle(std::uint32_t seed) : random(seed) {}
+    /// A crowd is a few stations that work each other again and again within few minutes.
+    explicit Muddle(std::uint32_t seed, bool isMuchCrowded = false) : random(seed), isCrowd(isMuchCrowded) {}
 
     CrossCheckOptions options() {
         return {of<std::int64_t>({1, 5, 30}),
@@ -193,12 +209,12 @@ class Muddle {
     }
 
     std::vector<CrossCheckLog> logs() {
-        const std::size_t stations = 2 + below(7);
+        const std::size_t stations = isCrowd ? 3 : 2 + below(7);
         std::vector<std::vector<testing::Pairs>> records(stations);
-        for (std::size_t count = 4 + below(60); count > 0; --count) {
+        for (std::size_t count = isCrowd ? 500 : 4 + below(60); count > 0; --count) {
             const std::size_t left = below(stations);
             const std::size_t right = below(stations);
-            const auto minute = static_cast<std::int64_t>(below(90));
+            const auto minute = static_cast<std::int64_t>(below(isCrowd ? 4 : 90));
             const std::string_view band = of<std::string_view>({"20m", "40M", "20M", ""});
             for (std::size_t copies = chance(8) ? 2 : 1; copies > 0; --copies) {
                 records[left].push_back(record(right, minute, band));
@@ -250,20 +266,31 @@ class Muddle {
     }
 
     std::mt19937 random;
+    bool isCrowd;
 };
+
+/// Checks on so many threads, and once more as one would do it by hand.
+void checkTwice(Muddle muddle, std::size_t threads) {
+    const std::vector<CrossCheckLog> logs = muddle.logs();
+    const CrossCheckOptions options = muddle.options();
+    LogWork work(threads);
+    const auto report = ContestCrossChecker(options).check(logs, work);
+    ASSERT_TRUE(report);
+    ASSERT_TRUE(logs.empty() || work.progress() == 1 || report->findings().empty());
+    const CrossCheckReport expected = testing::LiteralCrossCheck(logs, options).report();
+    ASSERT_EQ(report->summaries(), expected.summaries());
+    ASSERT_TRUE(std::ranges::equal(report->findings(), expected.findings()));
+}
 
 TEST(Muddle, IsJudgedAsByHandOnAnyNumberOfThreads) {
     for (std::uint32_t seed = 1; seed <= 400; ++seed) {
-        Muddle muddle(seed);
-        const std::vector<CrossCheckLog> logs = muddle.logs();
-        const CrossCheckOptions options = muddle.options();
-        LogWork work(1 + seed % 4);
-        const auto report = ContestCrossChecker(options).check(logs, work);
-        ASSERT_TRUE(report);
-        ASSERT_TRUE(logs.empty() || work.progress() == 1 || report->findings().empty());
-        const CrossCheckReport expected = testing::LiteralCrossCheck(logs, options).report();
-        ASSERT_EQ(report->summaries(), expected.summaries()) << seed;
-        ASSERT_TRUE(std::ranges::equal(report->findings(), expected.findings())) << seed;
+        ASSERT_NO_FATAL_FAILURE(checkTwice(Muddle(seed), 1 + seed % 4)) << seed;
+    }
+}
+
+TEST(Crowd, IsJudgedAsByHand) {
+    for (std::uint32_t seed = 1; seed <= 16; ++seed) {
+        ASSERT_NO_FATAL_FAILURE(checkTwice(Muddle(seed, true), 2)) << seed;
     }
 }
 

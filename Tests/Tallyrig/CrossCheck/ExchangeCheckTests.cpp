@@ -1,5 +1,6 @@
 #include "Tallyrig/CrossCheck/ExchangeCheck.h"
 
+#include "Tallyrig/CrossCheck/ExchangeWord.h"
 #include "Tallyrig/Log/LogSupport.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,9 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-Lines mismatches(std::string_view received, std::string_view sent, bool checkRST = false) {
+/// What is found in two records; whether their words agree is entered in `agrees`.
+Lines mismatches(std::string_view received, std::string_view sent, bool checkRST = false,
+                 bool* agrees = nullptr) {
     const auto read = [](const ADIFRecord& record, QSOValues& values) {
         QSOFields::Tables tables;
         QSOFields(record.stored().tags(), tables).read(record.stored(), values);
@@ -26,6 +29,10 @@ Lines mismatches(std::string_view received, std::string_view sent, bool checkRST
     QSOValues rightValues;
     read(left, leftValues);
     read(right, rightValues);
+    if (agrees != nullptr) {
+        *agrees = exchangeWord::agree(exchangeWord::ofReceived(leftValues, checkRST),
+                                      exchangeWord::ofSent(rightValues, checkRST));
+    }
     return exchangeMismatches(leftValues, rightValues, checkRST);
 }
 
@@ -71,6 +78,45 @@ TEST(ExchangeMismatches, LookAcrossTextAndNumberOnlyIfNothingElseWasCompared) {
     EXPECT_EQ(mismatches("SRX_STRING= \t | SRX=8", "STX_STRING=9"),
               Lines{"Austausch: empfangen  \t, gesendet 9"});
     EXPECT_EQ(mismatches("SRX=8", "RST_SENT=59"), Lines());
+}
+
+TEST(ExchangeWord, AgreesWhereNothingIsToBeFound) {
+    const std::pair<std::string_view, std::string_view> usual[] = {
+        {"SRX_STRING=0012 | SRX=12", "STX_STRING=012"},
+        {"SRX=7 | GRIDSQUARE=JO62", "STX=007"},
+        {"SRX=7", "STX=7 | MY_GRIDSQUARE=JO62"},
+        {"SRX_STRING=dok f12", "STX_STRING= DOK F12"},
+        {"SRX_STRING=ABCDEFGHIJ", "STX_STRING=ABCDEFGHIJ"},
+    };
+    bool agrees = false;
+    for (const auto& [received, sent] : usual) {
+        EXPECT_EQ(mismatches(received, sent, false, &agrees), Lines());
+        EXPECT_TRUE(agrees) << received;
+    }
+    mismatches("SRX=7 | RST_RCVD=599", "STX=7 | RST_SENT=599", true, &agrees);
+    EXPECT_TRUE(agrees);
+
+    const std::string_view values[] = {"", " ", "7", "07", "8", "7_5", "a", "A", "59 7", "ABCDEFGHIJK"};
+    for (const std::string_view text : values) {
+        for (const std::string_view number : values) {
+            for (const std::string_view otherText : values) {
+                for (const std::string_view otherNumber : values) {
+                    for (const std::string_view more : {"", "5", "JO62"}) {
+                        const std::string received = "SRX_STRING=" + std::string(text) +
+                                                     " | SRX=" + std::string(number) +
+                                                     " | GRIDSQUARE=JN58 | RST_RCVD=5";
+                        const std::string sent =
+                            "STX_STRING=" + std::string(otherText) + " | STX=" + std::string(otherNumber) +
+                            " | MY_GRIDSQUARE=" + std::string(more) + " | RST_SENT=" + std::string(more);
+                        for (const bool checkRST : {false, true}) {
+                            const Lines found = mismatches(received, sent, checkRST, &agrees);
+                            ASSERT_TRUE(!agrees || found.empty()) << received << " and " << sent;
+                        }
+                    }
+                }
+            }
+        }
+    }
 }
 
 TEST(ExchangeMismatches, TakeTheShorterLocatorForTheBeginningOfTheLonger) {
