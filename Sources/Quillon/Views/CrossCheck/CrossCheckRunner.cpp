@@ -102,11 +102,24 @@ void CrossCheckRunner::check() {
             return {};
         }
         return [this, shared = std::make_shared<const CrossCheckEvaluation>(std::move(*result))] {
-            givenUp = false;
-            store.take(shared);
+            takeOver(shared);
         };
     });
     emit changed();
+}
+
+void CrossCheckRunner::takeOver(const std::shared_ptr<const CrossCheckEvaluation>& evaluation) {
+    givenUp = false;
+    // Held by one pointer that the other thread empties, whoever copies the task.
+    const auto last = std::make_shared<std::shared_ptr<const CrossCheckEvaluation>>(store.evaluation());
+    store.take(evaluation);
+    if (*last == nullptr) {
+        return;
+    }
+    freeing.start<tallyrig::LogWork>([last](tallyrig::LogWork&) -> TakeOver {
+        last->reset();
+        return {};
+    });
 }
 
 void CrossCheckRunner::addLogs(const QStringList& paths) {

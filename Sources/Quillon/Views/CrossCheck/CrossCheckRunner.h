@@ -20,6 +20,7 @@ namespace quillon {
 class ContestStore;
 class CrossCheckStore;
 class LogStore;
+struct CrossCheckEvaluation;
 
 /// Keeps the result of the cross-check up to date beside the main thread: reads the logs that are added,
 /// checks and scores anew when logs, options or rules have changed, and writes the reports.
@@ -68,6 +69,7 @@ class CrossCheckRunner : public QObject {
     void checkWhenTyped();
     void checkAfter(int pauseMs);
     void check();
+    void takeOver(const std::shared_ptr<const CrossCheckEvaluation>& evaluation);
     void readNext();
     void ended();
 
@@ -75,6 +77,7 @@ class CrossCheckRunner : public QObject {
     const ContestStore& contest;
     CrossCheckStore& store;
     BackgroundWork background;
+    BackgroundWork freeing;  ///< Of the result before, which takes most of a second for 5,000,000 QSOs.
     Phase phase = Phase::idle;
     std::shared_ptr<const tallyrig::LogWork> reading;        ///< Of the logs that are read, or were last.
     std::shared_ptr<std::optional<WrittenReports>> written;  ///< By what writes; null while nothing does.
