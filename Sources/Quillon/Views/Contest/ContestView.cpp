@@ -9,6 +9,7 @@
 #include "Quillon/Views/Controls/FindingList.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/TabOrder.h"
 #include "Quillon/Views/Controls/Tile.h"
 #include "Quillon/Views/Controls/TileLayout.h"
 #include "Tallyrig/Contest/ContestChecker.h"
@@ -90,7 +91,7 @@ ContestView::ContestView(LogStore& logStore, const ContestStore& contestStore, s
                                    QStringLiteral("Öffne ein Contest-Log, um es zu prüfen und zu punkten."),
                                    this));
     body->addWidget(page);
-    setFocusProxy(page);
+    handKeyboardOn(*this, [this] { return page; });
     page->installEventFilter(this);
 
     pause.setSingleShot(true);

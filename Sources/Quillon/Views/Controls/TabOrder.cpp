@@ -1,8 +1,32 @@
 #include "Quillon/Views/Controls/TabOrder.h"
 
+#include <QFocusEvent>
 #include <QWidget>
 
+#include <utility>
+
 namespace quillon {
+
+namespace {
+
+class KeyboardGiver : public QObject {
+  public:
+    KeyboardGiver(QWidget& pane, std::function<QWidget*()> part)
+        : QObject(&pane), partOfPane(std::move(part)) {}
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn) {
+            partOfPane()->setFocus(static_cast<QFocusEvent*>(event)->reason());
+        }
+        return false;
+    }
+
+  private:
+    std::function<QWidget*()> partOfPane;
+};
+
+}  // namespace
 
 void putIntoTabOrder(QWidget& before, const QWidget& container) {
     QWidget* last = &before;
@@ -18,6 +42,10 @@ void putIntoTabOrder(QWidget& before, const QWidget& container) {
             last = control;
         }
     }
+}
+
+void handKeyboardOn(QWidget& pane, std::function<QWidget*()> part) {
+    pane.installEventFilter(new KeyboardGiver(pane, std::move(part)));
 }
 
 }  // namespace quillon

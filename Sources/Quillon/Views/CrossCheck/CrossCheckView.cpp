@@ -7,6 +7,7 @@
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/TabOrder.h"
 #include "Quillon/Views/Controls/Tile.h"
 #include "Quillon/Views/Controls/TileLayout.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
@@ -15,7 +16,6 @@
 #include "Quillon/Views/CrossCheck/RankingModel.h"
 #include "Quillon/Views/CrossCheck/RankingTable.h"
 
-#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -54,6 +54,11 @@ CrossCheckView::CrossCheckView(LogStore& logStore, CrossCheckStore& crossStore, 
     body->addWidget(new QWidget(this));
     column->addLayout(body, 1);
     strip->lower();
+    handKeyboardOn(*this, [this] {
+        QWidget* const stops[] = {addButton, table, body->currentWidget()};
+        // From a page without a stop Qt takes the keyboard along to the page that takes its place.
+        return stops[body->currentIndex()];
+    });
 
     constexpr int patienceMs = 250;
     patience.setSingleShot(true);
@@ -138,14 +143,6 @@ QWidget* CrossCheckView::resultPage() {
             [this](tallyrig::UUID chosen) { store.setSelectedLogID(chosen); });
     connect(findings, &FindingsCard::qsoWanted, this, &CrossCheckView::goTo);
     return area;
-}
-
-/// Not by a focus proxy: from behind the pane Tab would come back to it, and never leave.
-void CrossCheckView::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
-    QWidget* const stops[] = {addButton, table, body->currentWidget()};
-    // From a page without a stop Qt takes the keyboard along to the page that takes its place.
-    stops[body->currentIndex()]->setFocus(event->reason());
 }
 
 void CrossCheckView::hideEvent(QHideEvent* event) {

@@ -39,7 +39,6 @@ class CrossCheckView : public QWidget {
     void qsoWanted(tallyrig::UUID record);
 
   protected:
-    void focusInEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

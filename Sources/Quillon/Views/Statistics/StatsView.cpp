@@ -7,6 +7,7 @@
 #include "Quillon/Views/Controls/EmptyState.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Quillon/Views/Controls/TabOrder.h"
 #include "Quillon/Views/Controls/Tile.h"
 #include "Quillon/Views/Controls/TileLayout.h"
 #include "Quillon/Views/Statistics/StatisticsCharts.h"
@@ -30,7 +31,11 @@ constexpr int gapPx = 12;
 }  // namespace
 
 StatsView::StatsView(const LogStore& logStore, ChartPainter* painter, QWidget* parent)
-    : QWidget(parent), log(logStore), body(new QStackedLayout(this)), page(new QScrollArea(this)) {
+    : QWidget(parent),
+      log(logStore),
+      body(new QStackedLayout(this)),
+      page(new QScrollArea(this)),
+      keyboardPart(page) {
     setAccessibleName(QStringLiteral("Statistik"));
     auto* content = new QWidget(page);
     auto* column = new QVBoxLayout(content);
@@ -57,7 +62,7 @@ StatsView::StatsView(const LogStore& logStore, ChartPainter* painter, QWidget* p
                                    QStringLiteral("Öffne ein Logbuch mit QSOs, um Auswertungen zu sehen."),
                                    this));
     body->addWidget(page);
-    setFocusProxy(page);
+    handKeyboardOn(*this, [this] { return keyboardPart; });
     pause.setSingleShot(true);
     connect(&pause, &QTimer::timeout, this, &StatsView::compute);
     connect(&log, &LogStore::documentChanged, this, &StatsView::computeWhenIdle);
@@ -137,7 +142,7 @@ void StatsView::takeKeyboard() {
         first = first != nullptr ? first : card->firstControl();
     }
     page->setFocusPolicy(first != nullptr ? Qt::NoFocus : Qt::StrongFocus);
-    setFocusProxy(first != nullptr ? first : page);
+    keyboardPart = first != nullptr ? first : page;
 }
 
 void StatsView::compute() {

@@ -59,6 +59,7 @@ class StatsView : public QWidget {
 
     QStackedLayout* body;
     QScrollArea* page;
+    QWidget* keyboardPart;  ///< Takes the keyboard for the view.
     QBoxLayout* figures = nullptr;
     std::array<Tile*, 4> tiles{};
     Tile* period = nullptr;

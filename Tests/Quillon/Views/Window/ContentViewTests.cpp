@@ -370,6 +370,11 @@ TEST_F(Window, LeadsTheTabKeyThroughAPaneThatIsMadeWhenItIsSeen) {
     store.setMode(AppMode::stats);
     EXPECT_EQ(walk(Qt::Key_Tab, 1).substr(0, 13), "QSOs pro Band")
         << "the chart or, without one, its numbers";
+    for (const AppMode mode : {AppMode::contest, AppMode::stats}) {
+        store.setMode(mode);
+        searchField().setFocus();
+        EXPECT_EQ(walk(Qt::Key_Tab, 1), "Ansicht\n") << "and not back into the pane";
+    }
 }
 
 TEST_F(Window, OpensTheMenuOfWhatHasTheKeyboardWithoutAMenuKey) {
