@@ -50,7 +50,7 @@ QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
 QuillonApp::~QuillonApp() = default;
 
 void QuillonApp::keepLogsIn(const QString& folder) {
-    keeper = std::make_unique<LogKeeper>(logStore, folder.toStdString(), LogKeeper::Pace());
+    keeper = std::make_unique<LogKeeper>(logStore, compareStore, folder.toStdString(), LogKeeper::Pace());
     contentView->offerKept(*keeper);
     programEnd = std::make_unique<ProgramEnd>(
         *qApp,

@@ -1,47 +1,38 @@
 #pragma once
 
+#include "Quillon/Keeping/InHandKeeper.h"
 #include "Quillon/Platform/Kept/KeptLogs.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 
-#include <QDeadlineTimer>
 #include <QObject>
 #include <QString>
-#include <QThreadPool>
-#include <QTimer>
 
 #include <cstdint>
-#include <functional>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace quillon {
 
+class CompareStore;
 class LogStore;
 
-/// Keeps the log in hand as long as it has changes that its file does not have, and lets it go into the
-/// folder of kept logs when another takes its place or the program ends. Also keeps what stood in a file that
-/// is saved over.
+/// Keeps the open log, and those that are compared beside it, as long as they have changes that their files
+/// do not have, and lets them go into the folder of kept logs when others take their place or the program
+/// ends. Also keeps what stood in a file that is saved over.
 ///
-/// Follows the store by its signals and holds copies of its own, which cost nothing: what is written is
-/// written beside the main thread. Where keeping fails, the log in hand is as it is without it.
+/// Follows the stores by their signals. Where keeping fails, the logs in hand are as they are without it.
 class LogKeeper : public QObject {
     Q_OBJECT
 
   public:
-    /// How soon changes are kept, and how much may be written: an image of `bytes` bytes is followed by a
-    /// pause of `bytes / bytesPerMs`, within these bounds.
-    struct Pace {
-        int shortestMs = 5'000;
-        int longestMs =
-            25'000;  ///< With the time that writing takes, what is kept is 30 seconds old at most.
-        std::uint64_t bytesPerMs = 4'000;
-    };
+    using Pace = InHandKeeper::Pace;
 
-    /// `logStore` outlives the keeper.
-    LogKeeper(LogStore& logStore, const std::string& folder, Pace pace, QObject* parent = nullptr);
+    /// The stores outlive the keeper.
+    LogKeeper(LogStore& logStore, CompareStore& compareStore, const std::string& folder, Pace pace,
+              QObject* parent = nullptr);
     /// As `end`, if that was not called.
     ~LogKeeper() override;
 
@@ -49,17 +40,21 @@ class LogKeeper : public QObject {
     std::vector<KeptEntry> entries() const { return kept.entries(); }
     /// Logs that were in hand when a program ended, and of which the user was not told yet.
     std::vector<KeptEntry> leftBehind() const;
-    /// Makes a kept thing the log in hand, with changes that its file does not have; the one in hand is let
-    /// go. Where it cannot be read nothing happens but that a sentence comes back which says why.
+    /// What is kept, for a look at it; a sentence if it cannot be read.
+    std::variant<tallyrig::ADIFDocument, FileError> read(const KeptEntry& entry) const {
+        return kept.read(entry);
+    }
+    /// Makes a kept thing the open log, with changes that its file does not have; the one that is open is
+    /// let go. Where it cannot be read nothing happens but that a sentence comes back which says why.
     std::optional<QString> bringBack(const KeptEntry& entry);
     /// Gone for good; a sentence if that fails.
     std::optional<QString> remove(const KeptEntry& entry);
     /// The user was told of these.
     void dismiss(const std::vector<KeptEntry>& told);
 
-    /// Keeps the changes that the log has now. Returns when they are on the disk.
+    /// Keeps the changes that the logs have now. Returns when they are on the disk.
     void keepNow();
-    /// Lets the log in hand go, if it has changes. Returns when all is on the disk. Nothing is kept
+    /// Lets the logs in hand go that have changes. Returns when all is on the disk. Nothing is kept
     /// afterwards.
     void end(KeptReason reason);
 
@@ -72,15 +67,6 @@ class LogKeeper : public QObject {
     void failed(const QString& sentence);
 
   private:
-    /// The log and what its file has.
-    struct Log {
-        tallyrig::ADIFDocument document;
-        tallyrig::ADIFDocument saved;
-        std::optional<QString> path;
-
-        bool mayDiffer() const { return !document.isSameAs(saved); }
-        std::string pathText() const { return path.value_or(QString()).toStdString(); }
-    };
     /// A file as it was at some moment: another one, or one that was written to, differs.
     struct FileState {
         std::uint64_t device = 0;
@@ -92,38 +78,26 @@ class LogKeeper : public QObject {
         friend bool operator==(const FileState&, const FileState&) = default;
     };
 
-    Log current() const;
-    /// What of `last` is to be kept.
-    std::optional<tallyrig::ADIFDocument> unsaved() const;
-    bool isUpToDate() const;
-    void follow();
-    void letGo(KeptReason reason);
-    void keepLater();
-    void beginKeeping();
-    void endKeeping(const std::optional<FileError>& error, std::uint64_t bytes, QDeadlineTimer longestRest);
+    LogInHand current() const;
+    LogInHand leftSide();
+    LogInHand rightSide();
+    static LogInHand side(const tallyrig::ADIFDocument& document, bool isDirty,
+                          const std::optional<QString>& path, tallyrig::ADIFDocument& saved);
     void keepFormerFile(const QString& path);
     void noteSaved(const QString& path);
-    void tellFailure(const char* what, const std::string& why);
-    /// Writes what the log has, or that it has nothing.
-    static std::optional<FileError> write(KeptInHand& hand, const Log& log);
-    /// Lets `work` run behind all that was begun before, and what it returns then on the main thread.
-    void runBeside(const std::function<std::function<void()>()>& work);
+    void tellFailure(const QString& sentence);
 
     LogStore& store;
+    CompareStore& compare;
     const KeptLogs kept;
-    const Pace pace;
-    Log last;
-    /// The document that was last taken to be kept; absent if nothing is to be kept.
-    std::optional<tallyrig::ADIFDocument> begun;
-    /// Belongs to whoever runs in the pool.
-    std::shared_ptr<KeptInHand> hand;
+    const tallyrig::ADIFDocument noLog;
+    tallyrig::ADIFDocument savedLeft = noLog;
+    tallyrig::ADIFDocument savedRight = noLog;
+    InHandKeeper log;
+    InHandKeeper left;
+    InHandKeeper right;
     std::map<std::string, FileState> savedFiles;  ///< As they were left, by path.
-    QThreadPool pool;
-    QTimer timer;
-    QDeadlineTimer rest;  ///< Nothing is written before.
-    bool isWriting = false;
     bool hasFailed = false;
-    bool hasEnded = false;
 };
 
 }  // namespace quillon

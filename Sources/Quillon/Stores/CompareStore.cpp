@@ -189,6 +189,9 @@ void CompareStore::save(Side side, const QString& proposedName) {
     const Changes::Operation operation(changes);
     const QString fullPath = absolutePath(*path);
     ComparedFile& file = *fileOf(side);
+    if (keepFormer) {
+        keepFormer(fullPath);
+    }
     if (const auto error = replaceFile(fullPath.toStdString(), textOf(file.document, settings))) {
         state.errorMessage =
             fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath, error->message);

@@ -11,10 +11,12 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -78,6 +80,8 @@ class CompareStore : public QObject {
     void saveRight();
     /// Does nothing while the open log stands on the left.
     void saveLeftFile();
+    /// `keep` is called with the path before a side is saved there, whether or not there is a file.
+    void beforeReplacing(std::function<void(const QString& path)> keep) { keepFormer = std::move(keep); }
     /// What the user must be told; absent once it was.
     const std::optional<QString>& errorMessage() const { return state.errorMessage; }
     void setErrorMessage(std::optional<QString> message);
@@ -120,6 +124,7 @@ class CompareStore : public QObject {
 
     const Settings& settings;
     Panels& panels;
+    std::function<void(const QString& path)> keepFormer;
     Observed state;
     Changes changes{*this, state, observedProperties()};
 };

@@ -1,5 +1,6 @@
 #include "Quillon/Keeping/LogKeeper.h"
 
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +20,7 @@ class Keeper : public testing::LogStoreTest {
     Keeper() { start(); }
     void start() {
         keeper.reset();
-        keeper = std::make_unique<LogKeeper>(store, place(), LogKeeper::Pace{0, 0, 1});
+        keeper = std::make_unique<LogKeeper>(store, compare, place(), LogKeeper::Pace{0, 0, 1});
         kept = std::make_unique<QSignalSpy>(keeper.get(), &LogKeeper::letGone);
         failures = std::make_unique<QSignalSpy>(keeper.get(), &LogKeeper::failed);
     }
@@ -51,6 +52,7 @@ class Keeper : public testing::LogStoreTest {
         return all;
     }
 
+    CompareStore compare{settings, panels};
     std::unique_ptr<LogKeeper> keeper;
     std::unique_ptr<QSignalSpy> kept;
     std::unique_ptr<QSignalSpy> failures;
@@ -158,6 +160,25 @@ TEST_F(Keeper, KeepsWhatAFileHeldOnceUnlessOthersWroteToIt) {
     EXPECT_EQ(calls(store.document()), "Other");
     keeper->end(KeptReason::windowClosed);
     EXPECT_EQ(found(), "log.adi:3:Other log.adi:7:Other log.adi:7:A");
+}
+
+TEST_F(Keeper, KeepsTheSidesOfAComparisonAsWell) {
+    const auto edit = [this](const char* call) {
+        compare.rightBinding(compare.rightDoc().records()[0].id(), "CALL").write(call);
+    };
+    compare.load(CompareStore::Side::right, folder.write("r.adi", testing::adi({"CALL=R"})));
+    edit("S");
+    compare.load(CompareStore::Side::right, folder.write("q.adi", testing::adi({"CALL=Q"})));
+    waitUntilKept();
+    EXPECT_EQ(found(), "r.adi:2:S");
+    edit("T");
+    compare.saveRight();
+    EXPECT_EQ(found(), "q.adi:7:Q r.adi:2:S");
+    compare.load(CompareStore::Side::left, folder.path("r.adi"));
+    compare.leftBinding(compare.leftFile()->document.records()[0].id(), "CALL").write("L");
+    edit("U");
+    keeper->end(KeptReason::terminated);
+    EXPECT_EQ(found(), "q.adi:5:U r.adi:5:L q.adi:7:Q r.adi:2:S");
 }
 
 TEST_F(Keeper, FailureIsToldOnceAndLeavesTheLogAlone) {

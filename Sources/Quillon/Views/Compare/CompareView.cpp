@@ -69,7 +69,7 @@ CompareView::CompareView(LogStore& logStore, CompareStore& compareStore, QWidget
     connect(comparison, &ComparisonModel::logsChanged, this, &CompareView::showComparison);
     connect(comparison, &ComparisonModel::rowChanged, this, &CompareView::showCounts);
     connect(&store, &CompareStore::editsLost, this, [this](const QString& name) {
-        emit noticed(QStringLiteral("Ungesicherte Änderungen an „%1“ wurden verworfen.").arg(name));
+        emit noticed(QStringLiteral("„%1“ mit ungesicherten Änderungen hat Platz gemacht.").arg(name));
     });
     showComparison();
 }

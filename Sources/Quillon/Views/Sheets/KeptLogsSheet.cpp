@@ -66,6 +66,7 @@ KeptLogsSheet::KeptLogsSheet(LogKeeper& logKeeper, QWidget* parent)
         this);
     auto* box = new QDialogButtonBox(this);
     bringBackButton = box->addButton(QStringLiteral("&Zurückholen"), QDialogButtonBox::ActionRole);
+    compareButton = box->addButton(QStringLiteral("&Vergleichen"), QDialogButtonBox::ActionRole);
     removeButton = box->addButton(QStringLiteral("&Löschen …"), QDialogButtonBox::ActionRole);
     box->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
     bringBackButton->setDefault(true);
@@ -82,9 +83,11 @@ KeptLogsSheet::KeptLogsSheet(LogKeeper& logKeeper, QWidget* parent)
     resize(110 * letter, 24 * fontMetrics().height());
 
     connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(bringBackButton, &QPushButton::clicked, this, &KeptLogsSheet::bringBack);
+    const auto bringBack = [this] { closeWith(&KeptLogsSheet::bringBackWanted); };
+    connect(bringBackButton, &QPushButton::clicked, this, bringBack);
+    connect(list, &QTreeWidget::itemDoubleClicked, this, bringBack);
+    connect(compareButton, &QPushButton::clicked, this, [this] { closeWith(&KeptLogsSheet::compareWanted); });
     connect(removeButton, &QPushButton::clicked, this, &KeptLogsSheet::askToRemove);
-    connect(list, &QTreeWidget::itemDoubleClicked, this, &KeptLogsSheet::bringBack);
     connect(list, &QTreeWidget::itemSelectionChanged, this, &KeptLogsSheet::offerActions);
     new QShortcut(Qt::Key_Delete, list, this, &KeptLogsSheet::askToRemove, Qt::WidgetShortcut);
     connect(&keeper, &LogKeeper::entriesChanged, this, &KeptLogsSheet::fill);
@@ -120,6 +123,7 @@ void KeptLogsSheet::fill() {
 void KeptLogsSheet::offerActions() {
     const std::size_t count = chosen().size();
     bringBackButton->setEnabled(count == 1);
+    compareButton->setEnabled(count == 1);
     removeButton->setEnabled(count > 0);
 }
 
@@ -133,10 +137,10 @@ std::vector<KeptEntry> KeptLogsSheet::chosen() const {
     return result;
 }
 
-void KeptLogsSheet::bringBack() {
-    if (const auto wanted = chosen(); wanted.size() == 1) {
+void KeptLogsSheet::closeWith(void (KeptLogsSheet::*wanted)(const KeptEntry& entry)) {
+    if (const auto entry = chosen(); entry.size() == 1) {
         accept();
-        emit bringBackWanted(wanted.front());
+        emit(this->*wanted)(entry.front());
     }
 }
 
@@ -161,7 +165,7 @@ void KeptLogsSheet::askToRemove() {
 void KeptLogsSheet::removeAll(const std::vector<KeptEntry>& unwanted) {
     for (const KeptEntry& entry : unwanted) {
         if (const auto why = keeper.remove(entry)) {
-            emit failed(*why);
+            emit removeFailed(entry, *why);
         } else {
             emit removed(entry);
         }

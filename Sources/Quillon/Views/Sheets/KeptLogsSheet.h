@@ -24,17 +24,20 @@ class KeptLogsSheet : public QDialog {
     KeptLogsSheet(LogKeeper& logKeeper, QWidget* parent);
 
   signals:
-    /// The sheet is closed.
+    /// The sheet is closed, here and below.
     void bringBackWanted(const quillon::KeptEntry& entry);
+    void compareWanted(const quillon::KeptEntry& entry);
+    /// The sheet stays open.
     void removed(const quillon::KeptEntry& entry);
-    /// One German sentence.
-    void failed(const QString& sentence);
+    /// The same; `why` is a German sentence.
+    void removeFailed(const quillon::KeptEntry& entry, const QString& why);
 
   private:
     void fill();
     void offerActions();
     std::vector<KeptEntry> chosen() const;
-    void bringBack();
+    /// Closes the sheet and sends `wanted` with what is chosen.
+    void closeWith(void (KeptLogsSheet::*wanted)(const KeptEntry& entry));
     void askToRemove();
     void removeAll(const std::vector<KeptEntry>& unwanted);
 
@@ -43,6 +46,7 @@ class KeptLogsSheet : public QDialog {
     QTreeWidget* list;
     QLabel* nothing;
     QPushButton* bringBackButton;
+    QPushButton* compareButton;
     QPushButton* removeButton;
 };
 

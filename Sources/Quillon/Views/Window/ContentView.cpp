@@ -83,7 +83,7 @@ ContentView::ContentView(const AppStores& appStores, Settings& userSettings, QSt
 ContentView::~ContentView() = default;
 
 void ContentView::offerKept(LogKeeper& keeper) {
-    keptNotices = new KeptNotices(stores.log, keeper, *notices, *this, [this] {
+    keptNotices = new KeptNotices(stores, keeper, *notices, *this, [this] {
         showTable();
         workArea->focus();
     });

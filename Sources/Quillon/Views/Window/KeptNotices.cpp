@@ -3,6 +3,7 @@
 #include "Quillon/Keeping/KeptWords.h"
 #include "Quillon/Keeping/LogKeeper.h"
 #include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/NoticeStrip.h"
 #include "Quillon/Views/Controls/Strings.h"
@@ -25,10 +26,10 @@ QString topicOf(const KeptEntry& entry) {
 
 }  // namespace
 
-KeptNotices::KeptNotices(LogStore& logStore, LogKeeper& logKeeper, NoticeStrip& noticeStrip,
+KeptNotices::KeptNotices(const AppStores& appStores, LogKeeper& logKeeper, NoticeStrip& noticeStrip,
                          QWidget& sheetWindow, std::function<void()> brought)
     : QObject(&sheetWindow),
-      store(logStore),
+      stores(appStores),
       keeper(logKeeper),
       strip(noticeStrip),
       window(sheetWindow),
@@ -64,15 +65,30 @@ void KeptNotices::tellOf(const KeptEntry& entry) {
 void KeptNotices::bringBack(const KeptEntry& entry) {
     showBusyCursorUntilIdle();
     if (const auto why = keeper.bringBack(entry)) {
-        tellFailure(QStringLiteral("Zurückholen fehlgeschlagen:\n„%1“: ").arg(nameOf(entry.note)), *why);
+        tellFailure(QStringLiteral("Zurückholen fehlgeschlagen:"), entry, *why);
     } else {
         forget(entry);
         hasBrought();
     }
 }
 
-void KeptNotices::tellFailure(const QString& what, const QString& why) {
-    store.setErrorMessage(what + why);
+void KeptNotices::compare(const KeptEntry& entry) {
+    showBusyCursorUntilIdle();
+    const auto read = keeper.read(entry);
+    if (const auto* const error = std::get_if<FileError>(&read)) {
+        tellFailure(QStringLiteral("Vergleichen fehlgeschlagen:"), entry,
+                    QString::fromStdString(error->message));
+        return;
+    }
+    // Without a place of its own: saving the side must not replace what the log's file has by now.
+    stores.compare.setLeftFile(std::nullopt);
+    stores.compare.setRight({std::get<tallyrig::ADIFDocument>(read),
+                             nameOf(entry.note) + QStringLiteral(" (aufgehoben)"), std::nullopt, false});
+    stores.log.setMode(AppMode::compare);
+}
+
+void KeptNotices::tellFailure(const QString& what, const KeptEntry& entry, const QString& why) {
+    stores.log.setErrorMessage(what + QStringLiteral("\n„%1“: ").arg(nameOf(entry.note)) + why);
 }
 
 void KeptNotices::forget(const KeptEntry& entry) {
@@ -88,9 +104,11 @@ void KeptNotices::showList() {
         sheet->setAttribute(Qt::WA_DeleteOnClose);
         connect(sheet, &KeptLogsSheet::bringBackWanted, this, &KeptNotices::bringBack);
         connect(sheet, &KeptLogsSheet::removed, this, &KeptNotices::forget);
-        connect(sheet, &KeptLogsSheet::failed, this, [this](const QString& sentence) {
-            tellFailure(QStringLiteral("Löschen fehlgeschlagen:\n"), sentence);
-        });
+        connect(sheet, &KeptLogsSheet::compareWanted, this, &KeptNotices::compare);
+        connect(sheet, &KeptLogsSheet::removeFailed, this,
+                [this](const KeptEntry& entry, const QString& why) {
+                    tellFailure(QStringLiteral("Löschen fehlgeschlagen:"), entry, why);
+                });
     }
     sheet->open();
 }

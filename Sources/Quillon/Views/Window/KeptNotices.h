@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quillon/Platform/Kept/KeptLogs.h"
+#include "Quillon/Stores/AppStores.h"
 
 #include <QObject>
 #include <QPointer>
@@ -13,7 +14,6 @@ namespace quillon {
 
 class KeptLogsSheet;
 class LogKeeper;
-class LogStore;
 class NoticeStrip;
 
 /// Tells the user what was kept, lets it be brought back, and shows the list of it.
@@ -23,8 +23,8 @@ class KeptNotices : public QObject {
   public:
     /// All outlive the object, of which `window` is the parent. `brought` is called when the window shows
     /// another log.
-    KeptNotices(LogStore& logStore, LogKeeper& logKeeper, NoticeStrip& noticeStrip, QWidget& sheetWindow,
-                std::function<void()> brought);
+    KeptNotices(const AppStores& appStores, LogKeeper& logKeeper, NoticeStrip& noticeStrip,
+                QWidget& sheetWindow, std::function<void()> brought);
 
     /// Tells of what was left behind when a program ended.
     void tellOfLeftBehind();
@@ -33,11 +33,13 @@ class KeptNotices : public QObject {
   private:
     void tellOf(const KeptEntry& entry);
     void bringBack(const KeptEntry& entry);
-    void tellFailure(const QString& what, const QString& why);
+    /// Shows the entry beside the open log.
+    void compare(const KeptEntry& entry);
+    void tellFailure(const QString& what, const KeptEntry& entry, const QString& why);
     /// The entry is none any more.
     void forget(const KeptEntry& entry);
 
-    LogStore& store;
+    AppStores stores;
     LogKeeper& keeper;
     NoticeStrip& strip;
     QWidget& window;

@@ -254,7 +254,7 @@ TEST_F(Window, ComparesTheFileDroppedOnTheHalfWhereItFalls) {
     EXPECT_EQ(compare.leftFile(), nullptr);
     compare.rightBinding(compare.rightDoc().records()[0].id(), "CALL").write("X");
     drop(window->width() - 50);
-    EXPECT_NE(status().find("Ungesicherte Änderungen an „other.adi“ wurden verworfen."), std::string::npos)
+    EXPECT_NE(status().find("„other.adi“ mit ungesicherten Änderungen hat Platz gemacht."), std::string::npos)
         << status();
     drop(400);
     EXPECT_NE(compare.leftFile(), nullptr);

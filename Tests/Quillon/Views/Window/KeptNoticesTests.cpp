@@ -1,6 +1,9 @@
 #include "Quillon/Views/Window/KeptNotices.h"
 
 #include "Quillon/Keeping/LogKeeper.h"
+#include "Quillon/Stores/CompareStore.h"
+#include "Quillon/Stores/ContestStore.h"
+#include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
 #include "Quillon/Views/Controls/NoticeStrip.h"
@@ -24,8 +27,10 @@ class KeptLogNotices : public testing::LogStoreTest {
         keeper.reset();
         strip = std::make_unique<NoticeStrip>(&window);
         store.newLog();
-        keeper = std::make_unique<LogKeeper>(store, folder.path("kept").toStdString(), LogKeeper::Pace());
-        notices = std::make_unique<KeptNotices>(store, *keeper, *strip, window, [this] { ++brought; });
+        keeper =
+            std::make_unique<LogKeeper>(store, compare, folder.path("kept").toStdString(), LogKeeper::Pace());
+        notices = std::make_unique<KeptNotices>(AppStores{store, compare, contest, cross}, *keeper, *strip,
+                                                window, [this] { ++brought; });
         notices->tellOfLeftBehind();
     }
     /// A log of this call, which its file has not, is open when the program ends.
@@ -43,6 +48,10 @@ class KeptLogNotices : public testing::LogStoreTest {
         return (item.text(0) + '|' + item.text(2) + '|' + item.text(4)).toStdString();
     }
 
+    CompareStore compare{settings, panels};
+    ContestStore contest;
+    testing::NotingFileManager fileManager;
+    CrossCheckStore cross{panels, fileManager};
     QWidget window;
     std::unique_ptr<NoticeStrip> strip;
     std::unique_ptr<LogKeeper> keeper;
@@ -90,6 +99,21 @@ TEST_F(KeptLogNotices, ShowAListOfAll) {
     notices->showList();
     EXPECT_NE(testing::shownTexts(sheet()).find("Es ist nichts aufgehoben."), std::string::npos);
     EXPECT_FALSE(testing::shownButton(sheet(), "&Zurückholen")->isEnabled());
+}
+
+TEST_F(KeptLogNotices, ShowAKeptLogBesideTheOpenOne) {
+    start();
+    endWith("B");
+    start();
+    openLog({"CALL=A"});
+    notices->showList();
+    press(sheet(), "&Vergleichen");
+    EXPECT_EQ(store.mode(), AppMode::compare);
+    EXPECT_EQ(compare.rightName(), "log.adi (aufgehoben)");
+    EXPECT_EQ(compare.rightDoc().records()[0]["CALL"], "B");
+    EXPECT_FALSE(compare.rightURL()) << "nothing is saved over the file by mistake";
+    EXPECT_EQ(cell(0, "CALL"), "A");
+    EXPECT_EQ(keeper->entries().size(), 1U);
 }
 
 TEST_F(KeptLogNotices, SayWhyALogDoesNotComeBack) {
