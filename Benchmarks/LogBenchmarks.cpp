@@ -28,6 +28,20 @@ void reading(benchmark::State& state) {
 BENCHMARK(reading)->Arg(1'000)->Arg(10'000)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(reading)->Arg(1'000'000)->Iterations(8)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+/// The same with a report, beside reading without one ("readings").
+void readingWithReport(benchmark::State& state) {
+    const std::string& text = logOf(static_cast<std::size_t>(state.range(0)));
+    inTurns(
+        state, "readings", [&] { benchmark::DoNotOptimize(ADIFParser::read(text)); },
+        [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); });
+}
+BENCHMARK(readingWithReport)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
 void writing(benchmark::State& state) {
     const auto count = static_cast<std::size_t>(state.range(0));
     const std::string& text = logOf(count);

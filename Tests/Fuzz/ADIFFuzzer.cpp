@@ -1,6 +1,8 @@
-// Reads any bytes as an ADI file. What comes out must survive being written and read again.
+// Reads any bytes as an ADI file. What comes out must survive being written and read again, and a report on
+// the file changes nothing about that.
 
 #include "Fuzz/Require.h"
+#include "Fuzz/RequireReport.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 
@@ -16,6 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const std::string_view data(reinterpret_cast<const char*>(bytes), size);
     constexpr std::string_view moment = "20240229 235959";
     const ADIFDocument document = ADIFParser::parse(data);
+    const ReadDocument read = ADIFParser::read(data);
+    require(read.document == document, "the report does not change the log");
+    requireSound(read.report, size, document.records().size());
 
     const ADIFWriter bare{"Quillon", "1.0", "3.1.7", false};
     const std::string text = bare.write(document, moment);

@@ -1,11 +1,13 @@
 #include "Tallyrig/Log/ADIFParser.h"
 
+#include "Tallyrig/Log/ADIExaminer.h"
 #include "Tallyrig/Log/ADIFRecordBuilder.h"
+#include "Tallyrig/Log/ADITags.h"
 #include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Decoding.h"
-#include "Tallyrig/Text/Numbers.h"
 #include "Tallyrig/Text/Text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -28,28 +30,6 @@ struct Spelling {
     Spelling* successor = nullptr;  ///< The one that stood behind it the last time.
 };
 
-/// What a tag says.
-struct Tag {
-    std::string name;
-    std::uint64_t length = 0;
-    std::optional<std::string> type;
-};
-
-/// The tag of the bytes between "<" and ">", in whatever state they are.
-Tag parsedTag(std::string_view bytes) {
-    const std::string decoded = text::decoded(bytes);
-    const std::vector<std::string_view> parts = text::split(decoded, ':');
-    Tag tag{text::upper(text::trimmed(parts[0])), 0, std::nullopt};
-    if (parts.size() >= 2) {
-        const std::int64_t length = text::integer(text::trimmed(parts[1])).value_or(0);
-        tag.length = length > 0 ? static_cast<std::uint64_t>(length) : 0;
-    }
-    if (parts.size() >= 3) {
-        tag.type = text::trimmed(parts[2]);
-    }
-    return tag;
-}
-
 /// Whether `at` (with at least four bytes behind it) begins with EO, `letter` and ">", in either case.
 bool isMark(const char* at, char letter) {
     return (at[0] | 0x20) == 'e' && (at[1] | 0x20) == 'o' && (at[2] | 0x20) == letter && at[3] == '>';
@@ -57,15 +37,24 @@ bool isMark(const char* at, char letter) {
 
 class Reading {
   public:
-    explicit Reading(std::string_view data) : at(data.data()), end(data.data() + data.size()) {}
+    /// `examinerForIt`, if there is one, is shown each stretch of `data` in which something seems wrong.
+    explicit Reading(std::string_view data, ADIExaminer* examinerForIt = nullptr)
+        : begin(data.data()),
+          at(data.data()),
+          end(data.data() + data.size()),
+          stretchBegin(data.data()),
+          examiner(examinerForIt) {}
 
     ADIFDocument document() {
-        const char* const start = at;
         if (!findOpening()) {
             return {};
         }
-        const std::string_view preamble(start, static_cast<std::size_t>(at - start));
+        const std::string_view preamble(begin, static_cast<std::size_t>(at - begin));
         while (readTag() && findOpening()) {
+        }
+        if (examiner != nullptr) {
+            at = end;
+            examine(ADIExaminer::Stretch::rest);
         }
         if (!builder.isEmpty()) {
             records.append(builder.takeRecord());
@@ -78,16 +67,45 @@ class Reading {
         return {std::move(comment), std::move(headerFields), std::move(records)};
     }
 
+    bool hasHeader() const { return sawEndOfHeader; }
+
   private:
     std::size_t left() const { return static_cast<std::size_t>(end - at); }
 
-    /// Moves to the next "<", false if there is none.
+    /// Moves to the next "<", or to the end and false if there is none.
     bool findOpening() {
         if (at < end && *at == '<') {
             return true;
         }
-        at = at == end ? nullptr : static_cast<const char*>(std::memchr(at, '<', left()));
-        return at != nullptr;
+        // What stands between two tags is one blank or one line end nearly always.
+        if (left() >= 2 && at[1] == '<' && isWhiteSpace(*at)) {
+            ++at;
+            return true;
+        }
+        const char* const gap = at;
+        const auto* const opening =
+            at == end ? nullptr : static_cast<const char*>(std::memchr(at, '<', left()));
+        at = opening == nullptr ? end : opening;
+        isSuspect = isSuspect || !std::all_of(gap, at, isWhiteSpace);
+        return opening != nullptr;
+    }
+
+    static bool isWhiteSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+    /// Shows the stretch up to here to the examiner, which there is, and begins another.
+    void examine(ADIExaminer::Stretch stretch) {
+        const auto offset = [this](const char* place) { return static_cast<std::size_t>(place - begin); };
+        // A stretch at the end may hold nothing that makes a record.
+        const bool hasRecord = stretch == ADIExaminer::Stretch::record || !builder.isEmpty();
+        examiner->examine(stretch, offset(stretchBegin), offset(at),
+                          hasRecord ? std::optional(records.size()) : std::nullopt);
+    }
+
+    /// Whether something seems wrong with the record at hand.
+    bool isRecordSuspect() const {
+        const auto isCall = [this](const RecordStorage::Entry& entry) { return entry.tag == callTag; };
+        return isSuspect || builder.isEmpty() || builder.valuesAtHand().find('<') != std::string_view::npos ||
+               std::ranges::count_if(builder.entriesAtHand(), isCall) > 1;
     }
 
     /// Reads the tag at the "<" and the value behind it; false if the tag has no end.
@@ -118,7 +136,7 @@ class Reading {
             return true;
         }
         at = closing + 1;
-        readOtherTag(parsedTag(bytes));
+        readOtherTag(adiTag(bytes));
         return true;
     }
 
@@ -154,18 +172,36 @@ class Reading {
         at += size;
     }
 
-    void readOtherTag(const Tag& tag) {
+    void readOtherTag(const ADITag& tag) {
         if (tag.name == "EOR") {
             endRecord();
         } else if (tag.name == "EOH") {
-            headerFields = builder.takeFields();
-            sawEndOfHeader = true;
+            endHeader();
         } else {
+            isSuspect = true;
             readValue(builder.tag(tag.name, tag.type), tag.length);
         }
     }
 
+    void endHeader() {
+        if (examiner != nullptr) {
+            examine(ADIExaminer::Stretch::header);
+        }
+        headerFields = builder.takeFields();
+        sawEndOfHeader = true;
+        beginStretch();
+    }
+
+    void beginStretch() {
+        stretchBegin = at;
+        isSuspect = false;
+    }
+
     void endRecord() {
+        if (examiner != nullptr && isRecordSuspect()) {
+            examine(ADIExaminer::Stretch::record);
+        }
+        beginStretch();
         records.append(builder.takeRecord());
         last = nullptr;
         expected = first;
@@ -181,8 +217,9 @@ class Reading {
         const std::size_t tailStart = bytes.find_first_not_of("0123456789", colon + 1);
         const std::string_view tail =
             tailStart == std::string_view::npos ? std::string_view() : bytes.substr(tailStart);
-        // With a tail, the length must end in front of it: "5x" is no number.
-        if (tailStart == colon + 1 || (!tail.empty() && tail.front() != ':')) {
+        // With a tail, the length must end in front of it: "5x" is no number. A "<" is looked at each time.
+        if (tailStart == colon + 1 || (!tail.empty() && tail.front() != ':') ||
+            bytes.find('<') != std::string_view::npos) {
             return nullptr;
         }
         std::string key(bytes.substr(0, colon + 1));
@@ -192,17 +229,25 @@ class Reading {
             return &known->second;
         }
         constexpr std::size_t mostSpellings = 20'000;
-        const Tag tag = parsedTag(bytes);
+        const ADITag tag = adiTag(bytes);
         if (spellings.size() >= mostSpellings || tag.name == "EOR" || tag.name == "EOH") {
             return nullptr;
         }
         Spelling spelling{std::string(bytes.substr(0, colon)), std::string(tail),
                           builder.tag(tag.name, tag.type)};
+        if (tag.name == "CALL" && !tag.type) {
+            callTag = spelling.tag;
+        }
         return &spellings.emplace(std::move(key), std::move(spelling)).first->second;
     }
 
+    const char* begin;
     const char* at;
     const char* end;
+    const char* stretchBegin;                  ///< Behind the last mark.
+    ADIExaminer* examiner;                     ///< May be null.
+    bool isSuspect = false;                    ///< Something out of the ordinary was met in this stretch.
+    std::optional<FieldTags::Number> callTag;  ///< Once a call was met.
     ADIFRecordBuilder builder;
     ADIFRecordList records;
     std::vector<ADIFField> headerFields;
@@ -217,6 +262,18 @@ class Reading {
 
 ADIFDocument ADIFParser::parse(std::string_view data) {
     return Reading(data).document();
+}
+
+ReadDocument ADIFParser::read(std::string_view data) {
+    ReadingNotes notes(data);
+    notes.addEncoding();
+    ADIExaminer examiner(data, notes);
+    Reading reading(data, &examiner);
+    ADIFDocument document = reading.document();
+    if (!reading.hasHeader()) {
+        examiner.examineFront();
+    }
+    return {std::move(document), std::move(notes).report(examiner.repair())};
 }
 
 }  // namespace tallyrig

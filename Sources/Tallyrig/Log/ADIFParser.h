@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/ReadDocument.h"
 
 #include <string_view>
 
@@ -19,6 +20,10 @@ class ADIFParser {
     /// the last counts); without one there is neither header nor comment. Fields behind the last `<EOR>` are
     /// a record too. Bytes without any tag give the empty document.
     static ADIFDocument parse(std::string_view data);
+
+    /// The same document, and what of the file is not in it or probably not as it was meant. Offsets are
+    /// those of `data`.
+    static ReadDocument read(std::string_view data);
 };
 
 }  // namespace tallyrig

@@ -10,6 +10,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,6 +51,10 @@ class ADIFRecordBuilder {
     /// Whether the record at hand has no fields.
     bool isEmpty() const { return entries.empty(); }
     std::size_t fieldCount() const { return entries.size(); }
+    /// The fields of the record at hand by tag and by where their values end, and the bytes of all values.
+    /// Good until the next change.
+    std::span<const RecordStorage::Entry> entriesAtHand() const { return entries; }
+    std::string_view valuesAtHand() const { return values; }
     /// Makes the record at hand one without fields.
     void dropFields();
     /// The record of the fields added since the last one, with fresh ids; the next begins without fields.

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Tallyrig/Log/ReadingReport.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyrig {
+
+/// Gathers the notes of one reading. What readers have in common beside their own notes.
+class ReadingNotes {
+  public:
+    /// `text` is what offsets refer to until `withOffsetsOf...` says otherwise. It outlives this.
+    explicit ReadingNotes(std::string_view text) : whole(text) {}
+
+    /// Notes one more place of a kind. Places of one kind come in the order of the text, none behind its end.
+    /// The note, to be completed before the next is added; null where the kind has as many as it may.
+    ReadingNote* add(ReadingKind kind, std::size_t offset, std::optional<std::size_t> recordIndex = {});
+    /// The same where `at` refers to the text.
+    ReadingNote* add(ReadingKind kind, std::string_view at, std::optional<std::size_t> recordIndex = {}) {
+        return add(kind, static_cast<std::size_t>(at.data() - whole.data()), recordIndex);
+    }
+
+    /// Notes what is to be said of the bytes in `text`: which are no UTF-8, so that they are taken for ISO
+    /// 8859-1, U+FFFD, NUL. One pass, fast where all is ASCII.
+    void addEncoding();
+
+    /// Whether there is any note of this kind.
+    bool has(ReadingKind kind) const { return counts[static_cast<std::size_t>(kind)] > 0; }
+
+    /// All of it. Nothing may be added afterwards. Where there are notes, a pass over the text up to the
+    /// last.
+    ReadingReport report(std::optional<ReadingRepair> repair = {}) &&;
+
+  private:
+    static constexpr std::size_t kindCount = static_cast<std::size_t>(ReadingKind::recordInRecord) + 1;
+
+    std::string_view whole;
+    std::vector<ReadingNote> notes;
+    std::array<std::size_t, kindCount> counts{};  ///< Of the notes there are.
+    std::array<std::size_t, kindCount> latest{};  ///< Where the last of each stands in `notes`.
+};
+
+/// `bytes` as a note shows them: decoded, cut and visible.
+std::string shownInNote(std::string_view bytes);
+
+/// The report with the offsets of the file that `text` was made from: each letter of it came from one byte
+/// (ISO 8859-1), or from one or two units of UTF-16 behind a byte order mark.
+ReadingReport withOffsetsOfLatin1(ReadingReport report, std::string_view text);
+ReadingReport withOffsetsOfUTF16(ReadingReport report, std::string_view text);
+/// The report of a file that has `count` bytes in front of the text that was read.
+ReadingReport withOffsetsBehind(ReadingReport report, std::size_t count);
+
+}  // namespace tallyrig
