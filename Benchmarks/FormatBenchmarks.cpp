@@ -114,6 +114,31 @@ void writingEDI(benchmark::State& state) {
 }
 BENCHMARK(writingEDI)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+/// Reading with a report, beside reading without one ("readings").
+template <typename Parser>
+void besideReading(benchmark::State& state, const std::string& text) {
+    inTurns(
+        state, "readings", [&] { benchmark::DoNotOptimize(Parser::read(text)); },
+        [&] { benchmark::DoNotOptimize(Parser::parse(text)); });
+}
+
+void reportingOnADX(benchmark::State& state) {
+    besideReading<ADXParser>(state, adxWriter.write(ADIFParser::parse(logOf(100'000))));
+}
+BENCHMARK(reportingOnADX)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void reportingOnCabrillo(benchmark::State& state) {
+    const ADIFDocument document = contestLog(100'000);
+    besideReading<CabrilloParser>(state, cabrilloWriter(document).write(document));
+}
+BENCHMARK(reportingOnCabrillo)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void reportingOnEDI(benchmark::State& state) {
+    const ADIFDocument document = contestLog(100'000);
+    besideReading<EDIParser>(state, EDIWriter{EDIHeader::suggested(document)}.write(document));
+}
+BENCHMARK(reportingOnEDI)->UseManualTime()->Unit(benchmark::kMillisecond);
+
 }  // namespace
 }  // namespace tallyrig::benchmarks
 

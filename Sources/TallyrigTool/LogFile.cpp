@@ -50,7 +50,7 @@ std::string LogFile::fileName() const {
 }
 
 LogFile readLog(const std::string& argument) {
-    LogReader::Log log = LogReader::read(bytesOf(argument));
+    LogReader::Log log = LogReader::readWithoutReport(bytesOf(argument));
     return {argument, log.format, std::move(log.document)};
 }
 

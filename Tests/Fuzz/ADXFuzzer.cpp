@@ -2,6 +2,7 @@
 // survive being written and read again.
 
 #include "Fuzz/Require.h"
+#include "Fuzz/RequireReport.h"
 #include "Tallyrig/Formats/ADXParser.h"
 #include "Tallyrig/Formats/ADXWriter.h"
 #include "Tallyrig/Text/Decoding.h"
@@ -33,6 +34,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const std::string_view data(reinterpret_cast<const char*>(bytes), size);
     constexpr std::string_view moment = "20240229 235959";
     const ADIFDocument document = ADXParser::parse(data);
+    const ReadDocument read = ADXParser::read(data);
+    require(read.document == document, "the report does not change the log");
+    requireSound(read.report, size, document.records().size());
 
     bool areAllCarried = document.headerFields().empty();
     for (const ADIFRecord& record : document.records()) {

@@ -1,6 +1,7 @@
 // Reads any bytes as a Cabrillo log. QSOs must survive being written and read again.
 
 #include "Fuzz/Require.h"
+#include "Fuzz/RequireReport.h"
 #include "Tallyrig/Formats/CabrilloParser.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Text/Characters.h"
@@ -14,6 +15,9 @@ using namespace tallyrig;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string_view data(reinterpret_cast<const char*>(bytes), size);
     const ADIFDocument document = CabrilloParser::parse(data);
+    const ReadDocument read = CabrilloParser::read(data);
+    require(read.document == document, "the report does not change the log");
+    requireSound(read.report, size, document.records().size());
     for (const ADIFRecord& record : document.records()) {
         require(record["CALL"] && record["MODE"], "a QSO has all its columns");
         for (const ADIFFieldView field : record.fields()) {

@@ -2,6 +2,7 @@
 // Writes any bytes that make an ADI log as EDI, too.
 
 #include "Fuzz/Require.h"
+#include "Fuzz/RequireReport.h"
 #include "Tallyrig/Formats/EDIParser.h"
 #include "Tallyrig/Formats/EDIWriter.h"
 #include "Tallyrig/Log/ADIFParser.h"
@@ -16,6 +17,9 @@ using namespace tallyrig;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string_view data(reinterpret_cast<const char*>(bytes), size);
     const ADIFDocument document = EDIParser::parse(data);
+    const ReadDocument read = EDIParser::read(data);
+    require(read.document == document, "the report does not change the log");
+    requireSound(read.report, size, document.records().size());
 
     EDIWriter writer{EDIHeader::suggested(document)};
     const ADIFDocument again = EDIParser::parse(writer.write(document));

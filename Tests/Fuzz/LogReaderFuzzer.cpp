@@ -1,11 +1,13 @@
 // Reads any bytes as a log of any format. Its head alone decides on the format, and the same text is the same
-// log in UTF-16.
+// log in UTF-16. A report on the file is sound whatever the encoding and the repair, and changes nothing.
 
 #include "Fuzz/Require.h"
+#include "Fuzz/RequireReport.h"
 #include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Text/Decoding.h"
 #include "Tallyrig/Text/Text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -16,6 +18,14 @@ using namespace tallyrig;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string_view data(reinterpret_cast<const char*>(bytes), size);
     const LogReader::Log log = LogReader::read(data);
+    const LogReader::Log quiet = LogReader::readWithoutReport(data);
+    require(quiet.format == log.format && quiet.document == log.document,
+            "the report does not change the log");
+    requireSound(log.report, size, log.document.records().size());
+    for (const ReadingRepair repair : {ReadingRepair::lengthsInCharacters, ReadingRepair::lengthsThatFit}) {
+        const LogReader::Log repaired = LogReader::read(data, repair);
+        requireSound(repaired.report, size, repaired.document.records().size());
+    }
 
     const std::string_view unmarked = text::withoutByteOrderMark(data);
     const LogFormat format = LogFormatDetector::detect(unmarked);
@@ -40,6 +50,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
             const LogReader::Log same = LogReader::read(converted);
             require(same.format == log.format, "the encoding does not decide on the format");
             require(same.document == log.document, "the log is the same in either encoding");
+            requireSound(same.report, converted.size(), same.document.records().size());
+            require(std::ranges::equal(same.report.notes(), log.report.notes(), {}, &ReadingNote::line,
+                                       &ReadingNote::line),
+                    "notes stand in the same lines");
         }
     }
     return 0;

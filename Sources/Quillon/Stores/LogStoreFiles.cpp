@@ -90,7 +90,7 @@ void LogStore::open(const QString& path) {
                         isNameBroken ? "Der Name ist nicht in UTF-8 geschrieben." : error->message);
         return;
     }
-    showLog(tallyrig::LogReader::read(std::get<std::string>(content)).document, fullPath);
+    showLog(tallyrig::LogReader::readWithoutReport(std::get<std::string>(content)).document, fullPath);
     autoFitColumns();
     forgetEdits();
 }

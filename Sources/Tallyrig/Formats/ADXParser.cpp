@@ -1,5 +1,6 @@
 #include "Tallyrig/Formats/ADXParser.h"
 
+#include "Tallyrig/Formats/ADXNotes.h"
 #include "Tallyrig/Log/ADIFRecordBuilder.h"
 #include "Tallyrig/Text/Text.h"
 
@@ -42,6 +43,7 @@ ElementKind kindOf(std::string_view upperName) {
 struct Element {
     ElementKind kind = ElementKind::field;
     std::optional<FieldTags::Number> tag = {};  ///< Of a field without type; known once it was met.
+    bool isKnown = true;                        ///< Where there are notes: some table knows it.
 };
 
 struct SpellingHash {
@@ -93,10 +95,16 @@ class Attributes {
 /// The state of one reading: outside, in the header or in a record. Nesting is not checked.
 class Builder {
   public:
+    /// What is met goes to `notesForIt`, which may be null.
+    explicit Builder(ADXNotes* notesForIt) : notes(notesForIt) {}
+
     /// `attributes` holds `attributeCount` names and values in turns.
     void open(std::string_view name, const XML_Char** attributes, std::size_t attributeCount) {
-        buffer.clear();
         const Element& element = opened(name);
+        if (notes != nullptr) {
+            tellOpened(name, element);
+        }
+        buffer.clear();
         switch (element.kind) {
             case ElementKind::header:
                 inHeader = true;
@@ -119,6 +127,9 @@ class Builder {
 
     void close(std::string_view name) {
         Element& element = opened(name);
+        if (notes != nullptr) {
+            tellClosed(name, element);
+        }
         switch (element.kind) {
             case ElementKind::header:
                 inHeader = false;
@@ -140,13 +151,51 @@ class Builder {
 
     ADIFDocument document() { return {std::string(), std::move(headerFields), std::move(records)}; }
 
+    bool isInRecord() const { return inRecord; }
+
   private:
+    static bool isLeaf(const Element& element) {
+        return element.kind == ElementKind::application || element.kind == ElementKind::userDefined ||
+               element.kind == ElementKind::field;
+    }
+
+    std::optional<std::size_t> recordIndex() const {
+        return inRecord ? std::optional(records.size()) : std::nullopt;
+    }
+
+    void tellOpened(std::string_view name, const Element& element) {
+        if (!openLeaf.empty() && !text::trimmed(buffer).empty()) {
+            notes->tell(ReadingKind::elementInside, openLeaf, recordIndex());
+        }
+        if (element.kind == ElementKind::record && !record.isEmpty()) {
+            notes->tell(ReadingKind::recordInRecord, {}, recordIndex());
+        }
+        openLeaf = isLeaf(element) ? name : std::string_view();
+        if (isLeaf(element)) {
+            notes->tellLeaf();
+        }
+    }
+
+    void tellClosed(std::string_view name, const Element& element) {
+        const bool isPlaced = inRecord || inHeader;
+        if (isLeaf(element) && !isPlaced && !text::trimmed(buffer).empty()) {
+            notes->tell(ReadingKind::elementOutside, name, std::nullopt);
+        } else if (isLeaf(element) && isPlaced && !element.isKnown) {
+            notes->tellUnknown(name, recordIndex());
+        }
+        openLeaf.clear();
+    }
+
     /// The element of this name. Nearly always an element is closed before another is opened.
     Element& opened(std::string_view name) {
         if (latest == nullptr || latest->first != name) {
             auto found = elements.find(name);
             if (found == elements.end()) {
-                found = elements.emplace(name, Element{kindOf(text::upper(name))}).first;
+                const std::string upperName = text::upper(name);
+                const ElementKind kind = kindOf(upperName);
+                const bool isKnown =
+                    notes == nullptr || kind != ElementKind::field || ADXNotes::isKnown(upperName);
+                found = elements.emplace(name, Element{kind, std::nullopt, isKnown}).first;
             }
             latest = &*found;
         }
@@ -206,6 +255,8 @@ class Builder {
         }
     }
 
+    ADXNotes* notes;
+    std::string openLeaf;  ///< Where there are notes: the element that is open, if it is one of a field.
     std::vector<ADIFField> headerFields;
     ADIFRecordList records;
     ADIFRecordBuilder record;  ///< Without fields unless `inRecord`.
@@ -221,9 +272,14 @@ class Builder {
 /// One run of expat, which ends at the first thing that is no part of a log.
 class Run {
   public:
-    Run() : parser(XML_ParserCreate(nullptr), XML_ParserFree) {
+    /// What is met besides the log goes to `notesForIt`, which may be null.
+    explicit Run(ADXNotes* notesForIt = nullptr)
+        : parser(XML_ParserCreate(nullptr), XML_ParserFree), notes(notesForIt), builder(notesForIt) {
         if (parser == nullptr) {
             throw std::bad_alloc();
+        }
+        if (notes != nullptr) {
+            notes->follow([this] { return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser.get())); });
         }
         XML_SetUserData(parser.get(), this);
         XML_SetElementHandler(parser.get(), openElement, closeElement);
@@ -251,6 +307,9 @@ class Run {
             isLast = data.empty();
             if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()),
                           isLast ? XML_TRUE : XML_FALSE) != XML_STATUS_OK) {
+                if (notes != nullptr) {
+                    notes->tellEnd(fault(), builder.isInRecord());
+                }
                 break;
             }
         }
@@ -271,7 +330,6 @@ class Run {
 
     /// Expat resolves entities within entities by calling itself, so that enough of them exhaust the stack.
     void countDeclaration() {
-        constexpr std::size_t mostDeclarations = 500;
         if (++declarations > mostDeclarations) {
             stop();
         }
@@ -279,7 +337,40 @@ class Run {
 
     void stop() { XML_StopParser(parser.get(), XML_FALSE); }
 
+    XMLFault fault() const {
+        switch (XML_GetErrorCode(parser.get())) {
+            case XML_ERROR_NO_ELEMENTS:
+            case XML_ERROR_UNCLOSED_TOKEN:
+            case XML_ERROR_PARTIAL_CHAR:
+            case XML_ERROR_UNCLOSED_CDATA_SECTION:
+                return XMLFault::fileEnds;
+            case XML_ERROR_INVALID_TOKEN:
+                return XMLFault::invalidCharacter;
+            case XML_ERROR_TAG_MISMATCH:
+                return XMLFault::wrongClosingTag;
+            case XML_ERROR_UNDEFINED_ENTITY:
+                return XMLFault::unknownEntity;
+            case XML_ERROR_UNKNOWN_ENCODING:
+            case XML_ERROR_INCORRECT_ENCODING:
+                return XMLFault::unknownEncoding;
+            case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
+                return XMLFault::textBehindRoot;
+            case XML_ERROR_DUPLICATE_ATTRIBUTE:
+                return XMLFault::attributeTwice;
+            case XML_ERROR_AMPLIFICATION_LIMIT_BREACH:
+                return XMLFault::tooMuchDeclared;
+            case XML_ERROR_ABORTED:
+                // Nothing else stops the run.
+                return declarations > mostDeclarations ? XMLFault::tooMuchDeclared : XMLFault::unknownEntity;
+            default:
+                return XMLFault::other;
+        }
+    }
+
+    static constexpr std::size_t mostDeclarations = 500;
+
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
+    ADXNotes* notes;
     Builder builder;
     std::size_t declarations = 0;
 };
@@ -288,6 +379,13 @@ class Run {
 
 ADIFDocument ADXParser::parse(std::string_view data) {
     return Run().documentOf(data);
+}
+
+ReadDocument ADXParser::read(std::string_view data) {
+    ADXNotes notes(data);
+    ADIFDocument document = Run(&notes).documentOf(data);
+    const std::size_t recordCount = document.records().size();
+    return {std::move(document), std::move(notes).report(recordCount)};
 }
 
 }  // namespace tallyrig

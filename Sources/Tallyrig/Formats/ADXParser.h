@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/ReadDocument.h"
 
 #include <string_view>
 
@@ -17,6 +18,9 @@ class ADXParser {
     /// proportion and some hundred declarations of them. External entities are left out and never fetched,
     /// and attributes that only a declaration gives to an element are not taken.
     static ADIFDocument parse(std::string_view data);
+    /// The same document, and what of the file is not in it or probably not as it was meant. Offsets are
+    /// those of `data`.
+    static ReadDocument read(std::string_view data);
 };
 
 }  // namespace tallyrig

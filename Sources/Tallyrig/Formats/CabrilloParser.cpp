@@ -1,6 +1,8 @@
 #include "Tallyrig/Formats/CabrilloParser.h"
 
+#include "Tallyrig/Formats/CabrilloNotes.h"
 #include "Tallyrig/Formats/ColumnRecordBuilder.h"
+#include "Tallyrig/Formats/LineReading.h"
 #include "Tallyrig/Formats/LogLines.h"
 #include "Tallyrig/Log/BandNames.h"
 #include "Tallyrig/Text/ASCII.h"
@@ -158,6 +160,10 @@ class RecordMaker {
         return builder.takeRecord();
     }
 
+    /// Columns of the line that made the latest record.
+    std::string_view callColumn() const { return columns[7]; }
+    std::string_view ownCallColumn() const { return columns[4]; }
+
   private:
     std::array<std::string_view, 10> columns;  ///< Of the line at hand.
     RepeatedColumn places;
@@ -178,49 +184,75 @@ class RecordMaker {
     FieldTags::Number srx = builder.tag("SRX");
 };
 
-/// Takes a header line; of a tag seen twice the later value holds.
-void readHeaderLine(std::string_view line, Station& station) {
+/// Takes a header line; of a tag seen twice the later value holds. `notes` may be null.
+void readHeaderLine(std::string_view line, Station& station, CabrilloNotes* notes) {
     const std::size_t colon = line.find(':');
     if (colon == std::string_view::npos) {
+        if (notes != nullptr) {
+            notes->tellLine(line, std::nullopt);
+        }
         return;
     }
     const std::string key = text::upper(text::trimmedOfBlanks(line.substr(0, colon)));
     const std::string_view value = text::trimmedOfBlanks(line.substr(colon + 1));
+    const auto replace = [&](std::string& member, std::string text) {
+        if (notes != nullptr) {
+            notes->tellReplaced(line, key, member, text);
+        }
+        member = std::move(text);
+    };
     if (key == "CALLSIGN") {
-        station.callsign = text::upper(value);
+        replace(station.callsign, text::upper(value));
     } else if (key == "CONTEST") {
-        station.contest = value;
+        replace(station.contest, std::string(value));
     } else if (key == "OPERATORS") {
-        station.operators = text::upper(value);
+        replace(station.operators, text::upper(value));
     } else if (key == "GRID-LOCATOR") {
-        station.gridLocator = text::upper(value);
+        replace(station.gridLocator, text::upper(value));
+    } else if (notes != nullptr) {
+        notes->tellLine(line, key);
     }
 }
 
-}  // namespace
-
-ADIFDocument CabrilloParser::parse(std::string_view data) {
-    std::string buffer;
-    std::string_view rest = text::decoded(data, buffer);
+/// The log in `text`; what is met besides goes to `notes`, which may be null.
+ADIFDocument documentIn(std::string_view text, CabrilloNotes* notes) {
     Station station;
     // The header may go on behind the QSOs, so that they wait until all of it is known.
     std::vector<std::string_view> qsoLines;
-    for (std::string_view line = text::takeLine(rest); !line.empty(); line = text::takeLine(rest)) {
+    for (std::string_view line = text::takeLine(text); !line.empty(); line = text::takeLine(text)) {
         line = text::trimmedOfBlanks(line);
         if (beginsWith(line, "QSO:")) {
             qsoLines.push_back(line);
         } else if (!beginsWith(line, "X-QSO:")) {
-            readHeaderLine(line, station);
+            readHeaderLine(line, station, notes);
+        } else if (notes != nullptr) {
+            notes->tellLine(line, "X-QSO");
         }
     }
     RecordMaker maker(station);
     ADIFRecordList records;
     for (const std::string_view line : qsoLines) {
         if (auto record = maker.record(line)) {
+            if (notes != nullptr) {
+                notes->tellQSO(line, maker.callColumn(), maker.ownCallColumn(), records.size());
+            }
             records.append(*std::move(record));
+        } else if (notes != nullptr) {
+            notes->tellShort(line);
         }
     }
     return {std::string(), {}, std::move(records)};
+}
+
+}  // namespace
+
+ADIFDocument CabrilloParser::parse(std::string_view data) {
+    std::string buffer;
+    return documentIn(text::decoded(data, buffer), nullptr);
+}
+
+ReadDocument CabrilloParser::read(std::string_view data) {
+    return readLines(data, documentIn);
 }
 
 std::optional<ADIFRecord> CabrilloParser::record(std::string_view line, std::string_view myCall,

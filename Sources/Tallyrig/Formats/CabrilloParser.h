@@ -2,6 +2,7 @@
 
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/ADIFRecord.h"
+#include "Tallyrig/Log/ReadDocument.h"
 
 #include <cstdint>
 #include <optional>
@@ -25,6 +26,9 @@ class CabrilloParser {
     /// the contest, the operators and the locator are kept, as fields of each record, and wherever they
     /// stand. A QSO line of fewer than ten columns is dropped.
     static ADIFDocument parse(std::string_view data);
+    /// The same document, and what of the file is not in it or probably not as it was meant. That the header
+    /// is kept in part only goes without saying. Offsets are those of `data`.
+    static ReadDocument read(std::string_view data);
 
     /// The QSO of one line beginning with "QSO:"; absent if it has fewer than ten columns. Those behind the
     /// tenth and the sent call are not read. No field has an empty value.

@@ -2,6 +2,8 @@
 
 #include "Tallyrig/Formats/ColumnRecordBuilder.h"
 #include "Tallyrig/Formats/EDIBands.h"
+#include "Tallyrig/Formats/EDINotes.h"
+#include "Tallyrig/Formats/LineReading.h"
 #include "Tallyrig/Formats/LogLines.h"
 #include "Tallyrig/Text/ASCII.h"
 #include "Tallyrig/Text/Characters.h"
@@ -22,15 +24,26 @@ namespace {
 class Header {
   public:
     /// Takes a "key=value" line. A key seen again replaces the value; a line without "=" says nothing.
-    void take(std::string_view line) {
+    /// `notes` may be null.
+    void take(std::string_view line, EDINotes* notes) {
         const std::size_t equals = line.find('=');
         if (equals == std::string_view::npos) {
+            if (notes != nullptr) {
+                notes->tellLine(line, std::nullopt, {});
+            }
             return;
         }
         const std::string key = text::upper(text::trimmedOfBlanks(line.substr(0, equals)));
+        const std::string_view value = line.substr(equals + 1);
         const auto* const name = std::ranges::find(names, key);
         if (name != names.end()) {
-            values[static_cast<std::size_t>(name - names.begin())] = line.substr(equals + 1);
+            auto& known = values[static_cast<std::size_t>(name - names.begin())];
+            if (notes != nullptr) {
+                notes->tellReplaced(line, key, known.value_or(std::string_view()), value);
+            }
+            known = value;
+        } else if (notes != nullptr) {
+            notes->tellLine(line, key, value);
         }
     }
 
@@ -91,6 +104,11 @@ class QSOReading {
         return builder.takeRecord();
     }
 
+    /// Of the latest line: its columns, as many as are read, its call, and what stands behind those columns.
+    std::size_t columnCount() const { return found; }
+    std::string_view callColumn() const { return columns[2]; }
+    std::string_view rest() const { return behindColumns; }
+
   private:
     /// Date, time, call, mode, report and number sent, report, number and exchange received, locator. What
     /// follows, points and flags, is for the evaluator to find anew.
@@ -107,6 +125,8 @@ class QSOReading {
             line.remove_prefix(isLast ? end : end + 1);
         }
         std::fill(columns.begin() + static_cast<std::ptrdiff_t>(count), columns.end(), std::string_view());
+        found = count;
+        behindColumns = line;
         return count >= fewest;
     }
 
@@ -118,6 +138,8 @@ class QSOReading {
 
     const std::string century;
     Columns columns;  ///< Of the line at hand.
+    std::size_t found = 0;
+    std::string_view behindColumns;
     RepeatedColumn dates;
     ADIFRecordBuilder::Run commonFields;  ///< At the end of every record.
     ColumnRecordBuilder builder;
@@ -132,33 +154,50 @@ class QSOReading {
     const FieldTags::Number gridsquare = builder.tag("GRIDSQUARE");
 };
 
-}  // namespace
-
-ADIFDocument EDIParser::parse(std::string_view data) {
-    std::string buffer;
+/// The log in `text`; what is met besides goes to `notes`, which may be null.
+ADIFDocument documentIn(std::string_view text, EDINotes* notes) {
     Header header;
     std::vector<std::string_view> qsoLines;
     bool isInQSOs = false;
-    std::string_view rest = text::decoded(data, buffer);
-    for (std::string_view line = text::takeLine(rest); !line.empty(); line = text::takeLine(rest)) {
+    for (std::string_view line = text::takeLine(text); !line.empty(); line = text::takeLine(text)) {
         if (line.front() == '[') {
             isInQSOs = text::upper(line).starts_with("[QSORECORDS");
+            if (notes != nullptr) {
+                notes->tellSection(line);
+            }
         } else if (!isInQSOs) {
-            header.take(line);
+            header.take(line, notes);
         } else if (!text::trimmedOfBlanks(line).empty()) {
             qsoLines.push_back(line);
         }
     }
     // Only now is the header complete: its keys may stand behind the QSOs.
-    const CommonValues common = header.commonValues();
+    const EDIParser::CommonValues common = header.commonValues();
     QSOReading reading(common);
     ADIFRecordList records;
     for (const std::string_view line : qsoLines) {
-        if (auto record = reading.record(line)) {
+        auto record = reading.record(line);
+        if (notes != nullptr && record) {
+            notes->tellQSO(line, reading.columnCount(), reading.rest(), reading.callColumn(), records.size());
+        } else if (notes != nullptr) {
+            notes->tellShort(line, reading.columnCount());
+        }
+        if (record) {
             records.append(*std::move(record));
         }
     }
     return {"", {}, std::move(records)};
+}
+
+}  // namespace
+
+ADIFDocument EDIParser::parse(std::string_view data) {
+    std::string buffer;
+    return documentIn(text::decoded(data, buffer), nullptr);
+}
+
+ReadDocument EDIParser::read(std::string_view data) {
+    return readLines(data, documentIn);
 }
 
 std::optional<ADIFRecord> EDIParser::record(std::string_view line, const CommonValues& common) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/ReadDocument.h"
 
 #include <optional>
 #include <span>
@@ -25,6 +26,9 @@ struct EDIParser {
     /// The document in `data`, without header fields: what the header says is in every record. The free text
     /// of the remarks is lost.
     static ADIFDocument parse(std::string_view data);
+    /// The same document, and what of the file is not in it or probably not as it was meant. That the header
+    /// is kept in part only and the remarks are not goes without saying. Offsets are those of `data`.
+    static ReadDocument read(std::string_view data);
 
     /// The record of one line of the QSO section. Absent for a line of fewer than four columns; a call is not
     /// asked for.

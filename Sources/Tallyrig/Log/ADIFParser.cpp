@@ -266,7 +266,7 @@ ADIFDocument ADIFParser::parse(std::string_view data) {
 
 ReadDocument ADIFParser::read(std::string_view data) {
     ReadingNotes notes(data);
-    notes.addEncoding();
+    notes.addEncodingOf(data);
     ADIExaminer examiner(data, notes);
     Reading reading(data, &examiner);
     ADIFDocument document = reading.document();

@@ -8,6 +8,7 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <tuple>
 #include <utility>
 
@@ -27,17 +28,38 @@ std::string_view firstCodePoints(std::string_view text, std::size_t count) {
     return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 
+/// How many lines end in `text`, of which `next` is one byte further back. The LF of a CR LF ends no line of
+/// its own. In pieces whose lines a byte can count, which is what makes this fast.
+std::size_t lineEnds(std::string_view text, const char* next) {
+    constexpr std::size_t mostInByte = 255;
+    std::size_t count = 0;
+    for (std::size_t begin = 0; begin < text.size(); begin += mostInByte) {
+        const std::size_t end = std::min(begin + mostInByte, text.size());
+        std::uint8_t ends = 0;
+        for (std::size_t at = begin; at < end; ++at) {
+            const bool isEnd = (text[at] == '\n') | ((text[at] == '\r') & (next[at] != '\n'));
+            ends = static_cast<std::uint8_t>(ends + isEnd);
+        }
+        count += ends;
+    }
+    return count;
+}
+
 /// Counts lines as an editor does, place by place in ascending order.
 class LineCounter {
   public:
     explicit LineCounter(std::string_view text) : whole(text) {}
 
     std::size_t lineAt(std::size_t offset) {
-        for (; position < offset; ++position) {
-            const char c = whole[position];
-            // The LF of a CR LF ends no line of its own.
-            line += (c == '\n' || (c == '\r' && !whole.substr(position + 1).starts_with('\n'))) ? 1U : 0U;
+        if (offset == position) {
+            return line;
         }
+        const std::size_t last = std::min(offset, whole.size() - 1);
+        line += lineEnds(whole.substr(position, last - position), whole.data() + position + 1);
+        if (last < offset) {
+            line += lineEnds(whole.substr(last), "");
+        }
+        position = offset;
         return line;
     }
 
@@ -46,6 +68,36 @@ class LineCounter {
     std::size_t position = 0;
     std::size_t line = 1;
 };
+
+/// Bytes of one sort.
+struct OddBytes {
+    std::size_t first = 0;
+    std::size_t count = 0;
+
+    void add(std::size_t offset) {
+        first = count == 0 ? offset : first;
+        ++count;
+    }
+};
+
+/// Bytes are looked at in blocks of so many, nearly all of which are plain ASCII.
+constexpr std::size_t oddBlock = 64;
+
+/// Where, from `begin` on, a block begins in which there is NUL or what is not ASCII; the size if none does.
+/// `begin` is a multiple of the block's size or behind the end.
+std::size_t firstOddBlock(std::string_view bytes, std::size_t begin) {
+    for (; begin < bytes.size(); begin += oddBlock) {
+        std::uint64_t seen = 0;
+        text::forEachWord(bytes.substr(begin, oddBlock), [&](std::uint64_t word) {
+            // The highest bit of a byte that is 0 or above 127, and of bytes above one that is 0.
+            seen |= word | ((word - text::everyByte(1)) & ~word);
+        });
+        if ((seen & text::everyByte(0x80)) != 0) {
+            return begin;
+        }
+    }
+    return bytes.size();
+}
 
 /// The report with each offset replaced by the sum of `sizeOf` for the first bytes of all letters before it,
 /// and `start`.
@@ -80,48 +132,55 @@ ReadingNote* ReadingNotes::add(ReadingKind kind, std::size_t offset, std::option
         .kind = kind, .offset = offset, .recordIndex = recordIndex, .excerpt = shownInNote(line)});
 }
 
-void ReadingNotes::addEncoding() {
-    const std::size_t nul = whole.find('\0');
-    if (nul != std::string_view::npos) {
-        add(ReadingKind::nulBytes, nul)->count = static_cast<std::size_t>(
-            std::count(whole.begin() + static_cast<std::ptrdiff_t>(nul), whole.end(), '\0'));
-    }
-    if (text::isASCII(whole)) {
-        return;
-    }
-    std::optional<std::size_t> firstOther;
-    std::optional<std::size_t> firstWindows;
-    std::size_t otherCount = 0;
-    std::size_t windowsCount = 0;
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(whole.data());
-    for (std::size_t next = 0; next < whole.size();) {
+void ReadingNotes::addEncodingOf(std::string_view bytes) {
+    OddBytes nuls;
+    OddBytes windows;
+    OddBytes others;
+    const auto* const units = reinterpret_cast<const std::uint8_t*>(bytes.data());
+    for (std::size_t next = firstOddBlock(bytes, 0); next < bytes.size();) {
         const std::size_t begin = next;
-        if (bytes[begin] < 0x80) {
-            ++next;
-            while (whole.size() - next >= sizeof(std::uint64_t) &&
-                   (text::wordAt(whole.data() + next) & text::everyByte(0x80)) == 0) {
-                next += sizeof(std::uint64_t);
-            }
+        if (units[begin] != 0 && units[begin] < 0x80) {
+            next = begin % oddBlock == oddBlock - 1 ? firstOddBlock(bytes, begin + 1) : begin + 1;
             continue;
         }
         UChar32 c = 0;
-        U8_NEXT(bytes, next, whole.size(), c);
-        if (c == 0xFFFD) {
-            add(ReadingKind::lostCharacters, begin);
-        } else if (c < 0 && bytes[begin] < 0xA0) {
-            ++windowsCount;
-            firstWindows = firstWindows.value_or(begin);
+        U8_NEXT(units, next, bytes.size(), c);
+        if (c == 0) {
+            nuls.add(begin);
+        } else if (c == 0xFFFD) {
+            addByte(ReadingKind::lostCharacters, bytes, begin);
         } else if (c < 0) {
-            ++otherCount;
-            firstOther = firstOther.value_or(begin);
+            (units[begin] < 0xA0 ? windows : others).add(begin);
         }
     }
-    if (firstWindows) {
-        add(ReadingKind::windowsCharacters, *firstWindows)->count = windowsCount;
+    for (const auto& [kind, odd] :
+         {std::pair(ReadingKind::nulBytes, nuls), std::pair(ReadingKind::windowsCharacters, windows),
+          std::pair(ReadingKind::latin1, others)}) {
+        if (odd.count > 0) {
+            addByte(kind, bytes, odd.first)->count = odd.count;
+        }
     }
-    if (firstOther) {
-        add(ReadingKind::latin1, *firstOther)->count = otherCount;
+}
+
+bool ReadingNotes::hasOddBytes(std::string_view bytes) {
+    return firstOddBlock(bytes, 0) < bytes.size();
+}
+
+ReadingNote* ReadingNotes::addByte(ReadingKind kind, std::string_view bytes, std::size_t offset) {
+    if (bytes.data() != whole.data()) {
+        // Each byte that is not ASCII has become two in the text.
+        const std::string_view before = bytes.substr(0, offset);
+        offset += static_cast<std::size_t>(std::ranges::count_if(
+            before, [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; }));
     }
+    return add(kind, offset);
+}
+
+ReadingReport ReadingNotes::reportOn(std::string_view bytes) && {
+    const bool isDecoded = bytes.data() != whole.data();
+    const std::string_view text = whole;
+    ReadingReport result = std::move(*this).report();
+    return isDecoded ? withOffsetsOfLatin1(std::move(result), text) : result;
 }
 
 ReadingReport ReadingNotes::report(std::optional<ReadingRepair> repair) && {

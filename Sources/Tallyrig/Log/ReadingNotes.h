@@ -15,7 +15,7 @@ namespace tallyrig {
 /// Gathers the notes of one reading. What readers have in common beside their own notes.
 class ReadingNotes {
   public:
-    /// `text` is what offsets refer to until `withOffsetsOf...` says otherwise. It outlives this.
+    /// `text` is what offsets refer to until `reportOn` or a function below says otherwise. It outlives this.
     explicit ReadingNotes(std::string_view text) : whole(text) {}
 
     /// Notes one more place of a kind. Places of one kind come in the order of the text, none behind its end.
@@ -26,9 +26,15 @@ class ReadingNotes {
         return add(kind, static_cast<std::size_t>(at.data() - whole.data()), recordIndex);
     }
 
-    /// Notes what is to be said of the bytes in `text`: which are no UTF-8, so that they are taken for ISO
-    /// 8859-1, U+FFFD, NUL. One pass, fast where all is ASCII.
-    void addEncoding();
+    /// Notes what is to be said of the bytes of a file: which are no UTF-8, so that they are taken for ISO
+    /// 8859-1, U+FFFD, NUL. `bytes` are the text, or what it was made of as a whole by `text::decoded`. One
+    /// pass, fast where all is ASCII.
+    void addEncodingOf(std::string_view bytes);
+    /// Whether there are any bytes that it may have something to say of: NUL, or no ASCII.
+    static bool hasOddBytes(std::string_view bytes);
+
+    /// All of it, with offsets in those `bytes`, as `report` below.
+    ReadingReport reportOn(std::string_view bytes) &&;
 
     /// Whether there is any note of this kind.
     bool has(ReadingKind kind) const { return counts[static_cast<std::size_t>(kind)] > 0; }
@@ -38,6 +44,8 @@ class ReadingNotes {
     ReadingReport report(std::optional<ReadingRepair> repair = {}) &&;
 
   private:
+    ReadingNote* addByte(ReadingKind kind, std::string_view bytes, std::size_t offset);
+
     static constexpr std::size_t kindCount = static_cast<std::size_t>(ReadingKind::recordInRecord) + 1;
 
     std::string_view whole;

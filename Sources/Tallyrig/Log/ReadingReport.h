@@ -50,17 +50,19 @@ enum class ReadingKind : std::uint8_t {
     textBehindLastRecord,  ///< Text behind the last tag.
     // Cabrillo and EDI.
     tooFewColumns,      ///< A QSO left out: [number] columns of at least [expected].
+    columnsDoubted,     ///< The same for most QSOs: [number] of [expected] QSOs were left out.
     callMissing,        ///< A QSO without a call.
     callImplausible,    ///< A QSO whose call, [value], looks like none.
     callColumnDoubted,  ///< The same for most QSOs: [number] of [expected].
     ignoredQSO,         ///< An X-QSO line, which is left out as it asks to be.
     qtcLeftOut,         ///< A QTC line; QTCs are not read.
     unknownKey,         ///< A line of the header with a key that no table knows, [field].
-    lineLeftOut,        ///< A line that has no place in the format; a QSO perhaps.
-    headerTwice,        ///< [field] of the header is [value] first and something else later, which holds.
+    lineLeftOut,        ///< A line that looks like a QSO, but has no place in the format as one.
+    textLeftOut,        ///< Any other line that has none.
+    headerTwice,        ///< [field] of the header stands here again; the [value] before it was given up.
     fewerColumns,       ///< A QSO with [number] columns instead of [expected]; the others are empty.
     countDisagrees,     ///< The file says that it has [expected] QSOs and has [number].
-    claimDisagrees,     ///< Under [field] the file claims [expected], while its lines give [number].
+    claimDisagrees,     ///< Under [field] the file claims [expected], while its QSOs give [number].
     // ADX.
     xmlEnded,        ///< Not well-formed from here on; [fault] says why. Behind it stand [number] records.
     unknownElement,  ///< An element that no table knows, [field]; it was kept as a field.
@@ -108,7 +110,7 @@ struct ReadingNote {
     std::size_t offset = 0;  ///< Where it stands: bytes from the start of the file, not behind its end.
     std::size_t line = 1;    ///< The line of that place, from 1, as an editor counts: LF, CR LF or CR.
     std::optional<std::size_t> recordIndex = {};  ///< The record that it is about, from 0, if there is one.
-    /// In how many places it was met: here and further behind. More than 1 only in a kind's last note.
+    /// In how many places it was met: here and further behind, where no other note speaks of them.
     std::size_t count = 1;
     std::string excerpt = {};  ///< The file's text from `offset` on, cut at the end of the line.
     std::string field = {};    ///< Upper case as in the log; a key of a header; an element.

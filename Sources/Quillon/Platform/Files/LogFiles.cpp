@@ -49,7 +49,7 @@ LoadedLog readLog(const std::string& path) {
         return {{}, {}, *error};
     }
     LoadedLog log;
-    log.document = tallyrig::LogReader::read(std::get<std::string>(content)).document;
+    log.document = tallyrig::LogReader::readWithoutReport(std::get<std::string>(content)).document;
     log.owner = tallyrig::CrossCheckLog::detectOwner(log.document).value_or(std::string());
     return log;
 }

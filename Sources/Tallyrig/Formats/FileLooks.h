@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Tallyrig/Log/ReadingReport.h"
+
+#include <string_view>
+
+namespace tallyrig {
+
+/// What the bytes of a file that is no log look like. Looks at their head only.
+FileLook lookOf(std::string_view bytes);
+
+}  // namespace tallyrig
