@@ -3,6 +3,7 @@
 #include "Tallyrig/Validation/ADIFSpec317.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
 #include "TallyrigTool/Commands.h"
+#include "TallyrigTool/FileByFile.h"
 #include "TallyrigTool/JsonList.h"
 #include "TallyrigTool/LogFile.h"
 #include "TallyrigTool/Usage.h"
@@ -13,7 +14,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -53,7 +53,8 @@ ADIFValidator validatorFor(const Options& options) {
 }
 
 Checked checked(const std::string& file, const ADIFValidator& validator) {
-    LogFile log = readLog(file);
+    LogFile log = readLogWithReport(file);
+    complainOfReading(log);
     std::vector<ValidationIssue> issues = validator.issues(log.document);
     const auto errors = std::ranges::count(issues, ValidationSeverity::error, &ValidationIssue::severity);
     return {std::move(log), std::move(issues), static_cast<std::size_t>(errors)};
@@ -168,33 +169,12 @@ std::string checkedCriterion(const std::string& name) {
 
 ExitStatus check(const Options& options, Output& output) {
     const ADIFValidator validator = validatorFor(options);
-    ExitStatus status = ExitStatus::good;
-    bool isFirst = true;
-    output.write(options.asJson ? "[" : "");
-    for (const std::string& file : options.files) {
-        std::optional<Checked> result;
-        try {
-            result = checked(file, validator);
-        } catch (const Failure& failure) {
-            // The other logs can still be checked, as `grep` goes on behind a file that it cannot read.
-            complain(failure.message);
-            status = ExitStatus::failed;
-            continue;
-        }
-        if (options.asJson) {
-            output.write(isFirst ? "" : ",\n");
-            writeJson(output, *result);
-        } else {
-            output.write(isFirst ? "" : "\n");
-            writeText(output, *result);
-        }
-        isFirst = false;
-        if (!result->issues.empty()) {
-            status = std::max(status, ExitStatus::findings);
-        }
-    }
-    output.write(options.asJson ? "]\n" : "");
-    return status;
+    return forEachFile(options.files, options.asJson, output, [&](const std::string& file) {
+        return [result = checked(file, validator), asJson = options.asJson](Output& target) {
+            asJson ? writeJson(target, result) : writeText(target, result);
+            return result.issues.empty() ? ExitStatus::good : ExitStatus::findings;
+        };
+    });
 }
 
 }  // namespace

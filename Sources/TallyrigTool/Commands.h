@@ -18,6 +18,7 @@ struct Command {
 
 /// Each adds its command to `program`, which must outlive it. One source file per command.
 Command dumpCommand(CLI::App& program);
+Command readCommand(CLI::App& program);
 Command checkCommand(CLI::App& program);
 Command convertCommand(CLI::App& program);
 Command compareCommand(CLI::App& program);

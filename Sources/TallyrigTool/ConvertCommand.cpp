@@ -132,7 +132,9 @@ Command convertCommand(CLI::App& program) {
         ->allow_extra_args(false)
         ->check(CLI::Validator(checkedSetting, ""));
     return {&usage, [options](Output& output) {
-                const std::string text = converted(readLog(options->file).document, *options);
+                const LogFile log = readLogWithReport(options->file);
+                complainOfReading(log);
+                const std::string text = converted(log.document, *options);
                 if (options->target.empty() || options->target == "-") {
                     output.write(text);
                 } else {

@@ -1,5 +1,6 @@
 #include "TallyrigTool/LogFile.h"
 
+#include "Quillon/Catalogue/ReadingWords.h"
 #include "Quillon/Platform/Files/Files.h"
 #include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Text/Decoding.h"
@@ -51,7 +52,19 @@ std::string LogFile::fileName() const {
 
 LogFile readLog(const std::string& argument) {
     LogReader::Log log = LogReader::readWithoutReport(bytesOf(argument));
-    return {argument, log.format, std::move(log.document)};
+    return {argument, log.format, std::move(log.document), {}};
+}
+
+LogFile readLogWithReport(const std::string& argument) {
+    LogReader::Log log = LogReader::read(bytesOf(argument));
+    return {argument, log.format, std::move(log.document), std::move(log.report)};
+}
+
+void complainOfReading(const LogFile& log) {
+    if (!log.report.isEmpty()) {
+        complain(log.argument + ": beim Lesen " + quillon::ReadingWords::counts(log.report) +
+                 ", gezeigt von tallyrig read");
+    }
 }
 
 void writeFile(const std::string& path, std::string_view text) {

@@ -26,9 +26,10 @@ ExitStatus run(int count, const char* const* arguments) {
     CLI::App program;
     describeProgram(program);
     const std::vector<Command> commands = {
-        dumpCommand(program),  checkCommand(program),    convertCommand(program),   compareCommand(program),
-        statsCommand(program), distanceCommand(program), callCommand(program),      contestsCommand(program),
-        rulesCommand(program), scoreCommand(program),    crossCheckCommand(program)};
+        dumpCommand(program),     readCommand(program),    checkCommand(program),
+        convertCommand(program),  compareCommand(program), statsCommand(program),
+        distanceCommand(program), callCommand(program),    contestsCommand(program),
+        rulesCommand(program),    scoreCommand(program),   crossCheckCommand(program)};
     try {
         parse(program, {arguments + 1, arguments + count});
     } catch (const CLI::CallForHelp&) {

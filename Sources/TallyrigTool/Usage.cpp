@@ -16,6 +16,7 @@ namespace {
 constexpr auto explanation =
     "Beispiele:\n"
     "  tallyrig dump --json Examples/vereinsabend.adi\n"
+    "  tallyrig read Examples/schaden.adi\n"
     "  tallyrig check --no-duplicates Examples/befunde.adi\n"
     "  tallyrig convert --to adi -o neu.adi Examples/vereinsabend.adi\n"
     "\n"

@@ -63,6 +63,49 @@ TEST_F(Dump, NamesTheFormat) {
     }
 }
 
+using Read = Tool;
+
+TEST_F(Read, SaysWhatIsNotInTheLog) {
+    const std::string damaged = "<EOH>\n<CALL:5>DL1AB<NAME:3>J\xC3\xB6rg\x1B<EOR>\n<CALL:5>DL2AB // x\n";
+    const Ran text = run("tallyrig read - Examples/vereinsabend.adi none", damaged);
+    EXPECT_EQ(text.status, 2);
+    EXPECT_EQ(
+        text.output,
+        "-: ADIF, 2 QSOs, 1 Fehler, 1 Warnung, 1 Hinweis\n"
+        "  Zeile 2  Fehler   QSO 1: NAME ist abgeschnitten, denn die Länge ist zu klein: Bis zum nächsten "
+        "Feld steht da „Jörg␛“.\n"
+        "           <NAME:3>Jörg␛<EOR>\n"
+        "  Zeile 3  Warnung  QSO 2: Hinter dem letzten QSO fehlt <EOR>; es steht trotzdem im Log.\n"
+        "           <CALL:5>DL2AB // x\n"
+        "  Zeile 3  Hinweis  QSO 2: Hier steht Text zwischen den Feldern, der im Log fehlt.\n"
+        "           // x\n"
+        "\nExamples/vereinsabend.adi: ADIF, 14 QSOs, vollständig gelesen\n");
+    EXPECT_TRUE(text.complaint.starts_with("tallyrig: none: ")) << text.complaint;
+
+    EXPECT_EQ(run("tallyrig read - Examples/vereinsabend.adi", damaged).status, 1);
+    EXPECT_EQ(run("tallyrig read -", "a<EOH><CALL:1>A // x<EOR>").status, 0) << "a note is no objection";
+    EXPECT_EQ(
+        run("tallyrig read --json - Examples/vereinsabend.adi", "<A>\x80<EOR>").output,
+        R"([{"file":"-","format":"adif","records":1,"notes":[)"
+        "\n"
+        R"({"kind":"lengthMissing","severity":"error","offset":0,"line":1,"recordIndex":0,)"
+        "\"excerpt\":\"<A>\uFFFD<EOR>\","
+        "\"message\":\"A blieb leer, denn die Länge fehlt: Dahinter steht „\uFFFD“.\"},\n"
+        R"({"kind":"windowsCharacters","severity":"warning","offset":3,"line":1,"recordIndex":null,)"
+        "\"excerpt\":\"\uFFFD<EOR>\",\"message\":\"Hier stehen Zeichen, die so nur Windows schreibt; im Log "
+        "sind es unsichtbare Steuerzeichen. Als UTF-8 gesichert, wird die Datei richtig gelesen.\"}\n]},\n"
+        R"({"file":"vereinsabend.adi","format":"adif","records":14,"notes":[]}])"
+        "\n");
+}
+
+TEST_F(Read, IsPointedToByOtherCommands) {
+    for (const char* command : {"check --no-required", "convert --to adi"}) {
+        const Ran ran = run("tallyrig " + std::string(command) + " -", "<EOH><CALL:5>DL1AB1<EOR>");
+        EXPECT_EQ(ran.status, 0) << command;
+        EXPECT_EQ(ran.complaint, "tallyrig: -: beim Lesen 1 Fehler, gezeigt von tallyrig read\n") << command;
+    }
+}
+
 using Check = Tool;
 
 TEST_F(Check, GivesEachKindOfFindingWithItsPayload) {
@@ -186,7 +229,7 @@ TEST_F(Convert, ReplacesTheTargetWholeOrNotAtAll) {
     for (const std::string target : {"fehlt/neu.adi", ".", "/dev/full"}) {
         const Ran ran = run("tallyrig convert --to adi log.adi -o " + target);
         EXPECT_EQ(ran.status, 2) << target;
-        EXPECT_TRUE(ran.complaint.starts_with("tallyrig: " + target + ": ")) << ran.complaint;
+        EXPECT_NE(ran.complaint.find("tallyrig: " + target + ": "), std::string::npos) << ran.complaint;
     }
     const Ran tooLarge = run("ulimit -f 1; tallyrig convert --to adi Examples/jahreslog.adi -o log.adi");
     EXPECT_EQ(tooLarge.complaint, "tallyrig: log.adi: Die Datei ist zu groß.\n");
@@ -232,7 +275,9 @@ TEST_F(Failure, NamesWhatIsWrong) {
         {"distance JO62 Berlin", "Berlin: kein Locator"},
         {"dump '\x1b[31m.adi'", "␛[31m.adi: Die Datei existiert nicht."},
         {"dump - <&-", "-: Die Standardeingabe konnte nicht gelesen werden: Sie ist geschlossen."},
-        {"check - -", "-: Die Standardeingabe kann nur einmal gelesen werden."},
+        {"check - -",
+         "-: beim Lesen 1 Warnung, gezeigt von tallyrig read\n"
+         "tallyrig: -: Die Standardeingabe kann nur einmal gelesen werden."},
     };
     for (const auto& [call, complaint] : cases) {
         const Ran ran = run("tallyrig " + call);
@@ -261,8 +306,8 @@ using Help = Tool;
 
 TEST_F(Help, ShowsExamplesThatRun) {
     std::size_t examples = 0;
-    for (const std::string page : {"", "dump ", "check ", "convert ", "compare ", "stats ", "distance ",
-                                   "call ", "contests ", "rules ", "score "}) {
+    for (const std::string page : {"", "dump ", "read ", "check ", "convert ", "compare ", "stats ",
+                                   "distance ", "call ", "contests ", "rules ", "score "}) {
         for (const std::string& line : linesOf(run("tallyrig " + page + "--help").output)) {
             if (line.starts_with("  tallyrig ")) {
                 ++examples;
@@ -270,7 +315,7 @@ TEST_F(Help, ShowsExamplesThatRun) {
             }
         }
     }
-    EXPECT_EQ(examples, 13);
+    EXPECT_EQ(examples, 15);
     EXPECT_EQ(run("tallyrig --version").output, "tallyrig " TOOL_VERSION "\n");
 }
 
@@ -297,7 +342,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 17);
+    EXPECT_EQ(commands, 19);
 }
 
 }  // namespace

@@ -74,17 +74,6 @@ void CabrilloNotes::tellLine(std::string_view line, std::optional<std::string_vi
     }
 }
 
-void CabrilloNotes::tellReplaced(std::string_view line, std::string_view key, std::string_view before,
-                                 std::string_view now) {
-    if (before.empty() || text::equal(before, now)) {
-        return;
-    }
-    if (ReadingNote* const note = report.add(ReadingKind::headerTwice, line)) {
-        note->field = key;
-        note->value = shownInNote(before);
-    }
-}
-
 void CabrilloNotes::tellShort(std::string_view line) {
     shortLines.add({line, {}, 0});
 }

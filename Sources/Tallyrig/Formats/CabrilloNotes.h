@@ -21,7 +21,9 @@ class CabrilloNotes {
     void tellLine(std::string_view line, std::optional<std::string_view> key);
     /// `line` replaces a value of the header that is part of all QSOs.
     void tellReplaced(std::string_view line, std::string_view key, std::string_view before,
-                      std::string_view now);
+                      std::string_view now) {
+        report.addReplaced(line, key, before, now);
+    }
     /// A QSO line, trimmed, with too few columns.
     void tellShort(std::string_view line);
     /// A QSO that was read, with the call in it as its line has it and that of its own station.

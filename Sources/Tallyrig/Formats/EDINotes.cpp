@@ -52,17 +52,6 @@ void EDINotes::tellLine(std::string_view line, std::optional<std::string_view> k
     }
 }
 
-void EDINotes::tellReplaced(std::string_view line, std::string_view key, std::string_view before,
-                            std::string_view now) {
-    if (before.empty() || text::equal(before, now)) {
-        return;
-    }
-    if (ReadingNote* const note = report.add(ReadingKind::headerTwice, line)) {
-        note->field = key;
-        note->value = shownInNote(before);
-    }
-}
-
 void EDINotes::tellShort(std::string_view line, std::size_t columnCount) {
     ++lineCount;
     haveAllPoints = false;

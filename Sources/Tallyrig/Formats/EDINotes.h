@@ -22,7 +22,9 @@ class EDINotes {
     void tellLine(std::string_view line, std::optional<std::string_view> key, std::string_view value);
     /// `line` replaces a value of the header that is part of all QSOs.
     void tellReplaced(std::string_view line, std::string_view key, std::string_view before,
-                      std::string_view now);
+                      std::string_view now) {
+        report.addReplaced(line, key, before, now);
+    }
     /// A line of the QSO section that was left out, for it has too few columns.
     void tellShort(std::string_view line, std::size_t columnCount);
     /// A line that was read: how many columns it has, ten at the most, what stands behind those, and the

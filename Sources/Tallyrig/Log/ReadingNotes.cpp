@@ -132,6 +132,17 @@ ReadingNote* ReadingNotes::add(ReadingKind kind, std::size_t offset, std::option
         .kind = kind, .offset = offset, .recordIndex = recordIndex, .excerpt = shownInNote(line)});
 }
 
+void ReadingNotes::addReplaced(std::string_view line, std::string_view key, std::string_view before,
+                               std::string_view now) {
+    if (before.empty() || text::equal(before, now)) {
+        return;
+    }
+    if (ReadingNote* const note = add(ReadingKind::headerTwice, line)) {
+        note->field = key;
+        note->value = shownInNote(before);
+    }
+}
+
 void ReadingNotes::addEncodingOf(std::string_view bytes) {
     OddBytes nuls;
     OddBytes windows;

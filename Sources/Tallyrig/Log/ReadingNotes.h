@@ -26,6 +26,10 @@ class ReadingNotes {
         return add(kind, static_cast<std::size_t>(at.data() - whole.data()), recordIndex);
     }
 
+    /// Notes that the value of a header's key is given up for that of `line`, if that is another.
+    void addReplaced(std::string_view line, std::string_view key, std::string_view before,
+                     std::string_view now);
+
     /// Notes what is to be said of the bytes of a file: which are no UTF-8, so that they are taken for ISO
     /// 8859-1, U+FFFD, NUL. `bytes` are the text, or what it was made of as a whole by `text::decoded`. One
     /// pass, fast where all is ASCII.

@@ -89,6 +89,15 @@ std::size_t ReadingReport::placeCount(ReadingSeverity severity) const {
     return count;
 }
 
+std::size_t ReadingReport::noteCount(ReadingSeverity severity) const {
+    std::size_t count = 0;
+    for (const ReadingNote& note : allNotes) {
+        const std::size_t own = mostNotes(note.kind) == once ? 1 : note.count;
+        count += note.severity() == severity ? own : 0;
+    }
+    return count;
+}
+
 ReadingSeverity ReadingReport::severityOf(ReadingKind kind) {
     return traitsOf(kind).severity;
 }

@@ -152,6 +152,8 @@ class ReadingReport {
     bool isEmpty() const { return allNotes.empty(); }
     /// How many places the notes of this severity stand for.
     std::size_t placeCount(ReadingSeverity severity) const;
+    /// How many notes of this severity there would be without a limit: what is told once for the file is one.
+    std::size_t noteCount(ReadingSeverity severity) const;
 
     /// The reading that would put damage right with certainty, absent if there is no such damage.
     std::optional<ReadingRepair> repair() const { return certainRepair; }
