@@ -3,8 +3,6 @@
 #include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/LogStore.h"
 
-#include <sys/stat.h>
-
 #include <utility>
 
 namespace quillon {
@@ -32,16 +30,6 @@ QString sentence(const FileError& error) {
 }
 
 }  // namespace
-
-LogKeeper::FileState LogKeeper::FileState::of(const std::string& path) {
-    struct stat status = {};
-    if (::stat(path.c_str(), &status) != 0) {
-        return {};
-    }
-    constexpr std::int64_t secondNs = 1'000'000'000;
-    return {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
-            status.st_mtim.tv_sec * secondNs + status.st_mtim.tv_nsec};
-}
 
 LogKeeper::LogKeeper(LogStore& logStore, CompareStore& compareStore, const std::string& folder, Pace pace,
                      QObject* parent)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Keeping/FileState.h"
 #include "Quillon/Keeping/InHandKeeper.h"
 #include "Quillon/Platform/Kept/KeptLogs.h"
 #include "Tallyrig/Log/ADIFDocument.h"
@@ -7,7 +8,6 @@
 #include <QObject>
 #include <QString>
 
-#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -67,17 +67,6 @@ class LogKeeper : public QObject {
     void failed(const QString& sentence);
 
   private:
-    /// A file as it was at some moment: another one, or one that was written to, differs.
-    struct FileState {
-        std::uint64_t device = 0;
-        std::uint64_t number = 0;
-        std::uint64_t bytes = 0;
-        std::int64_t changedNs = 0;
-
-        static FileState of(const std::string& path);
-        friend bool operator==(const FileState&, const FileState&) = default;
-    };
-
     LogInHand current() const;
     LogInHand leftSide();
     LogInHand rightSide();

@@ -25,6 +25,9 @@ namespace {
 constexpr std::string_view extension = ".kept";
 
 FileError folderError(int error) {
+    if (error == ENOENT) {
+        return {"Der Ordner für aufgehobene Logbücher kann nicht angelegt werden."};
+    }
     const bool isForbidden = error == EACCES || error == EPERM;
     return {isForbidden ? "Im Ordner für aufgehobene Logbücher darf keine Datei angelegt werden."
                         : systemErrorSentence(error)};

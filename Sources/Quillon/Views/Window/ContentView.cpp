@@ -20,6 +20,7 @@
 #include "Quillon/Views/Window/CommandActions.h"
 #include "Quillon/Views/Window/Commands.h"
 #include "Quillon/Views/Window/DropHint.h"
+#include "Quillon/Views/Window/FileNotices.h"
 #include "Quillon/Views/Window/KeptNotices.h"
 #include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/RedoKey.h"
@@ -76,6 +77,7 @@ ContentView::ContentView(const AppStores& appStores, Settings& userSettings, QSt
     dropHint = new DropHint(*this);
     new StoreSheets(stores.log, *this);
     new RedoKey(this);
+    fileNotices = new FileNotices(stores, *notices, *this, [this](const QString& path) { openFile(path); });
     followStore();
     alertOfFailures(stores, *this);
 }
@@ -267,6 +269,9 @@ void ContentView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
         matchIconsToPalette();
         makeSecondaryTextReadable();
+    }
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && fileNotices != nullptr) {
+        fileNotices->look();
     }
     QMainWindow::changeEvent(event);
 }

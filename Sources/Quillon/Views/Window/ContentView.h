@@ -15,6 +15,7 @@ namespace quillon {
 
 class CommandActions;
 class DropHint;
+class FileNotices;
 class KeptNotices;
 class LogKeeper;
 class NoticeStrip;
@@ -103,6 +104,7 @@ class ContentView : public QMainWindow {
     StatusLine* statusLine = nullptr;
     DropHint* dropHint = nullptr;
     NoticeStrip* notices = nullptr;
+    FileNotices* fileNotices = nullptr;
     KeptNotices* keptNotices = nullptr;  ///< Null where nothing is kept.
     bool hasComeUp = false;
 };

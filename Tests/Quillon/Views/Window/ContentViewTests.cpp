@@ -8,6 +8,7 @@
 #include "Quillon/Views/Check/CheckResultsView.h"
 #include "Quillon/Views/Contest/ContestView.h"
 #include "Quillon/Views/Controls/FindingList.h"
+#include "Quillon/Views/Controls/NoticeStrip.h"
 #include "Quillon/Views/Detail/FieldRow.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
 #include "Quillon/Views/Sheets/BulkEditSheet.h"
@@ -17,6 +18,7 @@
 #include "Quillon/Views/Table/TableBody.h"
 #include "Quillon/Views/Window/CommandActions.h"
 #include "Quillon/Views/Window/DropHint.h"
+#include "Quillon/Views/Window/FileNotices.h"
 #include "Quillon/Views/Window/NoHits.h"
 #include "Quillon/Views/Window/StatusLine.h"
 
@@ -85,6 +87,29 @@ class Window : public testing::LogStoreTest {
     CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<ContentView> window;
 };
+
+TEST_F(Window, TellsWhenAnotherProgramChangesTheFile) {
+    const QString path = folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=A"}));
+    show({path});
+    type(0, "CALL", "own");
+    folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=A", "CALL=others"}));
+    auto& strip = *window->findChild<NoticeStrip*>();
+    const auto press = [&](const char* text) {
+        window->findChild<FileNotices*>()->look();
+        EXPECT_EQ(testing::shownTexts(strip), "Ein anderes Programm hat „a.adi“ geändert.");
+        testing::shownButton(strip, QString::fromUtf8(text))->click();
+        EXPECT_TRUE(strip.isHidden());
+    };
+    press("Vergleichen");
+    EXPECT_EQ(store.mode(), AppMode::compare);
+    EXPECT_EQ(compare.rightDoc().records().size(), 2U);
+    folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=others"}));
+    press("Neu laden");
+    EXPECT_EQ(cell(0, "CALL"), "others");
+    folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=more"}));
+    press("Ersetzen");
+    EXPECT_NE(folder.read(QStringLiteral("a.adi")).find("others"), std::string::npos);
+}
 
 TEST_F(Window, OpensTheLogOfTheArgumentsOnce) {
     const QString path = folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=DL1ABC"}));
