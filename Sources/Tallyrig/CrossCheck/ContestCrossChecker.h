@@ -23,7 +23,7 @@ class ContestCrossChecker {
 
     /// A finding for each record of each log. The ids of the logs are all different; those of the records
     /// need not be, and a record that stands in several logs vouches for one QSO of a log at most. Cost:
-    /// some look-ups for each QSO, on all cores, and 40 bytes until it is done.
+    /// some look-ups for each QSO, on all cores, and 60 bytes until it is done.
     CrossCheckReport check(std::span<const CrossCheckLog> logs) const;
     /// The same as `work` has it; absent if that was cancelled.
     std::optional<CrossCheckReport> check(std::span<const CrossCheckLog> logs, LogWork& work) const;

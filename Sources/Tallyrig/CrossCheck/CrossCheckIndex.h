@@ -34,7 +34,7 @@ class CrossCheckIndex {
     static constexpr Number none = std::numeric_limits<Number>::max();
     struct QSO {
         std::int64_t minutes = noTime;
-        std::uint64_t received = 0;  ///< What says at once that a match is right (`ExchangeWord`).
+        std::uint64_t received = 0;  ///< What tells at once that a match is right (`exchangeWord`).
         const RecordStorage* record = nullptr;
         Number base = 0;   ///< The base call worked.
         Number place = 0;  ///< Band and mode category.
