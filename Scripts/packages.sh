@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that Quillon needs to be built, run and tested; with --format those for the shape of
-# the sources instead, with --fuzz those for fuzzing. Does nothing, and needs no rights, where all are there. With
-# --list first, only names them.
+# the sources instead, with --fuzz those for fuzzing, with --package what packing needs besides. Does nothing, and
+# needs no rights, where all are there. With --list first, only names them.
 #
-#     Scripts/packages.sh [--list] [--format | --fuzz]
+#     Scripts/packages.sh [--list] [--format | --fuzz | --package]
 set -euo pipefail
 
 onlyList=
@@ -18,6 +18,9 @@ case "${1:-}" in
 --fuzz)
     packages=(clang libclang-rt-14-dev cmake ninja-build ccache libicu-dev libexpat1-dev libfmt-dev libtbb-dev)
     ;;
+--package)
+    packages=(dpkg-dev file patchelf xz-utils)
+    ;;
 *)
     packages=(
         # Tools to build with.
@@ -30,6 +33,8 @@ case "${1:-}" in
         libqcustomplot-dev
         # Tests and benchmarks.
         libgtest-dev libbenchmark-dev python3-minimal
+        # What looks at menu entry, types of files and the description for software centres.
+        desktop-file-utils shared-mime-info appstream
         # A display for machines without one.
         xvfb xauth
     )
