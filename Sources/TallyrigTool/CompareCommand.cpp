@@ -1,4 +1,5 @@
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"
+#include "Quillon/Catalogue/ComparisonKey.h"
 #include "Quillon/Catalogue/ScoreWords.h"
 #include "Tallyrig/Analysis/ADIFComparator.h"
 #include "Tallyrig/Text/Text.h"
@@ -37,7 +38,7 @@ struct Options {
 /// "A,B" as names; empty ones are none.
 std::vector<std::string> keyFields(const Options& options) {
     if (!options.key) {
-        return ADIFComparator::usualKeyFields();
+        return quillon::usualComparisonKey();
     }
     std::vector<std::string> fields;
     for (const std::string_view piece : text::split(*options.key, ',')) {
@@ -98,7 +99,7 @@ class DifferenceList {
   public:
     DifferenceList(const ADIFComparison& result, const LogFile& leftLog, const LogFile& rightLog,
                    const std::vector<std::string>& keyFields)
-        : comparison(result), left(leftLog), right(rightLog), namedFields(ADIFComparator::usualKeyFields()) {
+        : comparison(result), left(leftLog), right(rightLog), namedFields(quillon::usualComparisonKey()) {
         for (const std::string& field : keyFields) {
             if (std::ranges::find(namedFields, field) == namedFields.end()) {
                 namedFields.push_back(field);

@@ -105,8 +105,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const std::string_view input(reinterpret_cast<const char*>(bytes), size);
     const ADIFDocument whole = ADIFParser::parse(input);
     const ADIFDocument half = ADIFParser::parse(input.substr(size / 2));
-    for (const ADIFComparator& comparator :
-         {ADIFComparator(ADIFComparator::usualKeyFields()), ADIFComparator({"BAND", "CALL"})}) {
+    for (const ADIFComparator& comparator : {ADIFComparator({"CALL", "QSO_DATE", "TIME_ON", "BAND", "MODE"}),
+                                             ADIFComparator({"BAND", "CALL"})}) {
         requireIsAsByTheRules(comparator, whole, half);
         requireIsAsByTheRules(comparator, half, whole);
         require(comparator.compare(whole, whole).differences().empty(), "a log is equal to itself");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Catalogue/ComparisonKey.h"
 #include "Quillon/Platform/Panels.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Stores/StoreState.h"
@@ -109,7 +110,7 @@ class CompareStore : public QObject {
     struct Observed {
         ComparedFile right;
         std::optional<ComparedFile> left;
-        std::vector<std::string> keyFields = {"CALL", "QSO_DATE", "TIME_ON", "BAND", "MODE"};
+        std::vector<std::string> keyFields = usualComparisonKey();
         std::optional<QString> errorMessage;
     };
     using Changes = StoreState<CompareStore, Observed>;

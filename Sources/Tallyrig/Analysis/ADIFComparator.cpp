@@ -207,10 +207,6 @@ ADIFComparator::ADIFComparator(const std::vector<std::string>& fields) {
                            [](const std::string& field) { return text::upper(field); });
 }
 
-std::vector<std::string> ADIFComparator::usualKeyFields() {
-    return {"CALL", "QSO_DATE", "TIME_ON", "BAND", "MODE"};
-}
-
 std::string ADIFComparator::key(const ADIFRecord& record) const {
     std::string result;
     for (const std::string& field : keyFields) {

@@ -29,10 +29,6 @@ class ADIFComparator {
     /// The names of the key fields, which are put in upper case.
     explicit ADIFComparator(const std::vector<std::string>& fields);
 
-    /// The key by which logs are compared as long as nobody says otherwise: `CALL`, `QSO_DATE`, `TIME_ON`,
-    /// `BAND`, `MODE`.
-    static std::vector<std::string> usualKeyFields();
-
     /// What the records of one key have in common, as text: the values of the key fields in upper case and
     /// without blanks and tabs around them, joined with U+001F.
     std::string key(const ADIFRecord& record) const;

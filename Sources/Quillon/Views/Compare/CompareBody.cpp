@@ -11,6 +11,8 @@
 #include "Quillon/Views/Grid/TableAccessibility.h"
 #include "Quillon/Views/Grid/TableScroll.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -187,6 +189,16 @@ void CompareBody::typeIntoFrame(const QString& text) {
     editCurrentCell();
     if (cellEditor->isOpen()) {
         cellEditor->insert(text);
+    }
+}
+
+void CompareBody::pasteIntoFrame() {
+    const QString text = QGuiApplication::clipboard()->text();
+    if (text.isEmpty()) {
+        // A picture, say; to type nothing would empty the cell.
+        emit noticed(QStringLiteral("In der Zwischenablage steht kein Text."));
+    } else {
+        typeIntoFrame(text);
     }
 }
 

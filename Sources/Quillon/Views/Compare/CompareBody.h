@@ -90,6 +90,7 @@ class CompareBody : public QWidget, public AccessibleTable {
     void press(CellPosition cell);
     bool handleKey(const QKeyEvent& event);
     void typeIntoFrame(const QString& text);
+    void pasteIntoFrame();
     void finishEditing(const QString& draft, InlineEditor::Leave leave);
     void placeEditor();
     void followLogs();

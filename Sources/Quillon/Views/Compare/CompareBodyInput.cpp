@@ -32,6 +32,11 @@ bool isStepInHistory(const QKeyEvent& event) {
            (event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier);
 }
 
+/// What a key of the window would do to the open log, who works at another file wants done to that.
+bool isAboutFile(const QKeyEvent& event) {
+    return isStepInHistory(event) || event.matches(QKeySequence::Save);
+}
+
 }  // namespace
 
 // The mouse.
@@ -115,7 +120,14 @@ bool CompareBody::handleKey(const QKeyEvent& event) {
         return true;
     }
     if (event.matches(QKeySequence::Paste)) {
-        typeIntoFrame(QGuiApplication::clipboard()->text());
+        pasteIntoFrame();
+        return true;
+    }
+    if (event.matches(QKeySequence::Save)) {
+        cellEditor->commit();
+        if (model.saveFile(shownSide)) {
+            emit noticed(QStringLiteral("„%1“ gespeichert").arg(model.sideName(shownSide)));
+        }
         return true;
     }
     if (isStepInHistory(event)) {
@@ -177,8 +189,7 @@ void CompareBody::focusOutEvent(QFocusEvent*) {
 bool CompareBody::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = *static_cast<QKeyEvent*>(event);
-        // A step in the history of the open log is not what who edits another file wants to take back.
-        if (isAboutCell(key) || (isStepInHistory(key) && !model.canUndo(shownSide))) {
+        if (isAboutCell(key) || (isAboutFile(key) && model.isFile(shownSide))) {
             event->accept();
             return true;
         }

@@ -94,6 +94,9 @@ QWidget* CompareView::comparisonPage() {
     column->addWidget(headerArea);
     tables = new CompareTable(*comparison, page);
     column->addWidget(tables, 1);
+    noDifferences = new EmptyState(QStringLiteral("dialog-ok"), QStringLiteral("Keine Unterschiede"),
+                                   QStringLiteral("Alle QSOs sind auf beiden Seiten gleich."), page);
+    column->addWidget(noDifferences, 1);
     column->addWidget(horizontalLine(page));
     column->addWidget(summaryBar());
     return page;
@@ -220,6 +223,9 @@ void CompareView::showComparison() {
     pages->setCurrentIndex(isEmpty ? 0 : 1);
     setFocusProxy(nullptr);
     setFocusPolicy(isEmpty ? Qt::TabFocus : Qt::NoFocus);
+    const bool hasRows = comparison->logs().rowCount() > 0;
+    tables->setVisible(hasRows);
+    noDifferences->setVisible(!hasRows);
     showHeaderDifferences();
     showCounts();
     if (!isEmpty && hasFocus()) {

@@ -70,6 +70,7 @@ class CompareView : public QWidget {
     QStackedLayout* pages;
     QWidget* headerArea = nullptr;  ///< Of the header differences.
     QScrollArea* headerScroll = nullptr;
+    QWidget* noDifferences = nullptr;  ///< In the place of the tables where nothing is left to show.
     QLabel* headerText = nullptr;
     std::array<QLabel*, 4> counts{};  ///< By status.
     QLabel* rowCount = nullptr;

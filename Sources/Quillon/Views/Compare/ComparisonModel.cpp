@@ -43,7 +43,10 @@ ComparisonModel::ComparisonModel(LogStore& logStore, CompareStore& compareStore,
     : QObject(parent), log(logStore), store(compareStore) {
     turn.setSingleShot(true);
     connect(&turn, &QTimer::timeout, this, &ComparisonModel::followAtEndOfTurn);
-    connect(&log, &LogStore::documentChanged, this, &ComparisonModel::followLater);
+    connect(&log, &LogStore::documentChanged, this, [this] {
+        hasLogChanged = true;
+        followLater();
+    });
     connect(&store, &CompareStore::leftFileChanged, this, &ComparisonModel::followLater);
     connect(&store, &CompareStore::rightDocChanged, this, &ComparisonModel::followLater);
     refreshGeometry();
@@ -67,9 +70,9 @@ void ComparisonModel::followAtEndOfTurn() {
     if (!isWatched || !isStale) {
         return;
     }
-    const bool isLeftOther = !compared.log(Side::left).isSameAs(store.leftDoc(log.document()));
+    const bool hasStepped = hasLogChanged && store.leftFile() == nullptr;
     follow();
-    if (isLeftOther && store.leftFile() == nullptr) {
+    if (hasStepped) {
         showLastStep();
     }
 }
@@ -77,6 +80,7 @@ void ComparisonModel::followAtEndOfTurn() {
 void ComparisonModel::follow() {
     turn.stop();
     isStale = false;
+    hasLogChanged = false;
     const tallyrig::ADIFDocument& left = store.leftDoc(log.document());
     if (left.records().size() + store.rightDoc().records().size() > longLogs) {
         showBusyCursorUntilIdle();
@@ -229,8 +233,21 @@ TextBinding ComparisonModel::binding(CellPosition cell, Side side) {
     return store.leftFile() != nullptr ? store.leftBinding(id, column) : log.cellBinding(id, column);
 }
 
-bool ComparisonModel::canUndo(Side side) const {
-    return side == Side::left && store.leftFile() == nullptr;
+bool ComparisonModel::isFile(Side side) const {
+    return side == Side::right ? store.hasRightFile() : store.leftFile() != nullptr;
+}
+
+bool ComparisonModel::saveFile(Side side) {
+    if (!isFile(side)) {
+        return false;
+    }
+    showBusyCursorUntilIdle();
+    if (side == Side::right) {
+        store.saveRight();
+        return !store.rightDirty() && !store.errorMessage();
+    }
+    store.saveLeftFile();
+    return !store.leftFile()->isDirty && !store.errorMessage();
 }
 
 // Words.

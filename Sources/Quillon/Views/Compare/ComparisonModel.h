@@ -73,8 +73,11 @@ class ComparisonModel : public QObject {
     bool isDiffering(CellPosition cell) const;
     /// Reads and writes the cell in the store that the side belongs to. The row has a record on this side.
     TextBinding binding(CellPosition cell, Side side);
-    /// Whether what is written on this side can be taken back.
-    bool canUndo(Side side) const;
+    /// Whether a loaded file stands on this side and not the open log, whose history and commands are not
+    /// about it.
+    bool isFile(Side side) const;
+    /// Saves the file of this side; false where that failed, was cancelled, or there is none.
+    bool saveFile(Side side);
 
     // Words.
     QString sideName(Side side) const;
@@ -118,6 +121,7 @@ class ComparisonModel : public QObject {
     QTimer turn;  ///< Runs out at the end of this turn of the event loop.
     bool isWatched = false;
     bool isStale = true;
+    bool hasLogChanged = false;  ///< The open log, since the logs were last compared.
 };
 
 }  // namespace quillon

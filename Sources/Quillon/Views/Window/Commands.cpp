@@ -95,14 +95,21 @@ std::vector<Command> makeCommands() {
          .title = QStringLiteral("&Rückgängig"),
          .iconName = QStringLiteral("edit-undo"),
          .shortcuts = {Qt::CTRL | Qt::Key_Z},
-         .run = [](ContentView& window) { window.table().undo(); },
+         // Elsewhere what is shown tells of the step by itself.
+         .run =
+             [](ContentView& window) {
+                 window.isTableShown() ? window.table().undo() : window.store().undo();
+             },
          .isEnabled = [](const ContentView& window) { return window.store().canUndo(); }},
         {.id = CommandID::redo,
          .menu = CommandMenu::edit,
          .title = QStringLiteral("&Wiederholen"),
          .iconName = QStringLiteral("edit-redo"),
          .shortcuts = {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
-         .run = [](ContentView& window) { window.table().redo(); },
+         .run =
+             [](ContentView& window) {
+                 window.isTableShown() ? window.table().redo() : window.store().redo();
+             },
          .isEnabled = [](const ContentView& window) { return window.store().canRedo(); }},
         {.id = CommandID::copy,
          .menu = CommandMenu::edit,

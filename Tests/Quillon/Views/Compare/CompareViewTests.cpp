@@ -226,6 +226,10 @@ TEST_F(Comparing, GoesFromDifferenceToDifference) {
     EXPECT_EQ(view->model().geometry().rowCount(), 2U);
     EXPECT_EQ(current(), "0/1") << "still the same QSO";
     EXPECT_TRUE(says("4 Zeilen"));
+    EXPECT_FALSE(says("Keine Unterschiede"));
+    compare.load(Side::left, *compare.rightURL());
+    QApplication::processEvents();
+    EXPECT_TRUE(says("Keine Unterschiede"));
 }
 
 TEST_F(Comparing, LeavesTheHistoryOfTheOpenLogAloneOnTheOtherSide) {
@@ -245,6 +249,34 @@ TEST_F(Comparing, LeavesTheHistoryOfTheOpenLogAloneOnTheOtherSide) {
     undo.ignore();
     QApplication::sendEvent(&side(Side::left), &undo);
     EXPECT_FALSE(undo.isAccepted()) << "there the window's command is what is wanted";
+}
+
+TEST_F(Comparing, SavesTheFileWhereTheKeyboardIs) {
+    openLog({"CALL=A RST=1"});
+    loadRight({"CALL=A RST=2"});
+    show();
+    click(Side::right, 0, 1);
+    typeText("3");
+    QKeyEvent saving(QEvent::ShortcutOverride, Qt::Key_S, Qt::ControlModifier);
+    saving.ignore();
+    QApplication::sendEvent(&side(Side::right), &saving);
+    EXPECT_TRUE(saving.isAccepted());
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(compare.rightDirty());
+    EXPECT_NE(folder.read(QStringLiteral("right.adi")).find("<RST:1>3"), std::string::npos);
+    saving.ignore();
+    QApplication::sendEvent(&side(Side::left), &saving);
+    EXPECT_FALSE(saving.isAccepted()) << "the window saves the open log";
+}
+
+TEST_F(Comparing, KeepsTheCellWhereThereIsNoTextToPaste) {
+    openLog({"CALL=A"});
+    show();
+    click(Side::left, 0, 0);
+    QApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));
+    press(Qt::Key_V, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(store.document().records()[0].valueOrEmpty("CALL"), "A");
 }
 
 TEST_F(Comparing, ScrollsBothSidesUpAndDownButEachToTheSides) {
