@@ -1,5 +1,6 @@
 #include "Quillon/Views/Controls/Icons.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -24,12 +25,17 @@ bool isPaletteDark() {
     return isDark(QGuiApplication::palette());
 }
 
-/// The file of a Breeze icon in one of its sizes; empty if the system has none.
+/// The file of a Breeze icon in one of its sizes: of those that came with the program, or of the system's.
+/// Empty if neither has it.
 QString breezeFile(const QString& theme, const QString& name, int sizePx) {
+    const QString ownData = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/");
     for (const char* group : {"actions", "devices", "status"}) {
-        const QString file = QStandardPaths::locate(
-            QStandardPaths::GenericDataLocation,
-            QStringLiteral("icons/%1/%2/%3/%4.svg").arg(theme, QLatin1String(group)).arg(sizePx).arg(name));
+        const QString drawing =
+            QStringLiteral("icons/%1/%2/%3/%4.svg").arg(theme, QLatin1String(group)).arg(sizePx).arg(name);
+        if (QFile::exists(ownData + drawing)) {
+            return ownData + drawing;
+        }
+        const QString file = QStandardPaths::locate(QStandardPaths::GenericDataLocation, drawing);
         if (!file.isEmpty()) {
             return file;
         }
