@@ -15,6 +15,7 @@
 #include "Tallyrig/Formats/CabrilloHeader.h"
 #include "Tallyrig/Formats/EDIHeader.h"
 #include "Tallyrig/Log/ADIFDocument.h"
+#include "Tallyrig/Log/ReadingReport.h"
 #include "Tallyrig/Log/UUID.h"
 #include "Tallyrig/Validation/ValidationIssue.h"
 
@@ -60,6 +61,9 @@ class LogStore : public QObject {
     /// What the log's file holds as far as the store knows: the log as it was last opened or saved. The empty
     /// log where it has no file, or was brought back.
     const tallyrig::ADIFDocument& savedDocument() const { return state.savedDocument; }
+    /// What the reader said of the file when the log was opened: empty for a log that was not. Its record
+    /// indices are those of the log as it was opened.
+    const tallyrig::ReadingReport& readingReport() const;
     /// What the user must be told; absent once it was.
     const std::optional<QString>& errorMessage() const { return state.errorMessage; }
     void setErrorMessage(std::optional<QString> message);
@@ -279,6 +283,8 @@ class LogStore : public QObject {
     void isDirtyChanged();
     /// The log was opened, begun, brought back or saved.
     void savedDocumentChanged();
+    /// A file was opened of which the reader had something to say, or the log at hand is no longer that one.
+    void readingReportChanged();
     void errorMessageChanged();
     void windowTitleChanged();
     /// `canUndo` or `canRedo` changed.
@@ -310,6 +316,7 @@ class LogStore : public QObject {
         std::optional<QString> fileURL;
         bool isDirty = false;
         tallyrig::ADIFDocument savedDocument;
+        std::shared_ptr<const tallyrig::ReadingReport> readingReport;  ///< Null if it is empty.
         std::optional<QString> errorMessage;
         AppMode mode = AppMode::check;
         std::shared_ptr<const CheckResults> checkResults;  ///< Never null.
@@ -334,7 +341,8 @@ class LogStore : public QObject {
 
     static std::span<const Changes::Property> observedProperties();
 
-    void showLog(tallyrig::ADIFDocument document, std::optional<QString> path);
+    void showLog(tallyrig::ADIFDocument document, std::optional<QString> path,
+                 tallyrig::ReadingReport report = {});
     void announceReplacing(const QString& path) const;
     /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs
     /// out.

@@ -13,7 +13,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <memory>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace quillon {
@@ -57,13 +59,20 @@ QString LogStore::Observed::windowTitle() const {
     return isDirty ? name + QStringLiteral(" — bearbeitet") : name;
 }
 
-void LogStore::showLog(ADIFDocument document, std::optional<QString> path) {
+void LogStore::showLog(ADIFDocument document, std::optional<QString> path, tallyrig::ReadingReport report) {
     state.document = std::move(document);
     state.fileURL = std::move(path);
     state.isDirty = false;
     state.savedDocument = state.document;
+    state.readingReport =
+        report.isEmpty() ? nullptr : std::make_shared<const tallyrig::ReadingReport>(std::move(report));
     state.columns.setNames(ColumnLayout::namesFor(state.document));
     clearCheckResults();
+}
+
+const tallyrig::ReadingReport& LogStore::readingReport() const {
+    static const tallyrig::ReadingReport empty;
+    return state.readingReport ? *state.readingReport : empty;
 }
 
 void LogStore::forgetEdits() {
@@ -90,7 +99,8 @@ void LogStore::open(const QString& path) {
                         isNameBroken ? "Der Name ist nicht in UTF-8 geschrieben." : error->message);
         return;
     }
-    showLog(tallyrig::LogReader::readWithoutReport(std::get<std::string>(content)).document, fullPath);
+    tallyrig::LogReader::Log log = tallyrig::LogReader::read(std::get<std::string>(content));
+    showLog(std::move(log.document), fullPath, std::move(log.report));
     autoFitColumns();
     forgetEdits();
 }

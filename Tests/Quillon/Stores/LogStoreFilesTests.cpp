@@ -44,6 +44,20 @@ TEST_F(OpeningLogs, EndsWhatBelongedToTheOldOneOnly) {
     EXPECT_EQ(told.sent(), "");
 }
 
+TEST_F(OpeningLogs, KeepsWhatTheReaderSaidOfTheFileForAsLongAsTheLog) {
+    store.open(folder.write("cut.adi", "<EOH><CALL:1>AB<EOR>"));
+    EXPECT_NE(told.sent().find("readingReport"), std::string::npos);
+    type(0, "CALL", "AB");
+    store.open(folder.path("missing.adi"));
+    store.save();
+    EXPECT_EQ(told.sent().find("readingReport"), std::string::npos);
+    ASSERT_EQ(store.readingReport().notes().size(), 1U);
+    EXPECT_EQ(store.readingReport().notes()[0].kind, tallyrig::ReadingKind::lengthTooShort);
+    store.newLog();
+    EXPECT_NE(told.sent().find("readingReport"), std::string::npos);
+    EXPECT_TRUE(store.readingReport().isEmpty());
+}
+
 TEST_F(CommandLine, OpensTheFirstPathThatIsThereAndTellsOfTheOthers) {
     const QString a = folder.write("a.adi", adi({"CALL=A"}));
     const QString b = folder.write("b.adi", adi({"CALL=B"}));
