@@ -3,6 +3,7 @@
 #include "TallyrigTool/Console.h"
 
 #include <functional>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -29,5 +30,7 @@ Command contestsCommand(CLI::App& program);
 Command rulesCommand(CLI::App& program);
 Command scoreCommand(CLI::App& program);
 Command crossCheckCommand(CLI::App& program);
+/// Several under one word.
+std::vector<Command> outdoorCommands(CLI::App& program);
 
 }  // namespace tallyrig::tool

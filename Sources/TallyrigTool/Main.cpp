@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <new>
 #include <string>
 #include <vector>
@@ -25,11 +26,12 @@ void print(const std::string& text) {
 ExitStatus run(int count, const char* const* arguments) {
     CLI::App program;
     describeProgram(program);
-    const std::vector<Command> commands = {
+    std::vector<Command> commands = {
         dumpCommand(program),     readCommand(program),    checkCommand(program),
         convertCommand(program),  compareCommand(program), statsCommand(program),
         distanceCommand(program), callCommand(program),    contestsCommand(program),
         rulesCommand(program),    scoreCommand(program),   crossCheckCommand(program)};
+    std::ranges::move(outdoorCommands(program), std::back_inserter(commands));
     try {
         parse(program, {arguments + 1, arguments + count});
     } catch (const CLI::CallForHelp&) {
@@ -43,7 +45,7 @@ ExitStatus run(int count, const char* const* arguments) {
     }
     const auto chosen =
         std::ranges::find_if(commands, [](const Command& command) { return command.usage->parsed(); });
-    if (chosen == commands.end() || !program.remaining().empty()) {
+    if (chosen == commands.end() || !program.remaining(true).empty()) {
         throw Failure{missingCommandMessage(program)};
     }
     Output output;

@@ -35,6 +35,7 @@ class GermanFormatter : public CLI::Formatter {
         label("Positionals", "Angaben");
         label("REQUIRED", "");
         label("TEXT", "");
+        label("SUBCOMMAND", "BEFEHL");
         column_width(24);
     }
 
@@ -91,7 +92,7 @@ std::string germanMessage(const CLI::ParseError& error) {
 /// The first argument that is meant as a short option, but is none; empty if there is no such argument.
 std::string wordLikeOption(const CLI::App& program) {
     for (const CLI::App* const command : program.get_subcommands()) {
-        for (const std::string& word : command->remaining()) {
+        for (const std::string& word : command->remaining(true)) {
             if (word.size() > 1 && word.starts_with('-') && !word.starts_with("--")) {
                 return word;
             }
@@ -101,9 +102,34 @@ std::string wordLikeOption(const CLI::App& program) {
 }
 
 std::string withHint(const std::string& message, const CLI::App& program) {
-    const std::vector<CLI::App*> chosen = program.get_subcommands();
-    return message + " (Hilfe: tallyrig " + (chosen.empty() ? "" : chosen.front()->get_name() + " ") +
-           "--help)";
+    std::string call = "tallyrig ";
+    for (auto chosen = program.get_subcommands(); !chosen.empty();
+         chosen = chosen.front()->get_subcommands()) {
+        call += chosen.front()->get_name() + " ";
+    }
+    return message + " (Hilfe: " + call + "--help)";
+}
+
+/// Lets the options of all commands give their values without the guard.
+void removeGuards(CLI::App& program) {
+    for (CLI::App* const command : program.get_subcommands({})) {
+        for (CLI::Option* const option : command->get_options()) {
+            option->transform(CLI::Validator(
+                [](std::string& value) {
+                    value = withoutGuard(value);
+                    return std::string();
+                },
+                ""));
+        }
+        removeGuards(*command);
+    }
+}
+
+/// At most one command, so that a file may be called as a command is. Words that are none are looked at by
+/// `missingCommandMessage`.
+void letCommandsFollow(CLI::App& program) {
+    program.require_subcommand(0, 1);
+    program.allow_extras();
 }
 
 }  // namespace
@@ -115,11 +141,7 @@ void describeProgram(CLI::App& program) {
     program.option_defaults()->group("Optionen");
     program.set_help_flag("-h,--help", "Zeigt diese Hilfe")->group("Optionen");
     program.set_version_flag("--version", "", "Zeigt die Version")->group("Optionen");
-    // At most one command, so that a file may be called as a command is. Words that are none are looked at by
-    // `missingCommandMessage`.
-    program.require_subcommand(0, 1);
-    program.allow_extras();
-
+    letCommandsFollow(program);
     program.formatter(std::make_shared<GermanFormatter>());
 }
 
@@ -132,6 +154,13 @@ CLI::App& addCommand(CLI::App& program, const std::string& name, const std::stri
     return command;
 }
 
+CLI::App& addCommandGroup(CLI::App& program, const std::string& name, const std::string& does,
+                          const std::string& example) {
+    CLI::App& group = addCommand(program, name, does, example);
+    letCommandsFollow(group);
+    return group;
+}
+
 void parse(CLI::App& program, std::vector<std::string> arguments) {
     const auto mark = std::ranges::find(arguments, "--");
     std::transform(arguments.begin(), mark, arguments.begin(), withGuard);
@@ -140,16 +169,7 @@ void parse(CLI::App& program, std::vector<std::string> arguments) {
         std::for_each(arguments.erase(mark), arguments.end(),
                       [](std::string& name) { name.insert(name.begin(), guard); });
     }
-    for (CLI::App* const command : program.get_subcommands({})) {
-        for (CLI::Option* const option : command->get_options()) {
-            option->transform(CLI::Validator(
-                [](std::string& value) {
-                    value = withoutGuard(value);
-                    return std::string();
-                },
-                ""));
-        }
-    }
+    removeGuards(program);
     // The parser takes them from the end.
     std::ranges::reverse(arguments);
     program.parse(std::move(arguments));
@@ -164,7 +184,7 @@ std::string usageMessage(const CLI::App& program, const CLI::ParseError& error) 
 }
 
 std::string missingCommandMessage(const CLI::App& program) {
-    const std::vector<std::string> words = program.remaining();
+    const std::vector<std::string> words = program.remaining(true);
     return withHint(
         words.empty() ? "Es fehlt der Befehl" : "Unbekannter Befehl: " + withoutGuard(words.front()),
         program);

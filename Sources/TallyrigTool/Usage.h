@@ -13,9 +13,13 @@ namespace tallyrig::tool {
 /// Sets up the program itself: its help in German, for the commands added later too, and its version.
 void describeProgram(CLI::App& program);
 
-/// Adds a command with its help: what it does, and an example of its use.
+/// Adds a command to the program, or to a group of commands, with its help: what it does, and an example of
+/// its use.
 CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& does,
                      const std::string& example);
+/// Adds a word to the program that commands stand behind, with its help.
+CLI::App& addCommandGroup(CLI::App& program, const std::string& name, const std::string& does,
+                          const std::string& example);
 
 /// Parses the program's `arguments`, its name left out. All options are set up before. Throws what the parser
 /// throws.

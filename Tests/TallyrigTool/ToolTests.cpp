@@ -306,8 +306,9 @@ using Help = Tool;
 
 TEST_F(Help, ShowsExamplesThatRun) {
     std::size_t examples = 0;
-    for (const std::string page : {"", "dump ", "read ", "check ", "convert ", "compare ", "stats ",
-                                   "distance ", "call ", "contests ", "rules ", "score "}) {
+    for (const std::string page :
+         {"", "dump ", "read ", "check ", "convert ", "compare ", "stats ", "distance ", "call ", "contests ",
+          "rules ", "score ", "outdoor ", "outdoor check ", "outdoor export "}) {
         for (const std::string& line : linesOf(run("tallyrig " + page + "--help").output)) {
             if (line.starts_with("  tallyrig ")) {
                 ++examples;
@@ -315,7 +316,7 @@ TEST_F(Help, ShowsExamplesThatRun) {
             }
         }
     }
-    EXPECT_EQ(examples, 15);
+    EXPECT_EQ(examples, 18);
     EXPECT_EQ(run("tallyrig --version").output, "tallyrig " TOOL_VERSION "\n");
 }
 
@@ -342,7 +343,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 19);
+    EXPECT_EQ(commands, 22);
 }
 
 }  // namespace

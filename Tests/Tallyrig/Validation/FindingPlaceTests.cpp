@@ -17,6 +17,7 @@ TEST(FindingPlace, IsTheFieldThatHoldsWhatWasFound) {
         {finding::InvalidDate{"QSO_DATE", "edited since"}, "QSO_DATE", 3},
         {finding::Duplicate{{"CALL", "BAND"}, {2}}, "CALL", 0},
         {finding::MissingRequiredField{"MODE"}, "MODE", std::nullopt},
+        {finding::OutdoorMissingField{"POTA", "STATION_CALLSIGN/OPERATOR"}, "STATION_CALLSIGN", std::nullopt},
     };
     for (const auto& [kind, field, position] : cases) {
         EXPECT_EQ(placeOf(kind, qso).field, field) << nameOf(kind);

@@ -1,10 +1,10 @@
 #include "Quillon/Platform/Files/ReportFolder.h"
 
 #include "Quillon/Platform/Files/SystemError.h"
+#include "Quillon/Platform/Files/UniqueNames.h"
 #include "Tallyrig/Adjudication/CrossCheckReportWriter.h"
 #include "Tallyrig/CrossCheck/LogWork.h"
 #include "Tallyrig/Text/Characters.h"
-#include "Tallyrig/Text/Text.h"
 
 #include <sys/stat.h>
 
@@ -13,7 +13,6 @@
 #include <filesystem>
 #include <mutex>
 #include <system_error>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -47,13 +46,10 @@ std::variant<std::string, FileError> createFolder(const std::string& parent, con
 /// The names of the reports without extension, each another one.
 std::vector<std::string> namesOf(const std::vector<tallyrig::CrossCheckEntry>& ranking) {
     std::vector<std::string> names;
-    std::unordered_map<std::string, std::size_t> counts;
+    UniqueNames unique;
     for (const tallyrig::CrossCheckEntry& entry : ranking) {
         const std::string whole = tallyrig::CrossCheckReportWriter::fileName(entry.owner);
-        std::string name(tallyrig::text::beginning(whole, longestName));
-        // Some file systems take the two spellings of a letter for one.
-        const std::size_t count = ++counts[tallyrig::text::canonicalKey(name)];
-        names.push_back(count == 1 ? std::move(name) : name + ' ' + std::to_string(count));
+        names.push_back(unique.next(tallyrig::text::beginning(whole, longestName)));
     }
     return names;
 }
