@@ -2,7 +2,6 @@
 // tolerance, and the frame behind a filter, a selection or a step of the wheel.
 
 #include "GeneratedContest.h"
-#include "Quillon/Platform/FileManager.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
@@ -27,11 +26,6 @@ namespace quillon {
 namespace {
 
 using tallyrig::benchmarks::inTurns;
-
-class NoFileManager : public FileManager {
-  public:
-    void show(const QString&) override {}
-};
 
 /// The pane with the result of so many logs.
 class EvaluatedContest {
@@ -71,7 +65,7 @@ class EvaluatedContest {
     NoPanels panels;
     FixedWidths measurer;
     NoFileManager files;
-    LogStore log{settings, panels, measurer};
+    LogStore log{settings, panels, measurer, files};
     ContestStore contest;
     CrossCheckStore store{panels, files};
     CrossCheckRunner runner{log, contest, store};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Platform/FileManager.h"
 #include "Quillon/Platform/Panels.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
@@ -32,6 +33,12 @@ class NoPanels : public Panels {
     std::optional<QString> folderToWriteTo(const QString&, const QString&) override { return std::nullopt; }
 };
 
+class NoFileManager : public FileManager {
+  public:
+    void show(const QString&) override {}
+    void select(const QStringList&) override {}
+};
+
 class FixedWidths : public TextMeasurer {
   public:
     double width(MeasuredFont, std::string_view text) const override {
@@ -43,7 +50,7 @@ class FixedWidths : public TextMeasurer {
 /// A store with a log of `count` QSOs in it.
 class OpenLog {
   public:
-    explicit OpenLog(std::size_t count) : store(settings, panels, measurer) {
+    explicit OpenLog(std::size_t count) : store(settings, panels, measurer, fileManager) {
         const QString path = folder.filePath(QStringLiteral("log.adi"));
         QFile file(path);
         if (file.open(QIODevice::WriteOnly)) {
@@ -61,6 +68,7 @@ class OpenLog {
     NoSettings settings;
     NoPanels panels;
     FixedWidths measurer;
+    NoFileManager fileManager;
     LogStore store;
 };
 

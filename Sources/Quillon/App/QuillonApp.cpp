@@ -34,7 +34,7 @@ void setUp(QApplication& application, QTranslator& translator) {
 
 QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
     : settings(userSettings()),
-      logStore(*settings, panels, measurer),
+      logStore(*settings, panels, measurer, fileManager),
       compareStore(*settings, panels),
       crossCheckStore(panels, fileManager) {
     setUp(application, translator);

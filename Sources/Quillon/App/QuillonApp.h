@@ -43,10 +43,10 @@ class QuillonApp {
     std::unique_ptr<Settings> settings;
     DesktopPanels panels;
     FontMeasurer measurer;
+    DesktopFileManager fileManager;
     LogStore logStore;
     CompareStore compareStore;
     ContestStore contestStore;
-    DesktopFileManager fileManager;
     CrossCheckStore crossCheckStore;
     std::unique_ptr<LogKeeper> keeper;
     std::unique_ptr<ContentView> contentView;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace quillon {
 
@@ -14,6 +15,9 @@ class FileManager {
 
     /// Shows what lies in the folder. Nothing happens where there is no such program.
     virtual void show(const QString& folder) = 0;
+    /// Shows these files, one or more in one folder, as the selected ones in it; where the program cannot, or
+    /// they are very many, it shows the folder.
+    virtual void select(const QStringList& paths) = 0;
 };
 
 }  // namespace quillon

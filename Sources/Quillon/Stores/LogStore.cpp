@@ -62,14 +62,20 @@ std::span<const LogStore::Changes::Property> LogStore::observedProperties() {
                           &LogStore::showCabrilloExportChanged},
         Changes::Property{Changes::differ<&Observed::showEDIExport>, &LogStore::showEDIExportChanged},
         Changes::Property{Changes::differ<&Observed::bulkEditColumn>, &LogStore::bulkEditColumnChanged},
+        Changes::Property{Changes::differ<&Observed::outdoorProgram>, &LogStore::outdoorProgramChanged},
+        Changes::Property{Changes::differ<&Observed::sotaRole>, &LogStore::sotaRoleChanged},
         Changes::Property{Changes::differ<&Observed::errorMessage>, &LogStore::errorMessageChanged},
     };
     return properties;
 }
 
 LogStore::LogStore(Settings& userSettings, Panels& userPanels, const TextMeasurer& textMeasurer,
-                   QObject* parent)
-    : QObject(parent), settings(userSettings), panels(userPanels), measurer(textMeasurer) {
+                   FileManager& fileManager, QObject* parent)
+    : QObject(parent),
+      settings(userSettings),
+      panels(userPanels),
+      measurer(textMeasurer),
+      files(fileManager) {
     state.checkResults = std::make_shared<const CheckResults>();
     state.columns.setNames(ColumnLayout::namesFor(state.document));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quillon/Platform/FileManager.h"
 #include "Quillon/Platform/Panels.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
@@ -17,6 +18,8 @@
 #include "Tallyrig/Log/ADIFDocument.h"
 #include "Tallyrig/Log/ReadingReport.h"
 #include "Tallyrig/Log/UUID.h"
+#include "Tallyrig/Outdoor/OutdoorProgram.h"
+#include "Tallyrig/Outdoor/SOTARole.h"
 #include "Tallyrig/Validation/ValidationIssue.h"
 
 #include <QObject>
@@ -48,9 +51,9 @@ class LogStore : public QObject {
     using Columns = ColumnLayout::Names;
     using Selection = RowSelection::IDs;
 
-    /// The three outlive the store.
+    /// The four outlive the store.
     LogStore(Settings& userSettings, Panels& userPanels, const TextMeasurer& textMeasurer,
-             QObject* parent = nullptr);
+             FileManager& fileManager, QObject* parent = nullptr);
 
     // The log and its file.
     const tallyrig::ADIFDocument& document() const { return state.document; }
@@ -251,6 +254,9 @@ class LogStore : public QObject {
     void setMode(AppMode mode);
     /// Checks the log as the user set it up and shows the findings.
     void runCheck();
+    /// Checks whether the log is fit for `outdoorProgram` and shows the findings in their place. The user's
+    /// settings do not count here.
+    void runOutdoorCheck();
     /// The findings of the last check, by record and errors first. Good until the next check, or until they
     /// are forgotten.
     const std::vector<tallyrig::ValidationIssue>& validationIssues() const {
@@ -271,6 +277,17 @@ class LogStore : public QObject {
     std::size_t warningCount() const { return state.checkResults->warningCount(); }
     bool showCheckResults() const { return state.showCheckResults; }
     void setShowCheckResults(bool show);
+
+    // Programs for operating outdoors. What is chosen lasts for the run.
+    tallyrig::OutdoorProgram outdoorProgram() const { return state.outdoorProgram; }
+    void setOutdoorProgram(tallyrig::OutdoorProgram program);
+    /// Counts for SOTA only.
+    tallyrig::SOTARole sotaRole() const { return state.sotaRole; }
+    void setSotaRole(tallyrig::SOTARole role);
+    /// Writes the files for the program into a folder that the user names, replacing those that are there
+    /// under their names, and shows them. `errorMessage` tells what a log without any lacks, and why a file
+    /// could not be written; those before it stay.
+    void exportOutdoor();
 
     /// The column that the bulk edit sheet is open for.
     const std::optional<std::string>& bulkEditColumn() const { return state.bulkEditColumn; }
@@ -305,6 +322,10 @@ class LogStore : public QObject {
     void showCabrilloExportChanged();
     void showEDIExportChanged();
     void bulkEditColumnChanged();
+    void outdoorProgramChanged();
+    void sotaRoleChanged();
+    /// So many files for an outdoor program were written into `folder`.
+    void outdoorExported(std::size_t files, const QString& folder);
     /// The log was written to `path` because the user exported it there. As ADI or ADX text that is its own
     /// file by now.
     void exported(const QString& path);
@@ -326,6 +347,8 @@ class LogStore : public QObject {
         bool showCabrilloExport = false;
         bool showEDIExport = false;
         std::optional<std::string> bulkEditColumn;
+        tallyrig::OutdoorProgram outdoorProgram = tallyrig::OutdoorProgram::pota;
+        tallyrig::SOTARole sotaRole = tallyrig::SOTARole::activator;
         std::uint64_t selectionRevision = 0;
         bool canUndo = false;
         bool canRedo = false;
@@ -369,11 +392,13 @@ class LogStore : public QObject {
     void noteSelection();
     RowsOnScreen rowsOnScreen() const { return rows.displayed(state.document.records(), state.order); }
 
+    void showIssues(std::vector<tallyrig::ValidationIssue> issues);
     void clearCheckResults();
 
     Settings& settings;
     Panels& panels;
     const TextMeasurer& measurer;
+    FileManager& files;
     std::function<void(const QString& path)> keepFormer;
     Observed state;
     Changes changes{*this, state, observedProperties()};

@@ -2,13 +2,17 @@
 #include "Quillon/Stores/ValidationSettings.h"
 
 #include <memory>
+#include <utility>
 
 namespace quillon {
 
 void LogStore::runCheck() {
+    showIssues(validatorFor(settings).issues(state.document));
+}
+
+void LogStore::showIssues(std::vector<tallyrig::ValidationIssue> issues) {
     const Operation operation(*this);
-    auto results = std::make_shared<const CheckResults>(state.document.records(),
-                                                        validatorFor(settings).issues(state.document));
+    auto results = std::make_shared<const CheckResults>(state.document.records(), std::move(issues));
     if (!results->issues().empty() || !state.checkResults->issues().empty()) {
         state.checkResults = std::move(results);
     }

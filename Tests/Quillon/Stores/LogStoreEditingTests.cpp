@@ -160,7 +160,7 @@ TEST_F(EditingALog, KeepsASortByTheColumnThatIsRenamedAndNotByOneRemoved) {
 }
 
 TEST_F(EditingALog, IsBoundForLongerThanRecordAndStoreMayLast) {
-    auto other = std::make_unique<LogStore>(settings, panels, measurer);
+    auto other = std::make_unique<LogStore>(settings, panels, measurer, fileManager);
     other->addRecord();
     const UUID record = other->document().records()[0].id();
     const TextBinding bindings[] = {other->cellBinding(record, "CALL"), other->fieldBinding(record, 0)};

@@ -76,7 +76,7 @@ TEST_F(CommandLine, OpensTheFirstPathThatIsThereAndTellsOfTheOthers) {
         {{none}, "", failed + "„n\uFFFDnf.adi“: Der Name ist nicht in UTF-8 geschrieben."},
     };
     for (const auto& [arguments, opened, message] : cases) {
-        LogStore other(settings, panels, measurer);
+        LogStore other(settings, panels, measurer, fileManager);
         other.openFromCommandLineIfNeeded(arguments);
         const auto& records = other.document().records();
         EXPECT_EQ(records.empty() ? "" : records[0].valueOrEmpty("CALL"), opened) << message;

@@ -71,7 +71,8 @@ class LogStoreTest : public ::testing::Test {
     MemorySettings settings;
     ScriptedPanels panels;
     FixedMeasurer measurer;
-    LogStore store{settings, panels, measurer};
+    NotingFileManager fileManager;
+    LogStore store{settings, panels, measurer, fileManager};
     SignalCounter told{store};
 };
 

@@ -62,6 +62,7 @@ class ScriptedPanels : public Panels {
 class NotingFileManager : public FileManager {
   public:
     void show(const QString& folder) override { shown.append(folder); }
+    void select(const QStringList& paths) override { shown += paths; }
 
     QStringList shown;
 };

@@ -8,6 +8,7 @@ namespace quillon {
 class DesktopFileManager : public FileManager {
   public:
     void show(const QString& folder) override;
+    void select(const QStringList& paths) override;
 };
 
 }  // namespace quillon

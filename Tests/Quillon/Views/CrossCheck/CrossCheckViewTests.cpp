@@ -78,7 +78,6 @@ class CrossChecking : public testing::LogStoreTest {
         return view->findChild<FindingList*>()->model()->index(row, 0).data().toString().toStdString();
     }
 
-    testing::NotingFileManager fileManager;
     ContestStore contest;
     CrossCheckStore cross{panels, fileManager};
     CrossCheckRunner runner{store, contest, cross};

@@ -43,7 +43,6 @@ class Commands : public LogStoreTest {
 
     CompareStore compare{settings, panels};
     ContestStore contest;
-    testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
     ContentView window{AppStores{store, compare, contest, cross}, settings, {}};
 };

@@ -83,7 +83,6 @@ class Window : public testing::LogStoreTest {
 
     CompareStore compare{settings, panels};
     ContestStore contest;
-    testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<ContentView> window;
 };

@@ -50,7 +50,6 @@ class KeptLogNotices : public testing::LogStoreTest {
 
     CompareStore compare{settings, panels};
     ContestStore contest;
-    testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
     QWidget window;
     std::unique_ptr<NoticeStrip> strip;
