@@ -1,14 +1,19 @@
-// Comparing two logs and counting the values of one, beside reading them from memory ("readings": of both
-// logs for a comparison).
+// Comparing two logs, counting the values of one, and checking and exporting it for an outdoor program,
+// beside reading them from memory ("readings": of both logs for a comparison).
 
 #include "Tallyrig/Analysis/ADIFComparator.h"
 #include "Tallyrig/Analysis/ADIFStatistics.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFWriter.h"
+#include "Tallyrig/Outdoor/OutdoorCheck.h"
+#include "Tallyrig/Outdoor/OutdoorExporter.h"
+#include "Tallyrig/Outdoor/SOTACSVExporter.h"
+#include "Tallyrig/Validation/ADIFValidator.h"
 #include "Timing.h"
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -157,6 +162,87 @@ void countingManyCountries(benchmark::State& state) {
 BENCHMARK(countingManyCountries)
     ->Args({100'000, 50'000})
     ->Args({1'000'000, 50'000})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// A log of an operator outdoors, who changes between so many parks, or summits, from QSO to QSO.
+std::string outdoorLog(std::size_t count, std::size_t places) {
+    std::size_t number = 0;
+    ADIFDocument log = ADIFParser::parse(logOf(count));
+    log.records().transform([&](const ADIFRecord& record) -> std::optional<ADIFRecord> {
+        ADIFRecord other = record;
+        const std::string place = std::to_string(number++ % places);
+        other.set("MY_SIG", "POTA");
+        other.set("MY_SIG_INFO",
+                  "DE-" + std::string(5 - std::min<std::size_t>(place.size(), 5), '0') + place);
+        other.set("MY_SOTA_REF", "DM/BW-" + place);
+        return other;
+    });
+    return ADIFWriter{"Quillon", "1", "3.1.7", true}.write(log);
+}
+
+/// Beside it stands what the check of the log itself takes, duplicates included.
+void checkingForParks(benchmark::State& state) {
+    const std::string text =
+        outdoorLog(static_cast<std::size_t>(state.range(0)), static_cast<std::size_t>(state.range(1)));
+    const ADIFDocument log = ADIFParser::parse(text);
+    const auto read = [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); };
+    inTurns(
+        state, "readings",
+        [&] { benchmark::DoNotOptimize(outdoorIssues(log, OutdoorProgram::pota, SOTARole::activator)); },
+        read);
+    const ADIFValidator plain(ADIFValidator::usualRequiredFields(), {"CALL", "BAND", "MODE"}, true, true,
+                              true, true);
+    const auto check = [&] { benchmark::DoNotOptimize(plain.issues(log)); };
+    double bestCheck = secondsOf(check);
+    double bestReading = secondsOf(read);
+    for (int turn = 0; turn < 4; ++turn) {
+        bestCheck = std::min(bestCheck, secondsOf(check));
+        bestReading = std::min(bestReading, secondsOf(read));
+    }
+    state.counters["plainCheckReadings"] = bestCheck / bestReading;
+    state.counters["findings"] =
+        static_cast<double>(outdoorIssues(log, OutdoorProgram::pota, SOTARole::activator).size());
+}
+BENCHMARK(checkingForParks)
+    ->Args({100'000, 1})
+    ->Args({100'000, 1'000})
+    ->Args({1'000'000, 1'000'000})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+void reportExport(benchmark::State& state, const auto& filesOf) {
+    const std::string text =
+        outdoorLog(static_cast<std::size_t>(state.range(0)), static_cast<std::size_t>(state.range(1)));
+    const ADIFDocument log = ADIFParser::parse(text);
+    const auto makeAll = [&] {
+        const OutdoorExportFiles files = filesOf(log);
+        for (std::size_t file = 0; file < files.size(); ++file) {
+            benchmark::DoNotOptimize(files[file]);
+        }
+    };
+    inTurns(state, "readings", makeAll, [&] { benchmark::DoNotOptimize(ADIFParser::parse(text)); });
+    state.counters["files"] = static_cast<double>(filesOf(log).size());
+}
+
+void exportingParks(benchmark::State& state) {
+    reportExport(state, [](const ADIFDocument& log) {
+        return OutdoorExporter{OutdoorProgram::pota, "Quillon", "1", "3.1.7"}.files(log);
+    });
+}
+void exportingSummits(benchmark::State& state) {
+    reportExport(state,
+                 [](const ADIFDocument& log) { return SOTACSVExporter{SOTARole::activator}.files(log); });
+}
+BENCHMARK(exportingParks)
+    ->Args({100'000, 1})
+    ->Args({100'000, 100'000})
+    ->Args({1'000'000, 1'000'000})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(exportingSummits)
+    ->Args({100'000, 1})
+    ->Args({1'000'000, 1'000'000})
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
