@@ -12,7 +12,7 @@ Scripts/build.sh release Quillon
 folder=/var/tmp/Logbuch
 mkdir -p Docs/pictures "$folder"
 cp -r Examples/befunde.adi Examples/jahreslog.adi Examples/maerzcontest.adi Examples/crosscheck \
-    Examples/vereinsabend*.adi "$folder"
+    Examples/unterwegs.adi Examples/vereinsabend*.adi "$folder"
 trap 'rm -r "$folder"' EXIT
 
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/befunde.adi" \
@@ -25,3 +25,5 @@ QT_QPA_PLATFORM=offscreen build/release/bin/Quillon --crosscheck "$folder/crossc
     --grab Docs/pictures/crosscheck.png --grab-size 1280x800 --grab-contest darcUKW
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/vereinsabend.adi" \
     --grab Docs/pictures/compare.png --grab-size 1280x640 --grab-compare "$folder/vereinsabend-abschrift.adi"
+QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/unterwegs.adi" \
+    --grab Docs/pictures/outdoor.png --grab-size 1280x800 --grab-outdoor POTA --grab-select 4

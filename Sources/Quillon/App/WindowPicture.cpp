@@ -38,6 +38,13 @@ std::optional<AppMode> modeFrom(const QString& text) {
     return mode != allAppModes.end() ? std::optional(*mode) : std::nullopt;
 }
 
+std::optional<tallyrig::OutdoorProgram> programFrom(const QString& name) {
+    const auto* const found =
+        std::ranges::find(tallyrig::outdoorPrograms, name.toStdString(),
+                          [](tallyrig::OutdoorProgram program) { return rawValue(program); });
+    return found == tallyrig::outdoorPrograms.end() ? std::nullopt : std::optional(*found);
+}
+
 QPalette darkPalette() {
     const QColor ground(0x2a, 0x2e, 0x32);
     const QColor text(0xfc, 0xfc, 0xfc);
@@ -64,6 +71,7 @@ std::optional<WindowPicture> WindowPicture::takenFrom(QStringList& arguments) {
     picture.comparedFile = takeValue(arguments, QStringLiteral("--grab-compare"));
     picture.contest = contestNamed(takeValue(arguments, QStringLiteral("--grab-contest")).toStdString());
     picture.mode = modeFrom(takeValue(arguments, QStringLiteral("--grab-mode")));
+    picture.outdoorProgram = programFrom(takeValue(arguments, QStringLiteral("--grab-outdoor")));
     picture.size = sizeFrom(takeValue(arguments, QStringLiteral("--grab-size")));
     if (const uint number = takeValue(arguments, QStringLiteral("--grab-select")).toUInt(); number > 0) {
         picture.selectedRecord = number - 1;
@@ -84,6 +92,11 @@ void WindowPicture::takeOf(QuillonApp& app) const {
     QObject::connect(&app.window(), &ContentView::cameUp, &app.window(), [picture = *this, &app] {
         if (picture.withCheck) {
             app.store().runCheck();
+        }
+        if (picture.outdoorProgram) {
+            app.store().setMode(AppMode::outdoor);
+            app.store().setOutdoorProgram(*picture.outdoorProgram);
+            app.store().runOutdoorCheck();
         }
         if (picture.selectedRecord) {
             app.store().selectRecord(*picture.selectedRecord);

@@ -2,6 +2,7 @@
 
 #include "Quillon/Catalogue/Contests.h"
 #include "Quillon/Stores/AppMode.h"
+#include "Tallyrig/Outdoor/OutdoorProgram.h"
 
 #include <QSize>
 #include <QString>
@@ -23,6 +24,7 @@ class QuillonApp;
 ///     --grab-compare F    compared with the file F
 ///     --grab-contest C    with the score by the contest of this raw value
 ///     --grab-mode M       in this mode, such as "stats"
+///     --grab-outdoor P    with the results of the check for this outdoor program
 ///     --grab-size WxH     with a window of this size in logical pixels
 ///     --grab-dark         with a dark palette
 ///
@@ -34,6 +36,7 @@ struct WindowPicture {
     QString comparedFile;                       ///< Null for none.
     std::optional<Contest> contest;
     std::optional<AppMode> mode;
+    std::optional<tallyrig::OutdoorProgram> outdoorProgram;
     std::optional<QSize> size;
     bool isDark = false;
 

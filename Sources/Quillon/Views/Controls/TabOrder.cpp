@@ -37,7 +37,8 @@ void putIntoTabOrder(QWidget& before, const QWidget& container) {
         const bool isPart = last->focusProxy() != nullptr && last->isAncestorOf(control);
         const QWidget* const proxy = control->focusProxy();
         const bool isStop = proxy == nullptr || control->isAncestorOf(proxy);
-        if (isHere && isStop && !isPart && (control->focusPolicy() & Qt::TabFocus) != 0) {
+        // Of choices that exclude each other only one is met at a time, but each of them may become that one.
+        if (isHere && isStop && !isPart && control->focusPolicy() != Qt::NoFocus) {
             QWidget::setTabOrder(last, control);
             last = control;
         }

@@ -4,23 +4,29 @@
 
 namespace quillon {
 
-TileLayout::TileLayout(QWidget* parent) : ItemLayout(parent) {
+TileLayout::TileLayout(QWidget* parent, TileRows tileRows) : ItemLayout(parent), rows(tileRows) {
     setSpacing(12);
 }
 
-int TileLayout::columns(int count, int width, int leastWidth, int gap) {
+int TileLayout::columns(int count, int width, int leastWidth, int gap, TileRows rows) {
     int inRow = std::max(count, 1);
-    while (inRow > 1 && (count % inRow != 0 || inRow * leastWidth + (inRow - 1) * gap > width)) {
+    while (inRow > 1 && ((rows == TileRows::even && count % inRow != 0) ||
+                         inRow * leastWidth + (inRow - 1) * gap > width)) {
         --inRow;
     }
-    return inRow;
+    const int rowCount = (count + inRow - 1) / inRow;
+    return rowCount == 0 ? inRow : (count + rowCount - 1) / rowCount;
+}
+
+int TileLayout::columnsIn(int width) const {
+    return columns(count(), width, minimumSize().width(), spacing(), rows);
 }
 
 int TileLayout::heightForWidth(int width) const {
-    const int inRow = columns(count(), width, minimumSize().width(), spacing());
-    const int rows = (count() + inRow - 1) / inRow;
+    const int inRow = columnsIn(width);
+    const int rowCount = (count() + inRow - 1) / inRow;
     const int tileWidth = (width - (inRow - 1) * spacing()) / inRow;
-    return rows * rowHeight(tileWidth) + std::max(rows - 1, 0) * spacing();
+    return rowCount * rowHeight(tileWidth) + std::max(rowCount - 1, 0) * spacing();
 }
 
 QSize TileLayout::sizeHint() const {
@@ -34,7 +40,7 @@ QSize TileLayout::minimumSize() const {
 
 void TileLayout::setGeometry(const QRect& area) {
     QLayout::setGeometry(area);
-    const int inRow = columns(count(), area.width(), minimumSize().width(), spacing());
+    const int inRow = columnsIn(area.width());
     const int height = rowHeight((area.width() - (inRow - 1) * spacing()) / inRow);
     // The pixels that cannot be shared out go to some of the tiles, so that the last ends where the row does.
     const auto leftOf = [&](int column) { return column * (area.width() + spacing()) / inRow; };

@@ -10,6 +10,7 @@
 #include "Quillon/Views/Sidebar/CompareSections.h"
 #include "Quillon/Views/Sidebar/ContestSections.h"
 #include "Quillon/Views/Sidebar/CrossCheckSections.h"
+#include "Quillon/Views/Sidebar/OutdoorSections.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -32,7 +33,8 @@ std::vector<OfferedMode> offeredModes() {
     return {{AppMode::check, QStringLiteral("Prüfen")},
             {AppMode::compare, QStringLiteral("Vergleichen")},
             {AppMode::stats, QStringLiteral("Statistik")},
-            {AppMode::contest, QStringLiteral("Contest")}};
+            {AppMode::contest, QStringLiteral("Contest")},
+            {AppMode::outdoor, QStringLiteral("Outdoor")}};
 }
 
 }  // namespace
@@ -102,6 +104,8 @@ void SidebarPane::showMode() {
             widget());
     } else if (stores.log.mode() == AppMode::contest) {
         sections = contestSections();
+    } else if (stores.log.mode() == AppMode::outdoor) {
+        sections = new OutdoorSections(stores.log, widget());
     }
     if (sections != nullptr) {
         column->insertWidget(1, sections);

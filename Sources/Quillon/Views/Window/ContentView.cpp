@@ -221,6 +221,12 @@ void ContentView::followStore() {
         statusLine->showNotice(qsoCount(log.document().records().size()) + QStringLiteral(" nach „") +
                                QFileInfo(path).fileName() + QStringLiteral("“ exportiert"));
     });
+    connect(&log, &LogStore::outdoorExported, this, [this](std::size_t files, const QString& folder) {
+        statusLine->showNotice(
+            QStringLiteral("%1 nach „%2“ exportiert")
+                .arg(files == 1 ? QStringLiteral("1 Datei") : numberText(files) + QStringLiteral(" Dateien"),
+                     QFileInfo(folder).fileName()));
+    });
     showTitle();
 }
 

@@ -18,6 +18,17 @@ TEST(Tiles, StandInRowsOfEquallyMany) {
     EXPECT_EQ(columns(0, 500), 1);
 }
 
+TEST(Tiles, StandInAsFewRowsAsThereCanBe) {
+    const auto columns = [](int count, int width) {
+        return TileLayout::columns(count, width, 100, 10, TileRows::fewest);
+    };
+    EXPECT_EQ(columns(7, 760), 7);
+    EXPECT_EQ(columns(7, 759), 4) << "not six and one";
+    EXPECT_EQ(columns(7, 319), 2);
+    EXPECT_EQ(columns(7, 10), 1);
+    EXPECT_EQ(columns(0, 10), 1);
+}
+
 TEST(Tiles, AreAllOfOneSize) {
     QWidget area;
     auto* layout = new TileLayout(&area);

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTableView>
@@ -52,7 +53,6 @@ class Sidebar : public testing::LogStoreTest {
 
     CompareStore compare{settings, panels};
     ContestStore contest;
-    testing::NotingFileManager fileManager;
     CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<SidebarPane> pane;
 };
@@ -382,6 +382,75 @@ TEST_F(Sidebar, LoadsAndSavesTheSidesOfAComparison) {
     panels.answers = {path};
     named<QPushButton>("Rechts laden").click();
     EXPECT_TRUE(named<QPushButton>("Rechts speichern").isEnabled());
+}
+
+class OutdoorSidebar : public Sidebar {
+  protected:
+    void showOutdoor() {
+        store.setMode(AppMode::outdoor);
+        show();
+        pane->show();
+    }
+    /// The choices at which Tab stops.
+    std::string stops() const {
+        std::string texts;
+        for (const QRadioButton* choice : pane->findChildren<QRadioButton*>()) {
+            if (testing::isShown(*choice, *pane) && (choice->focusPolicy() & Qt::TabFocus) != 0) {
+                texts += choice->text().toStdString() + (choice->isChecked() ? "! " : " ");
+            }
+        }
+        return texts;
+    }
+};
+
+TEST_F(OutdoorSidebar, TakesTheProgramByMouseAndByArrowKeys) {
+    showOutdoor();
+    EXPECT_EQ(stops(), "POTA! ");
+    QApplication::setActiveWindow(pane.get());
+    button("POTA").setFocus();
+    std::string met;
+    for (std::size_t step = 1; step < tallyrig::outdoorPrograms.size(); ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+        met += std::string(rawValue(store.outdoorProgram())) + ' ';
+    }
+    EXPECT_EQ(met, "SOTA BOTA WWFF LLOTA WCA GMA ");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+    EXPECT_EQ(stops(), "WCA! ");
+    QTest::mouseClick(&button("SOTA"), Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(stops(), "SOTA! Activator! ");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &button("Activator"));
+    button("Chaser").click();
+    EXPECT_EQ(store.sotaRole(), tallyrig::SOTARole::chaser);
+    store.setOutdoorProgram(tallyrig::OutdoorProgram::gma);
+    EXPECT_EQ(stops(), "GMA! ") << "whoever chose it";
+}
+
+TEST_F(OutdoorSidebar, SaysWhatTheProgramAsksFor) {
+    showOutdoor();
+    const auto says = [&](const char* text) {
+        EXPECT_NE(testing::shownTexts(*pane).find(text), std::string::npos) << testing::shownTexts(*pane);
+    };
+    says("(z. B. K-1234) wird, falls vorhanden");
+    says("Eine Datei pro Referenz (<Call>@<Ref> Datum.adi).");
+    EXPECT_TRUE(button("POTA-ADIF exportieren …").isEnabled());
+    store.setOutdoorProgram(tallyrig::OutdoorProgram::sota);
+    says("Jäger: QSOs mit SOTA_REF");
+    says("Datei <Call>@<Gipfel> Datum.csv.");
+    store.setSotaRole(tallyrig::SOTARole::chaser);
+    says("Datei <Call> chaser Datum.csv.");
+}
+
+TEST_F(OutdoorSidebar, ChecksAndExportsForTheProgram) {
+    showOutdoor();
+    EXPECT_FALSE(button("Konformität prüfen").isEnabled());
+    openLog({"CALL=DL1ABC MY_SOTA_REF=DM/BW-001"});
+    store.setOutdoorProgram(tallyrig::OutdoorProgram::sota);
+    button("Konformität prüfen").click();
+    EXPECT_EQ(store.errorCount(), 5U);
+    panels.answers = {folder.path(".")};
+    button("SOTA-CSV exportieren …").click();
+    EXPECT_TRUE(folder.read("UNKNOWN@DM_BW-001 .csv").starts_with("V2,UNKNOWN,DM/BW-001,"));
 }
 
 }  // namespace
