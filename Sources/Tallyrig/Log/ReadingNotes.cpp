@@ -37,8 +37,11 @@ std::size_t lineEnds(std::string_view text, const char* next) {
         const std::size_t end = std::min(begin + mostInByte, text.size());
         std::uint8_t ends = 0;
         for (std::size_t at = begin; at < end; ++at) {
-            const bool isEnd = (text[at] == '\n') | ((text[at] == '\r') & (next[at] != '\n'));
-            ends = static_cast<std::uint8_t>(ends + isEnd);
+            // Without branches, so that many bytes are looked at at once.
+            const int isFeed = text[at] == '\n' ? 1 : 0;
+            const int isReturn = text[at] == '\r' ? 1 : 0;
+            const int isPair = next[at] == '\n' ? 1 : 0;
+            ends = static_cast<std::uint8_t>(ends + (isFeed | (isReturn & ~isPair)));
         }
         count += ends;
     }
