@@ -93,8 +93,18 @@ bool TableScroll::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void TableScroll::wheelEvent(QWheelEvent* event) {
-    const bool sideways = std::abs(event->angleDelta().x()) > std::abs(event->angleDelta().y());
-    QApplication::sendEvent(sideways ? horizontal : vertical, event);
+    const QPoint turn = event->angleDelta();
+    if (std::abs(turn.x()) > std::abs(turn.y())) {
+        QApplication::sendEvent(horizontal, event);
+    } else if (event->modifiers().testFlag(Qt::ShiftModifier)) {
+        // A bar takes the shift key for a wish to go by pages.
+        QWheelEvent sideways(event->position(), event->globalPosition(), event->pixelDelta().transposed(),
+                             turn.transposed(), event->buttons(), event->modifiers() & ~Qt::ShiftModifier,
+                             event->phase(), event->inverted(), event->source());
+        QApplication::sendEvent(horizontal, &sideways);
+    } else {
+        QApplication::sendEvent(vertical, event);
+    }
 }
 
 void TableScroll::fitBars() {

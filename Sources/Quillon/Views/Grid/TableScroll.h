@@ -9,7 +9,8 @@ namespace quillon {
 
 /// The scroll container of the table: a header that follows the horizontal position only, the body under it,
 /// on their left a ruler that follows the vertical one only, and both scroll bars, always shown. The body is
-/// a viewport: it stays where it is and paints the part that is scrolled to.
+/// a viewport: it stays where it is and paints the part that is scrolled to. The wheel goes up and down, with
+/// the shift key to the sides.
 ///
 /// All values are logical pixels. Changes smaller than 0.5 are not reported, so that jitter repaints nothing.
 class TableScroll : public QWidget {
