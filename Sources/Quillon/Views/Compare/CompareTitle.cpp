@@ -8,6 +8,8 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 namespace quillon {
 
 CompareTitle::CompareTitle(const LogStore& logStore, const CompareStore& compareStore,
@@ -57,6 +59,30 @@ void CompareTitle::refresh() {
     };
     show(left, Side::left, true, store.leftFile() != nullptr ? store.leftFile()->isDirty : log.isDirty());
     show(right, Side::right, store.hasRightFile(), store.rightDirty());
+    shareRoom();
+}
+
+/// A layout takes the same from each name where there is not room for both: of a short one nothing would be
+/// left.
+void CompareTitle::shareRoom() {
+    int named = 0;
+    for (const QLabel* name : {left.name, right.name}) {
+        named += name->sizeHint().width();
+    }
+    for (QLabel* name : {left.name, right.name}) {
+        name->setMaximumWidth(QWIDGETSIZE_MAX);
+    }
+    const int room = width() - (layout()->sizeHint().width() - named);
+    const auto share = [room](const QLabel& name, const QLabel& other) {
+        return std::max({name.minimumSizeHint().width(), room / 2, room - other.sizeHint().width()});
+    };
+    left.name->setMaximumWidth(share(*left.name, *right.name));
+    right.name->setMaximumWidth(share(*right.name, *left.name));
+}
+
+void CompareTitle::resizeEvent(QResizeEvent* event) {
+    shareRoom();
+    QWidget::resizeEvent(event);
 }
 
 }  // namespace quillon

@@ -21,6 +21,9 @@ class CompareTitle : public QWidget {
     CompareTitle(const LogStore& logStore, const CompareStore& compareStore,
                  const ComparisonModel& comparisonModel, QWidget* parent = nullptr);
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     struct SideLabels {
         QLabel* name;
@@ -30,6 +33,7 @@ class CompareTitle : public QWidget {
 
     SideLabels addSide();
     void refresh();
+    void shareRoom();
 
     const LogStore& log;
     const CompareStore& store;
