@@ -19,7 +19,7 @@
 namespace quillon {
 
 ChartCard::ChartCard(ChartPainter* painter, QWidget* parent)
-    : Card(QString(), parent), nothing(noteLabel(QStringLiteral("Im Log steht dazu nichts."), this)) {
+    : Card(QString(), parent), nothing(noteLabel(QString(), this)) {
     content().addWidget(nothing);
     if (painter != nullptr) {
         buildChart(*painter);
@@ -54,6 +54,7 @@ void ChartCard::setData(ChartData chartData) {
     data = std::make_shared<const ChartData>(std::move(chartData));
     const bool isEmpty = data->entries.empty();
     setHeading(data->title);
+    nothing->setText(data->nothing);
     nothing->setVisible(isEmpty);
     if (bars != nullptr) {
         bars->setData(data);

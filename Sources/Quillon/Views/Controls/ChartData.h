@@ -40,6 +40,8 @@ struct ChartData {
     std::size_t mostBars = std::numeric_limits<std::size_t>::max();
     /// The colour for a label; without it, all bars have one.
     std::function<PaletteColor(std::string_view)> color;
+    /// What stands in the place of a chart without entries.
+    QString nothing = QStringLiteral("Im Log steht dazu nichts.");
 
     std::size_t barCount() const;
     /// The highest of all that has a bar, 0 if there is none.

@@ -51,7 +51,8 @@ ChartData StatisticsCharts::days(const Buckets& byDay) {
                     .labelAxis = QStringLiteral("Tag"),
                     .countAxis = QStringLiteral("QSOs"),
                     .entries = {},
-                    .color = {}};
+                    .color = {},
+                    .nothing = QStringLiteral("Kein Datum im Log ist ein Tag des Kalenders.")};
     chart.entries.reserve(byDay.size());
     for (const auto& bucket : byDay) {
         if (const auto day = StatisticsWords::dayOf(bucket.label)) {

@@ -64,6 +64,10 @@ TEST_F(Statistics, LeaveOutWhatTheLogDoesNotTell) {
     EXPECT_EQ(texts(),
               "1\nQSOs\n1\nRufzeichen\n1\nBand\n0\nModi\nQSOs pro Band\nQSOs pro Modus\n"
               "Im Log steht dazu nichts.");
+    openLog({"QSO_DATE=20240231"});
+    QApplication::processEvents();
+    EXPECT_NE(texts().find("Verlauf pro Tag\nKein Datum im Log ist ein Tag des Kalenders."),
+              std::string::npos);
 }
 
 TEST_F(Statistics, ShowFifteenCountriesAndTheNumbersOfAll) {
