@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QString>
+#include <QTextEdit>
 #include <QWidget>
 
 #include <stdexcept>
@@ -16,12 +17,18 @@ inline bool isShown(const QWidget& child, const QWidget& inside) {
     return child.isVisibleTo(&inside);
 }
 
-/// The texts of the labels that are shown, in the order in which they were made, with a line break between.
+/// The texts of the labels and of the longer texts that are shown, in the order in which they were made, with
+/// a line break between.
 inline std::string shownTexts(const QWidget& inside) {
     std::string texts;
-    for (const QLabel* label : inside.findChildren<QLabel*>()) {
-        if (isShown(*label, inside) && !label->text().isEmpty()) {
-            texts += (texts.empty() ? "" : "\n") + label->text().toStdString();
+    for (const QWidget* child : inside.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(child);
+        const auto* longer = qobject_cast<const QTextEdit*>(child);
+        const QString text = label != nullptr    ? label->text()
+                             : longer != nullptr ? longer->toPlainText()
+                                                 : QString();
+        if (isShown(*child, inside) && !text.isEmpty()) {
+            texts += (texts.empty() ? "" : "\n") + text.toStdString();
         }
     }
     return texts;

@@ -10,17 +10,20 @@
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
+#include "Tallyrig/Text/Text.h"
 #include "Tallyrig/Text/VisibleText.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QStackedLayout>
+#include <QTextEdit>
 #include <QToolButton>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quillon {
 
@@ -43,8 +46,14 @@ QString shown(std::string_view text) {
     return toQString(tallyrig::text::visibleText(cutToShow(text, longestHeaderValue)));
 }
 
+/// In quotation marks where nothing else would show that there is white space, or nothing, in the field.
 QString shown(const std::optional<std::string>& value) {
-    return value ? shown(std::string_view(*value)) : QStringLiteral("—");
+    if (!value) {
+        return QStringLiteral("—");
+    }
+    const QString text = shown(std::string_view(*value));
+    const bool isPlain = !value->empty() && tallyrig::text::trimmed(*value) == *value;
+    return isPlain ? text : QStringLiteral("„%1“").arg(text);
 }
 
 }  // namespace
@@ -104,28 +113,27 @@ QWidget* CompareView::comparisonPage() {
 
 QWidget* CompareView::headerBar() {
     auto* bar = new QWidget(this);
-    headerScroll = new QScrollArea(bar);
-    headerScroll->setFrameShape(QFrame::NoFrame);
-    headerScroll->setWidgetResizable(true);
-    headerScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    headerScroll->setAccessibleName(QStringLiteral("Header-Unterschiede"));
-    auto* content = new QWidget(headerScroll);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(12, 6, 12, 6);
+    auto* column = new QVBoxLayout(bar);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
-    column->addWidget(headingLabel(QStringLiteral("Header-Unterschiede"), content));
-    headerText = new QLabel(content);
-    headerText->setTextFormat(Qt::PlainText);
-    headerText->setWordWrap(true);
-    makeCopyable(*headerText);
-    column->addWidget(headerText);
-    column->addStretch(1);
-    headerScroll->setWidget(content);
-    auto* barColumn = new QVBoxLayout(bar);
-    barColumn->setContentsMargins(0, 0, 0, 0);
-    barColumn->setSpacing(0);
-    barColumn->addWidget(headerScroll);
-    barColumn->addWidget(horizontalLine(bar));
+    auto* heading = headingLabel(QStringLiteral("Header-Unterschiede"), bar);
+    heading->setContentsMargins(12, 6, 12, 0);
+    column->addWidget(heading);
+    headerText = new QTextEdit(bar);
+    headerText->setAccessibleName(heading->text());
+    headerText->setReadOnly(true);
+    headerText->setTabChangesFocus(true);
+    headerText->setFrameShape(QFrame::NoFrame);
+    headerText->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    headerText->viewport()->setAutoFillBackground(false);
+    headerText->document()->setDocumentMargin(0);
+    connect(headerText->document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+            &CompareView::fitHeaderBar);
+    auto* indented = new QHBoxLayout;
+    indented->setContentsMargins(12, 0, 0, 6);
+    indented->addWidget(headerText);
+    column->addLayout(indented);
+    column->addWidget(horizontalLine(bar));
     return bar;
 }
 
@@ -257,21 +265,17 @@ void CompareView::showHeaderDifferences() {
                          .arg(shown(std::string_view(difference.field)), shown(difference.left),
                               shown(difference.right)));
     }
-    headerText->setText(lines.join(QLatin1Char('\n')));
+    headerText->setPlainText(lines.join(QLatin1Char('\n')));
     headerArea->setVisible(!differences.empty());
     fitHeaderBar();
 }
 
 /// It leaves the tables most of the height, and can be scrolled by the keyboard where it does not show all.
 void CompareView::fitHeaderBar() {
-    const QLayout& content = *headerScroll->widget()->layout();
-    const int all = content.totalHeightForWidth(headerScroll->viewport()->width());
-    if (all < 0) {
-        return;
-    }
-    const int most = std::max(height() / 5, 3 * fontMetrics().lineSpacing());
-    headerScroll->setFixedHeight(std::min(all, most));
-    headerScroll->setFocusPolicy(all > most ? Qt::TabFocus : Qt::NoFocus);
+    const int all = static_cast<int>(std::ceil(headerText->document()->size().height()));
+    const int most = std::max(height() / 5 - fontMetrics().lineSpacing(), 2 * fontMetrics().lineSpacing());
+    headerText->setFixedHeight(std::min(all, most));
+    headerText->setFocusPolicy(all > most ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void CompareView::resizeEvent(QResizeEvent* event) {

@@ -8,8 +8,8 @@
 
 class QCheckBox;
 class QLabel;
-class QScrollArea;
 class QStackedLayout;
+class QTextEdit;
 class QToolButton;
 
 namespace quillon {
@@ -69,10 +69,9 @@ class CompareView : public QWidget {
     CompareTable* tables = nullptr;
     QStackedLayout* pages;
     QWidget* headerArea = nullptr;  ///< Of the header differences.
-    QScrollArea* headerScroll = nullptr;
+    QTextEdit* headerText = nullptr;
     QWidget* noDifferences = nullptr;  ///< In the place of the tables where nothing is left to show.
-    QLabel* headerText = nullptr;
-    std::array<QLabel*, 4> counts{};  ///< By status.
+    std::array<QLabel*, 4> counts{};   ///< By status.
     QLabel* rowCount = nullptr;
     QCheckBox* differencesOnly = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "Quillon/Views/Compare/CompareBody.h"
 #include "Quillon/Views/Compare/CompareHeader.h"
 #include "Quillon/Views/Compare/CompareTable.h"
+#include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Grid/TableScroll.h"
 
 #include <gtest/gtest.h>
@@ -15,9 +16,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontMetricsF>
-#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextEdit>
 #include <QWheelEvent>
 
 #include <memory>
@@ -299,7 +300,12 @@ TEST_F(Comparing, ScrollsBothSidesUpAndDownButEachToTheSides) {
     const auto built = side(Side::left).builtRows();
     EXPECT_EQ(built.last, 500U);
     EXPECT_LE(built.last - built.first, static_cast<std::size_t>(side(Side::left).height()) / 24 + 10);
-    left.setScrollX(100);
+    const double down = left.scrollY();
+    QWheelEvent withShift(QPointF(10, 10), QPointF(10, 10), {}, QPoint(0, -120), Qt::NoButton,
+                          Qt::ShiftModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&left, &withShift);
+    EXPECT_GT(left.scrollX(), 0);
+    EXPECT_EQ(left.scrollY(), down);
     EXPECT_EQ(right.scrollX(), 0);
     EXPECT_NEAR(side(Side::left).width(), side(Side::right).width(), 1);
 }
@@ -354,13 +360,33 @@ TEST_F(Comparing, LeavesTheTablesMostOfTheHeight) {
     }
     compare.load(Side::right, folder.write("right.adi", header + "<EOH><CALL:1>A<EOR>"));
     show();
-    auto& list = testing::namedChild<QScrollArea>(*view, "Header-Unterschiede");
+    auto& list = testing::namedChild<QTextEdit>(*view, "Header-Unterschiede");
     EXPECT_LT(list.height(), view->height() / 4);
-    EXPECT_EQ(list.focusPolicy(), Qt::TabFocus) << "to be scrolled by keyboard";
+    EXPECT_EQ(list.focusPolicy(), Qt::StrongFocus) << "to be scrolled by keyboard";
     EXPECT_TRUE(says("FIELD199: —  →  1\nund 100 weitere"));
     compare.load(Side::right, folder.write("few.adi", "x<FIELD:1>1<EOH><CALL:1>A<EOR>"));
     QApplication::processEvents();
-    EXPECT_EQ(list.focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(list.focusPolicy(), Qt::ClickFocus);
+    const int oneLine = list.height();
+    compare.load(Side::right, folder.write("wide.adi", "x<FIELD:190>" + std::string(190, 'x') +
+                                                           "<S:2>a <EOH><CALL:1>A<EOR>"));
+    QApplication::processEvents();
+    EXPECT_GE(list.height(), 3 * oneLine) << "a word that is wider than the pane goes on in the next line";
+    EXPECT_TRUE(says("S: —  →  „a “")) << "white space that nobody would see";
+}
+
+TEST_F(Comparing, CutsTheLongerNameFirst) {
+    openLog({"CALL=A"});
+    compare.load(Side::right, folder.write(QString(150, QLatin1Char('w')) + QStringLiteral(".adi"), ""));
+    show();
+    QList<QLabel*> names;
+    for (QLabel* name : view->findChildren<ElidedLabel*>()) {
+        names.append(name);
+    }
+    ASSERT_EQ(names.size(), 2);
+    EXPECT_GE(names[0]->width(), names[0]->sizeHint().width()) << names[0]->text().toStdString();
+    EXPECT_LT(names[1]->width(), names[1]->sizeHint().width());
+    EXPECT_GT(names[1]->width(), view->width() / 2);
 }
 
 TEST_F(Comparing, TellsAssistiveTechnologyOfEachRow) {
