@@ -62,7 +62,7 @@ TEST_F(Outdoor, SaysWhatStandsInTheWay) {
     EXPECT_EQ(portable.status, 2);
     EXPECT_EQ(portable.complaint,
               "tallyrig: .: „DL9X/P@HB-1 20240501.adi“: Der Name einer Datei darf weder „/“ noch „..“ noch "
-              "einen Zeilenumbruch enthalten.\n");
+              "Steuerzeichen enthalten.\n");
     const std::pair<std::string, std::string> calls[] = {
         {"outdoor", "Es fehlt der Befehl (Hilfe: tallyrig outdoor --help)"},
         {"outdoor zeige", "Unbekannter Befehl: zeige (Hilfe: tallyrig outdoor --help)"},

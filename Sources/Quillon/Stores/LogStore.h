@@ -36,6 +36,10 @@
 #include <string_view>
 #include <vector>
 
+namespace tallyrig {
+class OutdoorExportFiles;
+}
+
 namespace quillon {
 
 /// The one log that is open, the file behind it, and all state of the table, the undo history and the check
@@ -367,6 +371,7 @@ class LogStore : public QObject {
     void showLog(tallyrig::ADIFDocument document, std::optional<QString> path,
                  tallyrig::ReadingReport report = {});
     void announceReplacing(const QString& path) const;
+    void keepOpenFileIn(const QString& folder, const tallyrig::OutdoorExportFiles& wanted) const;
     /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs
     /// out.
     void forgetEdits();

@@ -5,6 +5,9 @@
 #include "Tallyrig/Outdoor/OutdoorCheck.h"
 #include "Tallyrig/Text/VisibleText.h"
 
+#include <QFileInfo>
+
+#include <optional>
 #include <string>
 
 namespace quillon {
@@ -23,6 +26,21 @@ void LogStore::runOutdoorCheck() {
     showIssues(tallyrig::outdoorIssues(state.document, state.outdoorProgram, state.sotaRole));
 }
 
+/// The open log may come from an export before, and that file is about to be replaced. Copies of all files of
+/// an export, which the log gives again, would crowd out what the user may want back.
+void LogStore::keepOpenFileIn(const QString& folder, const tallyrig::OutdoorExportFiles& wanted) const {
+    if (!state.fileURL ||
+        QFileInfo(*state.fileURL).canonicalPath() != QFileInfo(folder).canonicalFilePath()) {
+        return;
+    }
+    const std::string openName = QFileInfo(*state.fileURL).fileName().toStdString();
+    exportOutdoorFiles(wanted, std::nullopt, [&](const tallyrig::OutdoorExportFile& file) {
+        if (file.filename == openName) {
+            announceReplacing(*state.fileURL);
+        }
+    });
+}
+
 void LogStore::exportOutdoor() {
     const tallyrig::OutdoorExportFiles wanted =
         outdoorFiles(state.document, state.outdoorProgram, state.sotaRole);
@@ -38,6 +56,7 @@ void LogStore::exportOutdoor() {
         return;
     }
     const QString folder = absolutePath(*chosen);
+    keepOpenFileIn(folder, wanted);
     QStringList paths;
     const auto error =
         exportOutdoorFiles(wanted, folder.toStdString(), [&](const tallyrig::OutdoorExportFile& file) {

@@ -1,5 +1,7 @@
 #include "Quillon/Support/LogStoreFixture.h"
 
+#include <QFileInfo>
+
 #include <string>
 
 namespace quillon {
@@ -73,6 +75,18 @@ TEST_F(Outdoors, AreExportedIntoTheChosenFolderAndShown) {
               "V2,DL9X,DM/BW-001,01/05/2024,1200,14MHz,CW,DL1ABC,,\r\n");
 }
 
+TEST_F(Outdoors, KeepTheOpenFileWhereAnExportReplacesIt) {
+    const std::string text = testing::adi({contact + "MY_SIG_INFO=DL-0001,DL-0002"});
+    const QString open = folder.write(QStringLiteral("DL9X@DL-0002 20240501.adi"), text);
+    folder.write(QStringLiteral("DL9X@DL-0001 20240501.adi"), text);
+    store.open(open);
+    std::string kept;
+    store.beforeReplacing([&](const QString& path) { kept += folder.read(QFileInfo(path).fileName()); });
+    panels.answers = {folder.path(".")};
+    store.exportOutdoor();
+    EXPECT_EQ(kept, text);
+}
+
 TEST_F(Outdoors, TellUnderOneNameWhyAnExportFailed) {
     openLog({contact + "MY_SIG_INFO=DLFF-0001,DLFF-\n", contact + "MY_SIG_INFO=DLFF-0002"});
     store.setOutdoorProgram(OutdoorProgram::wwff);
@@ -81,7 +95,7 @@ TEST_F(Outdoors, TellUnderOneNameWhyAnExportFailed) {
     store.exportOutdoor();
     EXPECT_EQ(error(),
               "POTA-Export fehlgeschlagen:\n„DL9X@DLFF-⏎ 20240501.adi“: Der Name einer Datei darf weder „/“ "
-              "noch „..“ noch einen Zeilenumbruch enthalten.");
+              "noch „..“ noch Steuerzeichen enthalten.");
     EXPECT_EQ(told.sent(), "errorMessage");
     EXPECT_EQ(folder.names(), "DL9X@DLFF-0001 20240501.adi log.adi");
     EXPECT_TRUE(fileManager.shown.isEmpty());

@@ -11,17 +11,33 @@ namespace quillon {
 
 namespace {
 
+/// Whether there is a line break or another control character, of ASCII or beyond.
+bool hasControls(std::string_view name) {
+    for (std::size_t at = 0; at < name.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(name[at]);
+        const auto next = static_cast<unsigned char>(at + 1 < name.size() ? name[at + 1] : 0);
+        // U+0080 to U+009F, the next line among them, stand behind 0xC2.
+        if (byte < 0x20 || byte == 0x7F || (byte == 0xC2 && next < 0xA0)) {
+            return true;
+        }
+    }
+    constexpr std::string_view lineSeparator = "\u2028";
+    constexpr std::string_view paragraphSeparator = "\u2029";
+    return name.find(lineSeparator) != std::string_view::npos ||
+           name.find(paragraphSeparator) != std::string_view::npos;
+}
+
 /// Whether the name is that of a file right in its folder, on one line.
 bool isFileName(std::string_view name) {
-    return name.find_first_of(std::string_view("/\0\n\r", 4)) == std::string_view::npos &&
-           !tallyrig::text::contains(name, "..");
+    return name.find('/') == std::string_view::npos && !tallyrig::text::contains(name, "..") &&
+           !hasControls(name);
 }
 
 std::optional<FileError> write(const tallyrig::OutdoorExportFile& file, const std::string& folder) {
     const auto error =
         isFileName(file.filename)
             ? replaceFile(folder + '/' + file.filename, file.content, Lasting::later)
-            : FileError{"Der Name einer Datei darf weder „/“ noch „..“ noch einen Zeilenumbruch enthalten."};
+            : FileError{"Der Name einer Datei darf weder „/“ noch „..“ noch Steuerzeichen enthalten."};
     if (!error) {
         return std::nullopt;
     }

@@ -51,11 +51,12 @@ TEST_F(OutdoorExport, ReplacesWhatIsThereButNotItsOwnFiles) {
 
 TEST_F(OutdoorExport, EndsAtANameThatLeadsElsewhere) {
     const std::string reason =
-        "“: Der Name einer Datei darf weder „/“ noch „..“ noch einen Zeilenumbruch enthalten.";
+        "“: Der Name einer Datei darf weder „/“ noch „..“ noch Steuerzeichen enthalten.";
     folder.write("DL1ABC", "");
     for (const std::string& name :
          {std::string("DL1ABC/P@X .adi"), std::string("/tmp/x.adi"), std::string("..@X .adi"),
-          std::string("\0.adi", 5), std::string("\r.adi"), std::string("A\nB.adi")}) {
+          std::string("\0.adi", 5), std::string("\r.adi"), std::string("A\nB.adi"), std::string("A\vB.adi"),
+          std::string("A\u0085.adi"), std::string("A\u2028B.adi")}) {
         EXPECT_EQ(write({"first.adi", name, "last.adi"}), "„" + name + reason);
         EXPECT_EQ(visited, "first.adi|");
         EXPECT_EQ(folder.names(), "DL1ABC first.adi");
