@@ -4,9 +4,11 @@
 #include "Quillon/Views/Controls/TileLayout.h"
 
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <cstddef>
 
 namespace quillon {
@@ -74,10 +76,43 @@ ChoiceRow::ChoiceRow(const QStringList& labels, int current, QWidget* parent) : 
         auto* const choice = new Choice(label, this);
         const int index = static_cast<int>(choices.size());
         connect(choice, &QRadioButton::clicked, this, [this, index] { emit chosen(index); });
+        choice->installEventFilter(this);
         row->addWidget(choice);
         choices.push_back(choice);
     }
     setCurrent(current);
+}
+
+/// Radio buttons by themselves go by where they lie, and find no way from one row to the next.
+bool ChoiceRow::eventFilter(QObject* watched, QEvent* event) {
+    const auto at = std::ranges::find(choices, watched);
+    if (event->type() != QEvent::KeyPress || at == choices.end()) {
+        return QWidget::eventFilter(watched, event);
+    }
+    auto next = at;
+    switch (static_cast<const QKeyEvent*>(event)->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            next = at == choices.begin() ? at : at - 1;
+            break;
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            next = at + 1 == choices.end() ? at : at + 1;
+            break;
+        case Qt::Key_Home:
+            next = choices.begin();
+            break;
+        case Qt::Key_End:
+            next = choices.end() - 1;
+            break;
+        default:
+            return QWidget::eventFilter(watched, event);
+    }
+    if (next != at) {
+        (*next)->setFocus(Qt::OtherFocusReason);
+        (*next)->click();
+    }
+    return true;
 }
 
 void ChoiceRow::setCurrent(int index) {

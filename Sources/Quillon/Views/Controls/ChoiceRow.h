@@ -11,7 +11,8 @@ namespace quillon {
 
 /// A few short choices side by side, of which one holds: all are seen at once, and one click takes another.
 /// Where there is no room for one row they stand in several. Tab stops at the choice that holds; the arrow
-/// keys take the next.
+/// keys take the next or the one before in their order, over the ends of rows, Home and End the first and the
+/// last.
 class ChoiceRow : public QWidget {
     Q_OBJECT
 
@@ -24,6 +25,9 @@ class ChoiceRow : public QWidget {
   signals:
     /// The user took another choice.
     void chosen(int index);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     std::vector<QRadioButton*> choices;

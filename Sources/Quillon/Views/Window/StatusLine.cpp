@@ -67,6 +67,8 @@ StatusLine::StatusLine(const LogStore& logStore, QWidget* parent)
     connect(&store, &LogStore::searchTextChanged, this, &StatusLine::refresh);
     connect(&store, &LogStore::selectionChanged, this, &StatusLine::refresh);
     connect(&store, &LogStore::fileURLChanged, this, &StatusLine::refresh);
+    // What went well before is no news beside an alert.
+    connect(&store, &LogStore::errorMessageChanged, this, &StatusLine::refresh);
     refresh();
 }
 

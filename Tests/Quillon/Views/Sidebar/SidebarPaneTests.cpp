@@ -405,8 +405,11 @@ class OutdoorSidebar : public Sidebar {
 
 TEST_F(OutdoorSidebar, TakesTheProgramByMouseAndByArrowKeys) {
     showOutdoor();
+    pane->resize(250, 600);
     EXPECT_EQ(stops(), "POTA! ");
     QApplication::setActiveWindow(pane.get());
+    QApplication::processEvents();
+    ASSERT_GT(button("GMA").y(), button("POTA").y()) << "in two rows";
     button("POTA").setFocus();
     std::string met;
     for (std::size_t step = 1; step < tallyrig::outdoorPrograms.size(); ++step) {
@@ -416,6 +419,8 @@ TEST_F(OutdoorSidebar, TakesTheProgramByMouseAndByArrowKeys) {
     EXPECT_EQ(met, "SOTA BOTA WWFF LLOTA WCA GMA ");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
     EXPECT_EQ(stops(), "WCA! ");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+    EXPECT_EQ(stops(), "POTA! ");
     QTest::mouseClick(&button("SOTA"), Qt::LeftButton, {}, QPoint(2, 2));
     EXPECT_EQ(stops(), "SOTA! Activator! ");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

@@ -48,6 +48,9 @@ TEST_F(StatusLineOfALog, TellsWhatWasDoneUntilSomethingChanges) {
     EXPECT_EQ(texts(), "1 QSO\n1.234 QSOs nach „log.edi“ exportiert");
     type(0, "CALL", "DL2ABC");
     EXPECT_EQ(texts(), "1 QSO");
+    line.showNotice(QStringLiteral("1 QSO nach „log.edi“ exportiert"));
+    store.setErrorMessage(QStringLiteral("EDI-Export fehlgeschlagen:"));
+    EXPECT_EQ(texts(), "1 QSO");
 }
 
 }  // namespace
