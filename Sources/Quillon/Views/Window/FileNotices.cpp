@@ -35,7 +35,7 @@ FileNotices::FileNotices(const AppStores& appStores, NoticeStrip& noticeStrip, Q
 void FileNotices::tellOf(const QString& path) {
     const std::string name = tallyrig::text::visibleText(QFileInfo(path).fileName().toStdString());
     strip.tell({topic(),
-                QStringLiteral("Ein anderes Programm hat „%1“ geändert.").arg(toQString(name)),
+                QStringLiteral("Die Datei „%1“ ist inzwischen eine andere.").arg(toQString(name)),
                 Notice::Kind::warning,
                 {{QStringLiteral("Neu laden"), [this, path] { open(path); }},
                  {QStringLiteral("Vergleichen"), [this, path] { compare(path); }},

@@ -95,7 +95,7 @@ TEST_F(Window, TellsWhenAnotherProgramChangesTheFile) {
     auto& strip = *window->findChild<NoticeStrip*>();
     const auto press = [&](const char* text) {
         window->findChild<FileNotices*>()->look();
-        EXPECT_EQ(testing::shownTexts(strip), "Ein anderes Programm hat „a.adi“ geändert.");
+        EXPECT_EQ(testing::shownTexts(strip), "Die Datei „a.adi“ ist inzwischen eine andere.");
         testing::shownButton(strip, QString::fromUtf8(text))->click();
         EXPECT_TRUE(strip.isHidden());
     };
