@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Comparing two logs, counting the values of one, and checking and exporting it for an outdoor program,
 // beside reading them from memory ("readings": of both logs for a comparison).
 

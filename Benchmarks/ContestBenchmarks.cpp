@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scoring a contest log by rules of different kinds, beside reading the same log as ADI text ("readings"),
 // and the distance of two locators beside a bare haversine ("haversines").
 

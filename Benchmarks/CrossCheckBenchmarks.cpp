@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Checking and scoring the logs of a contest on one thread, beside reading the same logs from memory
 // ("readings"); on two threads beside one; a check in which nothing is found beside one as usual, and of logs
 // that no station would send. With --largest also a contest of the largest size, which takes some minutes and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an evaluator waits for in the window with the logs of a contest: the result behind a changed
 // tolerance, and the frame behind a filter, a selection or a step of the wheel.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading and writing the other formats. Reading ADX stands beside expat with handlers that do nothing
 // ("expats"), writing it beside a pass of memchr from tag to tag ("passes"), Cabrillo and EDI beside one from
 // line to line ("linePasses"); each is made in turns with the work in one run.

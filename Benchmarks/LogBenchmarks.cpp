@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading, writing and changing a log. Each operation stands beside a pass of memchr('<') over the same
 // bytes, made in turns with it in one run, and says how many times that pass it takes ("passes").
 

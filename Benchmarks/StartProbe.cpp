@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Starts, shows a window, and ends when it has painted it for the first time: the application's window or,
 // with the argument "empty", an empty one with the same libraries behind it.
 

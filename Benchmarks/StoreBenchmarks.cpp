@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the application's model of a log does at a keystroke or a click, beside reading the log.
 
 #include "MemoryCount.h"

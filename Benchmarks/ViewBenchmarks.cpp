@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user sees: a frame of the table and of a comparison, the statistics of a log, and the first
 // window.
 

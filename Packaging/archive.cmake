@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Read by cpack when everything is installed into its folder and before that is packed. For the archive it adds what
 # the programs would otherwise want from the system: libraries, Qt's plugins and German words, icons, licences.
 if(NOT CPACK_GENERATOR STREQUAL "TXZ")

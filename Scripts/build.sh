@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Configures and builds a preset, all of it or some targets. Says only what has gone wrong; the rest is in
 # build/PRESET.log.
 #

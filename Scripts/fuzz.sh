@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the fuzz targets and runs each for some seconds, 60 if nothing is said. They start from the examples, from
 # the logs below the folder QUILLON_SAMPLES if that is set, and from what earlier runs have kept in build/fuzz/corpus.
 # An input that breaks something is left in build/fuzz/findings.

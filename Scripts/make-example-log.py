@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes an invented log in ADI format to standard output.
 
     Scripts/make-example-log.py [QSOS [SEED]]

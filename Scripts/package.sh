@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds both packages of Quillon into build/packages: the .deb for Debian 12, and the .tar.xz of the folder
 # Quillon.app, which runs from wherever it is unpacked on a desktop with X11 and glibc 2.36 or later.
 #

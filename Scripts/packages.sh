@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages that Quillon needs to be built, run and tested; with --format those for the shape of
 # the sources instead, with --fuzz those for fuzzing, with --package what packing needs besides. Does nothing, and
 # needs no rights, where all are there. With --list first, only names them.

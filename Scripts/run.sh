@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds Quillon and its command-line tool and opens the window on the given log or, without one, on an example.
 # Where there is no display, the window opens in a virtual one and a picture of it is left behind.
 #

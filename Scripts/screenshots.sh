@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Makes the pictures of the documentation anew, from the real window.
 #
 #     Scripts/screenshots.sh

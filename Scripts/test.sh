@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds and runs all tests: everything in the preset release, then library and tool once more under
 # AddressSanitizer and UndefinedBehaviorSanitizer, with a replay of the examples, and of the logs below the folder
 # QUILLON_SAMPLES if that is set, through the fuzz targets; last, what uses threads under ThreadSanitizer. Also

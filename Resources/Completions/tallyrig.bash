@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Completion of tallyrig for bash. A test compares commands and options with those of the program.
 
 _tallyrig_options() {

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Completion of tallyrig for fish. A test compares commands and options with those of the program.
 
 # Whether the command that stands on the line is one of these.

@@ -1,4 +1,5 @@
 #compdef tallyrig
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Completion of tallyrig for zsh. A test compares commands and options with those of the program.
 
 _tallyrig_contests() {

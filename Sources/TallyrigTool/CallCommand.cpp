@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tallyrig/CrossCheck/BaseCall.h"
 #include "Tallyrig/Geography/DXCCInfo.h"
 #include "Tallyrig/Geography/WPXPrefix.h"

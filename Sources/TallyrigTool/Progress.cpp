@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "TallyrigTool/Progress.h"
 
 #include "Quillon/Platform/Files/Descriptor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "TallyrigTool/RulesJson.h"
 
 #include <nlohmann/json.hpp>

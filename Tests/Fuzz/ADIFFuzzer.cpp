@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads any bytes as an ADI file. What comes out must survive being written and read again, and a report on
 // the file changes nothing about that.
 

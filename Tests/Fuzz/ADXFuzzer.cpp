@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads any bytes as an ADX file. What comes out is well-formed text, and where XML can carry it, it must
 // survive being written and read again.
 

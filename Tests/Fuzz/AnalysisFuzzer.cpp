@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Compares the whole of a log with its second half and counts what is in it: both give what the rules say
 // when they are followed word by word, with a map and without any short cut.
 

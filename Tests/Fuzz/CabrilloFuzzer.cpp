@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads any bytes as a Cabrillo log. QSOs must survive being written and read again.
 
 #include "Fuzz/Require.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scores any document by rules of all kinds. What is said of each QSO is what a slow look at it alone gives,
 // and the figures are those of the QSOs.
 

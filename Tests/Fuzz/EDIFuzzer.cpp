@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads any bytes as an EDI log. What the format has room for must survive being written and read again.
 // Writes any bytes that make an ADI log as EDI, too.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads any bytes as a log of any format. Its head alone decides on the format, and the same text is the same
 // log in UTF-16. A report on the file is sound whatever the encoding and the repair, and changes nothing.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Gives files to a fuzz target, one after the other, where the compiler has no fuzzer of its own: the logs
 // below the folders that are its arguments and the one that QUILLON_SAMPLES names. Each also goes in cut off,
 // so that something is left open.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Validates any document. A QSO is judged by itself, and duplicates are those of the groups.
 
 #include "Fuzz/Require.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/App/Application.h"
 #include "Quillon/App/QuillonApp.h"
 #include "Quillon/App/Terminal.h"

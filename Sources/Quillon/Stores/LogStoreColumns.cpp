@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Stores/ColumnFitting.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Tallyrig/Text/Text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Catalogue/OutdoorFiles.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/OutdoorExport.h"

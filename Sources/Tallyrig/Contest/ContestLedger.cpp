@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tallyrig/Contest/ContestLedger.h"
 
 #include "Tallyrig/Contest/Saturation.h"

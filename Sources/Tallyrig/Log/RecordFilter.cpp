@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tallyrig/Log/RecordFilter.h"
 
 #include "Tallyrig/Log/PerTag.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The letters and digits of ASCII, byte by byte, for what is ASCII by its format or has been found to be. A

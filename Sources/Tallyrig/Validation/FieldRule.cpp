@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tallyrig/Validation/FieldRule.h"
 
 #include "Tallyrig/Validation/ADIFSpec317.h"

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # What the program says at a terminal that has no display: StartTests.sh PROGRAM VERSION
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM HOME
 program=$1

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/NaturalOrder.h"
 
 #include <unicode/coll.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tallyrig/Formats/LogReader.h"
 
 #include "Tallyrig/Log/ReadingSupport.h"

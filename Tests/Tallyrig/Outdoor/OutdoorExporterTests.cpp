@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tallyrig/Outdoor/OutdoorExporter.h"
 
 #include "Tallyrig/Log/ADIFParser.h"

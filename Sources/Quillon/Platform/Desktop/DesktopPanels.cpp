@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"

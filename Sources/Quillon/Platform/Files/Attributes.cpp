@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Files/Attributes.h"
 
 #include <sys/xattr.h>

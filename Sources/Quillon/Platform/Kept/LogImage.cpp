@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Kept/LogImage.h"
 
 #include "Quillon/Platform/Kept/ImageBytes.h"

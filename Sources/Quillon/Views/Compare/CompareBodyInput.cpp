@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Compare/CompareBody.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Compare/CompareTable.h"
 
 #include "Quillon/Views/Compare/CentreBar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Controls/SidebarSection.h"
 
 #include "Quillon/Views/Controls/BoundedField.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/CrossCheck/FindingsCard.h"
 
 #include "Quillon/Catalogue/CrossCheckWords.h"

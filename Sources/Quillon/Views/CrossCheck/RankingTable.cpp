@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/CrossCheck/RankingTable.h"
 
 #include "Quillon/Platform/Desktop/FontMeasurer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Detail/RecordDetailView.h"
 
 #include "Quillon/Stores/LogStore.h"

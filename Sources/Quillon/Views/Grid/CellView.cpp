@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Grid/CellView.h"
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"

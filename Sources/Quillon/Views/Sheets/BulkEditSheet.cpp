@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Sheets/BulkEditSheet.h"
 
 #include "Quillon/Catalogue/ADIFFieldCatalog.h"

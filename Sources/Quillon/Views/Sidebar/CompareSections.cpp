@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Sidebar/CompareSections.h"
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Sidebar/ContestSections.h"
 
 #include "Quillon/Catalogue/Contests.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Table/ColumnCommands.h"
 
 #include "Quillon/Stores/LogStore.h"

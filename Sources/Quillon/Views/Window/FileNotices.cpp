@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Window/FileNotices.h"
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Files/OutdoorExport.h"
 
 #include "Quillon/Platform/Files/UniqueNames.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Files/ReportFolder.h"
 
 #include "Quillon/Support/TemporaryFolder.h"

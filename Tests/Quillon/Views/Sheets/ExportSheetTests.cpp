@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Support/WidgetSearch.h"
 #include "Quillon/Views/Sheets/CabrilloExportSheet.h"

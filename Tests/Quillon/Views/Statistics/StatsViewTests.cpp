@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Statistics/StatsView.h"
 
 #include "Quillon/Support/BlankPainter.h"
