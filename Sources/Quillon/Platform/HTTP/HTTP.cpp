@@ -1,3 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Here for the meta-object of the interface, which is made once.
 #include "Quillon/Platform/HTTP/HTTP.h"
+
+namespace quillon {
+
+bool isOnTheWeb(const QUrl& address) {
+    return address.isValid() && !address.host().isEmpty() &&
+           (address.scheme() == QLatin1String("https") || address.scheme() == QLatin1String("http"));
+}
+
+}  // namespace quillon

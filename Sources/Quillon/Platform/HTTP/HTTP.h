@@ -13,9 +13,12 @@
 
 namespace quillon {
 
+/// Whether a server on the web can be asked for this: http or https, and a host.
+bool isOnTheWeb(const QUrl& address);
+
 /// What is asked of a server: one GET.
 struct HTTPRequest {
-    /// With http or https as scheme, and a host; everything else is refused.
+    /// Refused if it is not on the web.
     QUrl address;
     QList<QPair<QByteArray, QByteArray>> headers;
     /// The transfer fails when nothing came for that long, be it before the answer or in its midst.

@@ -41,11 +41,6 @@ QString sentence(QNetworkReply::NetworkError error) {
     }
 }
 
-bool isOnTheWeb(const QUrl& address) {
-    return address.isValid() && !address.host().isEmpty() &&
-           (address.scheme() == QLatin1String("https") || address.scheme() == QLatin1String("http"));
-}
-
 bool isRedirect(int status) {
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
