@@ -7,6 +7,7 @@
 #include <QPair>
 #include <QString>
 #include <QUrl>
+#include <QtPlugin>
 
 #include <chrono>
 #include <memory>
@@ -69,7 +70,8 @@ class HTTPTransfer : public QObject {
     void failed(const quillon::HTTPFailure& failure);
 };
 
-/// Who gets from servers. The real one is `NetworkHTTP`; tests of what stands above answer by themselves.
+/// Who gets from servers. The real one is `NetworkHTTP`, which
+/// the program has by way of `ModuleHTTP`; tests of what stands above answer by themselves.
 class HTTPClient {
   public:
     HTTPClient() = default;
@@ -82,3 +84,5 @@ class HTTPClient {
 };
 
 }  // namespace quillon
+
+Q_DECLARE_INTERFACE(quillon::HTTPClient, "quillon.HTTPClient/1")
