@@ -42,6 +42,12 @@ QString Settings::string(const QString& key) const {
     return stored.typeId() == QMetaType::QString ? stored.toString() : QString();
 }
 
+std::optional<QDateTime> Settings::moment(const QString& key) const {
+    const QVariant stored = value(key);
+    const QDateTime moment = stored.typeId() == QMetaType::QDateTime ? stored.toDateTime() : QDateTime();
+    return moment.isValid() ? std::optional(moment) : std::nullopt;
+}
+
 std::unique_ptr<Settings> userSettings() {
     return std::make_unique<UserSettings>();
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QVariant>
 
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -24,6 +26,7 @@ class Settings {
     bool boolean(const QString& key, bool missing) const;
     /// Absent becomes a null string.
     QString string(const QString& key) const;
+    std::optional<QDateTime> moment(const QString& key) const;
 };
 
 /// The settings of this user on this machine.

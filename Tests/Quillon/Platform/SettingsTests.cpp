@@ -36,10 +36,12 @@ TEST(UserSettings, ComeBackInTheNextRunWithTheirTypes) {
         EXPECT_TRUE(settings->boolean("on", false));
         EXPECT_FALSE(settings->boolean("off", true));
         EXPECT_EQ(settings->string("text"), QString::fromUtf8(" 1,5; \"ü\" "));
-        EXPECT_EQ(settings->value("moment").toDateTime(), moment);
+        EXPECT_EQ(settings->moment("moment"), moment);
         // Of the wrong type or not there at all.
         EXPECT_TRUE(settings->string("on").isNull());
         EXPECT_FALSE(settings->boolean("text", false));
+        EXPECT_FALSE(settings->moment("text"));
+        EXPECT_FALSE(settings->moment("none"));
         EXPECT_TRUE(settings->boolean("none", true));
     }
 }
