@@ -4,6 +4,7 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/Icons.h"
 
+#include <QAction>
 #include <QShortcut>
 
 namespace quillon {
@@ -17,7 +18,10 @@ constexpr int widthPx = 200;
 SearchField::SearchField(LogStore& logStore, QWidget* parent) : QLineEdit(parent), store(logStore) {
     setPlaceholderText(QStringLiteral("Suchen"));
     setAccessibleName(QStringLiteral("Suchen"));
-    addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    // The picture is a button, for Qt has no other in a field: what it is taken for, it does.
+    QAction* const picture = addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    picture->setText(QStringLiteral("Suchen"));
+    connect(picture, &QAction::triggered, this, &SearchField::startTyping);
     setFixedWidth(widthPx);
     setAcceptDrops(false);
     setText(store.searchText());
