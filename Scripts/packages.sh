@@ -38,6 +38,8 @@ case "${1:-}" in
         desktop-file-utils shared-mime-info appstream
         # A display for machines without one.
         xvfb xauth
+        # What a screen reader reads windows with, a bus for that, and what hands the keyboard to a window.
+        at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi openbox
     )
     ;;
 esac
