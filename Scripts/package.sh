@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 
 Scripts/packages.sh
 Scripts/packages.sh --package
-Scripts/build.sh release Quillon tallyrig QuillonCharts QuillonNetwork QuillonIconSizes QuillonDocuments
+Scripts/build.sh release Quillon tallyrig QuillonArchive QuillonCharts QuillonNetwork QuillonIconSizes QuillonDocuments
 
 log=build/packages.log
 echo "Packing. What is said meanwhile goes to $log"

@@ -30,6 +30,8 @@ case "${1:-}" in
         libicu-dev libexpat1-dev libfmt-dev libtbb-dev libcli11-dev nlohmann-json3-dev
         # What the application is made of, and what it shows: German dialogs, icons, a font.
         qt6-base-dev qt6-svg-dev qt6-translations-l10n breeze-icon-theme fonts-dejavu-core
+        # What unpacks updates.
+        libarchive-dev
         # What paints charts.
         libqcustomplot-dev
         # Tests and benchmarks.

@@ -3,6 +3,7 @@
 
 #include "Quillon/Updates/InstallError.h"
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -12,8 +13,6 @@
 #include <memory>
 #include <optional>
 #include <variant>
-
-class QObject;
 
 namespace quillon {
 
@@ -46,7 +45,7 @@ class InstallPlatform {
 
     /// A folder that is the user's alone, and stays from one run of the program to the next.
     virtual std::variant<QString, InstallError> tempDirectory() = 0;
-    /// One program of the user at a time installs.
+    /// One program of the user at a time installs. Asked for before all else, but for the folder.
     virtual std::variant<InstallLock, InstallError> lockInstallation(const QString& tempDirectory) = 0;
     /// The running program's bundle: the folder "X.app" that holds all that it needs. Where it does not run
     /// from one, the folder of the program.
@@ -60,7 +59,7 @@ class InstallPlatform {
     virtual void exitApplication() = 0;
     /// Since some moment in the past; never goes back.
     virtual std::chrono::milliseconds now() = 0;
-    /// Calls from the event loop, unless `context` has gone until then.
+    /// Calls from the event loop, unless `context` has gone until then; `lifetime()` goes with the platform.
     virtual void callLater(std::chrono::milliseconds delay, QObject* context, std::function<void()> call) = 0;
 
     // On any thread.
@@ -82,6 +81,11 @@ class InstallPlatform {
     /// Removes a file, or a folder with all that is in it; a link, but not what it leads to. Absent if
     /// nothing is there.
     virtual Outcome remove(const QString& path) = 0;
+
+    QObject* lifetime() { return &alive; }
+
+  private:
+    QObject alive;
 };
 
 }  // namespace quillon

@@ -37,12 +37,11 @@ UpdateDownload::UpdateDownload(HTTPClient& httpClient, InstallPlatform& installP
       mostBytes(mostBytesOfFile) {}
 
 QString UpdateDownload::fileName(const QUrl& address) {
-    // Decoded, a part of an address may hold anything: a slash, "..", a zero.
+    // What stands behind the last slash once all is decoded; that may still be "..", or hold a zero.
     const QString name = address.fileName(QUrl::FullyDecoded);
     constexpr qsizetype mostBytesOfName = 200;
     const bool isForFile = !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-                           !name.contains(QLatin1Char('/')) && !name.contains(QChar(u'\0')) &&
-                           name.toUtf8().size() <= mostBytesOfName;
+                           !name.contains(QChar(u'\0')) && name.toUtf8().size() <= mostBytesOfName;
     return isForFile ? name : QStringLiteral("update.tar.xz");
 }
 

@@ -79,7 +79,7 @@ struct Places {
         backup = hidden + QStringLiteral(".old-") + id;
     }
 
-    /// Removes backups, and copies that were not finished, of this and of interrupted installations.
+    /// Removes what installations that were interrupted left beside the bundle.
     void tidy(InstallPlatform& platform) const {
         const qsizetype start = bundle.lastIndexOf(QLatin1Char('/')) + 1;
         const QRegularExpression ours(QRegularExpression::anchoredPattern(
@@ -124,6 +124,7 @@ Outcome replaceBundle(InstallPlatform& platform, const QString& newApp, const Pl
         }
         return error;
     }
+    static_cast<void>(platform.remove(places.backup));
     places.tidy(platform);
     return std::nullopt;
 }
@@ -229,7 +230,9 @@ void UpdateInstaller::relaunch(const QString& bundle) {
         return;
     }
     constexpr std::chrono::milliseconds patience(1500);
-    platform.callLater(patience, this, [this] { platform.exitApplication(); });
+    // In case anything refuses. On the way out the window of this object may be closed, and the object with
+    // it.
+    platform.callLater(patience, platform.lifetime(), [&system = platform] { system.exitApplication(); });
     platform.terminateApplication();
 }
 

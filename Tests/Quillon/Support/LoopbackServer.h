@@ -6,6 +6,7 @@
 #include <QTcpSocket>
 #include <QUrl>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,6 +22,8 @@ class LoopbackServer {
     struct Answer {
         QByteArray bytes;
         Then then = Then::close;  ///< With `endless`, the answer's last kilobyte again and again.
+        /// Of the request that it is for; "-" for one without.
+        std::string range = "-";
     };
 
     LoopbackServer() {
@@ -39,8 +42,12 @@ class LoopbackServer {
         return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(server.serverPort()).arg(path));
     }
 
-    /// The answers to the next requests, in turn. Who asks once more is hung up on.
-    void answer(std::vector<Answer> next) { answers = std::move(next); }
+    /// What is said to those who ask from now on, by the range that they ask for, however often they ask: Qt
+    /// asks once more by itself when it is hung up on early. Who asks for another is hung up on.
+    void answer(std::vector<Answer> next) {
+        answers = std::move(next);
+        asked.clear();
+    }
 
     /// An answer with `headers`, each line ending in CR LF.
     static QByteArray reply(const char* status, const QByteArray& headers, const QByteArray& body) {
@@ -52,9 +59,23 @@ class LoopbackServer {
     }
 
     std::size_t requests() const { return asked.size(); }
-    /// What stood behind the name of the header in a request, the first being 0; "-" if there was none.
-    std::string header(std::size_t request, const QByteArray& name) const {
-        for (const QByteArray& line : asked.at(request).split('\n')) {
+    /// What stood behind the name of the header in the requests, "-" if there was none; with a blank between,
+    /// and what is the same as in the request before left out.
+    std::string headers(const QByteArray& name) const {
+        std::string all;
+        std::string last;
+        for (const QByteArray& request : asked) {
+            if (const std::string value = header(request, name); value != last) {
+                all += (all.empty() ? "" : " ") + value;
+                last = value;
+            }
+        }
+        return all;
+    }
+
+  private:
+    static std::string header(const QByteArray& request, const QByteArray& name) {
+        for (const QByteArray& line : request.split('\n')) {
             if (line.toLower().startsWith(name.toLower() + ':')) {
                 return line.mid(name.size() + 1).trimmed().toStdString();
             }
@@ -62,17 +83,19 @@ class LoopbackServer {
         return "-";
     }
 
-  private:
     void take(QTcpSocket* socket) {
         if (!socket->peek(socket->bytesAvailable()).contains("\r\n\r\n")) {
             return;
         }
         asked.push_back(socket->readAll());
-        if (asked.size() > answers.size()) {
+        const auto wanted = std::find_if(answers.begin(), answers.end(), [this](const Answer& answer) {
+            return answer.range == header(asked.back(), "Range");
+        });
+        if (wanted == answers.end()) {
             socket->abort();
             return;
         }
-        const Answer& now = answers[asked.size() - 1];
+        const Answer& now = *wanted;
         socket->write(now.bytes);
         if (now.then == Then::close) {
             socket->disconnectFromHost();

@@ -20,8 +20,9 @@ inline QByteArray manifest(const QByteArray& version, const QByteArray& more = {
 /// A server of which the test decides when it answers what.
 class HeldHTTP : public HTTPClient {
   public:
-    std::unique_ptr<HTTPTransfer> streamGet(const HTTPRequest&) override {
+    std::unique_ptr<HTTPTransfer> streamGet(const HTTPRequest& asked) override {
         ++transfers;
+        request = asked;
         auto transfer = std::make_unique<HTTPTransfer>();
         last = transfer.get();
         return transfer;
@@ -35,6 +36,7 @@ class HeldHTTP : public HTTPClient {
     void fail(const char* why) { emit last->failed({HTTPFailure::Kind::network, QString::fromUtf8(why)}); }
 
     int transfers = 0;            ///< Begun so far.
+    HTTPRequest request;          ///< The last.
     QPointer<HTTPTransfer> last;  ///< Null once it was given up.
 };
 

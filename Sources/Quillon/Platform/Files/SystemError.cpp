@@ -16,6 +16,9 @@ std::string systemErrorSentence(int error) {
             return "Die Berechtigung fehlt.";
         case EISDIR:
             return "Das ist ein Ordner und keine Datei.";
+        case EEXIST:
+        case ENOTEMPTY:
+            return "Unter diesem Namen gibt es schon etwas.";
         case ENOSPC:
         case EDQUOT:
             return "Auf dem Datenträger ist kein Platz mehr.";

@@ -63,7 +63,10 @@ TEST_F(Transfer, TellsHeadAndBodyAsTheyStandOnTheServer) {
 
 TEST_F(Transfer, TellsWhatTheTransportBroke) {
     const std::string cut = "|network: Der Server hat die Verbindung getrennt.";
-    EXPECT_EQ(get(LoopbackServer::reply("200 OK", "Content-Length: 5\r\n", "abc")), "200/5:abc" + cut);
+    for (int time = 0; time < 20; ++time) {
+        EXPECT_EQ(get(LoopbackServer::reply("200 OK", "Content-Length: 5\r\n", "abc")), "200/5:abc" + cut)
+            << "Qt notices that only if it comes at the right moment";
+    }
     EXPECT_EQ(get(QByteArray("")), cut);
     const std::string late = "|network: Der Server hat nicht rechtzeitig geantwortet.";
     EXPECT_EQ(get(QByteArray("HTTP/1.1 200"), Then::hang), late);
@@ -93,23 +96,22 @@ TEST_F(Transfer, GoesToNoAddressButThoseOfTheWebAndIsSentToSafeOnesAlone) {
     EXPECT_EQ(get({server.address(QStringLiteral("/a")), {}, hour, 10}),
               "|network: Der Server nimmt keine Verbindung an.")
         << "it was followed";
-    server.answer(
-        {{}, {LoopbackServer::reply("307 Temporary Redirect", "Location: https://127.0.0.1:1/b\r\n", "")}});
     EXPECT_EQ(get({server.address(QStringLiteral("/a")), {}, hour, 0}),
               "|refused: Der Server leitet zu oft weiter.");
 }
 
 TEST_F(Transfer, SendsItsHeadersAndKeepsNothingOfEarlierOnes) {
     LoopbackServer server;
-    const LoopbackServer::Answer answer{LoopbackServer::reply(
-        "200 OK", "Set-Cookie: a=b\r\nCache-Control: max-age=999\r\nContent-Length: 1\r\n", "x")};
-    server.answer({answer, answer});
-    for (std::size_t request : {0U, 1U}) {
-        EXPECT_EQ(get({server.address(QStringLiteral("/a")), {{"Range", "bytes=5-"}}, hour, 10}),
-                  "200/1:x|ended");
-        EXPECT_EQ(server.header(request, "Range"), "bytes=5-");
-        EXPECT_EQ(server.header(request, "Cookie"), "-");
-    }
+    server.answer(
+        {{LoopbackServer::reply(
+              "200 OK", "Set-Cookie: a=b\r\nCache-Control: max-age=999\r\nContent-Length: 1\r\n", "x"),
+          Then::close, "bytes=5-"},
+         {LoopbackServer::whole("y"), Then::close, "bytes=6-"}});
+    const QUrl address = server.address(QStringLiteral("/a"));
+    EXPECT_EQ(get({address, {{"Range", "bytes=5-"}}, hour, 10}), "200/1:x|ended");
+    EXPECT_EQ(get({address, {{"Range", "bytes=6-"}}, hour, 10}), "200/1:y|ended");
+    EXPECT_EQ(server.headers("Range"), "bytes=5- bytes=6-");
+    EXPECT_EQ(server.headers("Cookie"), "-");
 }
 
 TEST_F(Transfer, IsGatheredUpToALimit) {

@@ -106,7 +106,8 @@ class NetworkTransfer : public HTTPTransfer {
         hasResponded = true;
         bool isNumber = false;
         const qint64 length = reply->header(QNetworkRequest::ContentLengthHeader).toLongLong(&isNumber);
-        emit responded({status(), isNumber ? length : -1, reply->url()});
+        expected = isNumber ? length : -1;
+        emit responded({status(), expected, reply->url()});
     }
 
     void follow() {
@@ -125,6 +126,7 @@ class NetworkTransfer : public HTTPTransfer {
         // A reply that was given up is closed, and complains of being read.
         const bool isReadable = hasResponded && reply->isOpen();
         if (const QByteArray block = isReadable ? reply->readAll() : QByteArray(); !block.isEmpty()) {
+            got += block.size();
             emit received(block);
         }
     }
@@ -139,7 +141,13 @@ class NetworkTransfer : public HTTPTransfer {
         if (!self || !ending) {
             return;
         }
-        const QNetworkReply::NetworkError error = reply->error();
+        QNetworkReply::NetworkError error = reply->error();
+        // Depending on when it notices, Qt takes the end of the connection for that of the body. Where
+        // nothing has changed the length is that of the body which is not sent.
+        constexpr int notModified = 304;
+        if (error == QNetworkReply::NoError && got < expected && status() != notModified) {
+            error = QNetworkReply::RemoteHostClosedError;
+        }
         // A status from 400 on is an error to Qt, whether or not its page came whole.
         constexpr int firstErrorStatus = 400;
         const bool isWhole =
@@ -162,6 +170,8 @@ class NetworkTransfer : public HTTPTransfer {
     std::unique_ptr<QNetworkReply> reply;
     int redirects = 0;  ///< Followed so far; tells the replies apart.
     bool hasResponded = false;
+    qint64 expected = -1;
+    qint64 got = 0;
 };
 
 }  // namespace
