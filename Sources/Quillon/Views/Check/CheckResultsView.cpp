@@ -100,6 +100,9 @@ QWidget* CheckResultsView::makeHead() {
     filterField = new QLineEdit(head);
     filterField->setPlaceholderText(QStringLiteral("Filtern"));
     filterField->setAccessibleName(QStringLiteral("Befunde filtern"));
+    filterField->setWhatsThis(
+        QStringLiteral("Zeigt nur die Befunde, in deren Zeile der Text steht. Die Befunde selbst und die "
+                       "Zeichen in der Tabelle bleiben, wie sie sind."));
     filterField->setClearButtonEnabled(true);
     filterField->setMaximumWidth(filterWidthPx);
     filterField->setAcceptDrops(false);

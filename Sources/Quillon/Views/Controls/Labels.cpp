@@ -145,6 +145,13 @@ void nameBy(QLabel& label, QWidget& control) {
     named.setAccessibleName(label.text());
 }
 
+void explain(QWidget& control, const QString& meaning) {
+    control.setWhatsThis(meaning);
+    if (QWidget* const editor = control.focusProxy()) {
+        editor->setWhatsThis(meaning);
+    }
+}
+
 QWidget* horizontalLine(QWidget* parent) {
     return new HorizontalLine(parent);
 }

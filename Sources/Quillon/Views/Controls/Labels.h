@@ -49,6 +49,9 @@ QLabel* noteLabel(const QString& text, QWidget* parent = nullptr);
 /// Lets `label` name `control`, for the keyboard and for assistive technology.
 void nameBy(QLabel& label, QWidget& control);
 
+/// Lets the user ask what `control` is for (Shift+F1): of itself and of the editor in it.
+void explain(QWidget& control, const QString& meaning);
+
 /// A thin line between two parts of a window, from left to right.
 QWidget* horizontalLine(QWidget* parent = nullptr);
 

@@ -21,24 +21,32 @@ void SidebarSection::add(QWidget* control) {
     column->addWidget(control);
 }
 
+void SidebarSection::add(QWidget* control, const QString& meaning) {
+    explain(*control, meaning);
+    add(control);
+}
+
 void SidebarSection::addUnderHeading(QWidget* control) {
     nameBy(*heading, *control);
     column->addWidget(control);
 }
 
-void SidebarSection::addLabelled(const QString& label, QWidget* control) {
+void SidebarSection::addLabelled(const QString& label, QWidget* control, const QString& meaning) {
     auto* caption = new QLabel(label, this);
     nameBy(*caption, *control);
+    explain(*control, meaning);
+    caption->setWhatsThis(meaning);
     column->addWidget(caption);
     column->addWidget(control);
 }
 
-QLineEdit& SidebarSection::addText(const QString& label, std::string_view text, const QString& toolTip) {
+QLineEdit& SidebarSection::addText(const QString& label, std::string_view text, const QString& toolTip,
+                                   const QString& meaning) {
     constexpr int longestText = 1000;
     auto* field = new BoundedLine(longestText, this);
     field->setText(text);
     field->editor().setToolTip(toolTip);
-    addLabelled(label, field);
+    addLabelled(label, field, meaning);
     return field->editor();
 }
 

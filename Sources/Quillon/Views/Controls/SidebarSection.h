@@ -19,13 +19,17 @@ class SidebarSection : public QWidget {
     /// An empty `title` gives no heading.
     explicit SidebarSection(const QString& title, QWidget* parent = nullptr);
 
+    // `meaning` answers the user who asks what the control is for (Shift+F1).
+
     void add(QWidget* control);
+    void add(QWidget* control, const QString& meaning);
     /// Named by the heading, as the one control that the section is about.
     void addUnderHeading(QWidget* control);
     /// Under its own label, which belongs to it for the keyboard and for assistive technology.
-    void addLabelled(const QString& label, QWidget* control);
+    void addLabelled(const QString& label, QWidget* control, const QString& meaning);
     /// A text field for `text` (UTF-8), with a tool tip, under its label.
-    QLineEdit& addText(const QString& label, std::string_view text, const QString& toolTip);
+    QLineEdit& addText(const QString& label, std::string_view text, const QString& toolTip,
+                       const QString& meaning);
     QLabel* addNote(const QString& text);
 
   private:

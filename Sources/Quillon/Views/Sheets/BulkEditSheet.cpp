@@ -60,9 +60,11 @@ ValueHelp valueHelp(std::string_view column) {
     return {QStringLiteral("Neuer Wert (leer = Feld entfernen)"), QString()};
 }
 
-QLabel* addRow(QFormLayout& form, const QString& text, QWidget* control) {
+QLabel* addRow(QFormLayout& form, const QString& text, QWidget* control, const QString& meaning) {
     auto* label = new QLabel(text, form.parentWidget());
     nameBy(*label, *control);
+    explain(*control, meaning);
+    label->setWhatsThis(meaning);
     form.addRow(label, control);
     return label;
 }
@@ -115,19 +117,28 @@ QWidget* BulkEditSheet::makeForm() {
     for (const Mode offered : allModes) {
         modePicker->addItem(label(offered), static_cast<int>(offered));
     }
-    addRow(*form, QStringLiteral("Aktion"), modePicker);
+    addRow(*form, QStringLiteral("Aktion"), modePicker,
+           QStringLiteral("Was mit den Werten der Spalte geschieht: alle ersetzen, nur leere füllen, oder "
+                          "einen Text in ihnen durch einen anderen ersetzen. Es gilt für alle QSOs des Logs, "
+                          "auch die, welche eine Suche verbirgt, und ist ein Schritt für „Rückgängig“."));
     const ValueHelp help = valueHelp(columnName);
     value = new BoundedLine(longestValue, area);
     value->editor().setPlaceholderText(help.placeholder);
     value->editor().setAccessibleName(QStringLiteral("Neuer Wert"));
     value->editor().setAccessibleDescription(help.hint);
+    explain(*value, QStringLiteral(
+                        "Der Wert, den die QSOs in dieser Spalte bekommen. Ein leerer entfernt das Feld."));
     form->addRow(QString(), value);
     valueHint = noteLabel(help.hint, area);
     form->addRow(QString(), valueHint);
     find = new BoundedLine(longestValue, area);
-    addRow(*form, QStringLiteral("Suchen"), find);
+    addRow(*form, QStringLiteral("Suchen"), find,
+           QStringLiteral("Der Text, der in den Werten ersetzt wird, überall, wo er vorkommt. Groß- und "
+                          "Kleinschreibung zählen."));
     replacement = new BoundedLine(longestValue, area);
-    addRow(*form, QStringLiteral("Ersetzen durch"), replacement);
+    addRow(*form, QStringLiteral("Ersetzen durch"), replacement,
+           QStringLiteral("Was an seine Stelle tritt. Leer: der gesuchte Text fällt weg. "
+                          "Ein Wert, von dem nichts bleibt, steht als leeres Feld im QSO."));
 
     connect(modePicker, &QComboBox::currentIndexChanged, this, &BulkEditSheet::refresh);
     connect(&value->editor(), &QLineEdit::textChanged, this, &BulkEditSheet::tellWhatEmptyValueDoes);

@@ -70,14 +70,18 @@ QFormLayout* ExportSheet::addSection(const QString& heading) {
     return section;
 }
 
-void ExportSheet::addControl(QFormLayout* section, const QString& label, QWidget* control) {
+void ExportSheet::addControl(QFormLayout* section, const QString& label, QWidget* control,
+                             const QString& meaning) {
     auto* text = new QLabel(label, form);
     nameBy(*text, *control);
+    explain(*control, meaning);
+    text->setWhatsThis(meaning);
     section->addRow(text, control);
     labels.append(text);
 }
 
-BoundedLine* ExportSheet::addField(QFormLayout* section, const QString& label, std::string& text) {
+BoundedLine* ExportSheet::addField(QFormLayout* section, const QString& label, std::string& text,
+                                   const QString& meaning) {
     auto* field = new BoundedLine(longestLine, form);
     field->setText(text);
     // What is not shown is not exported either.
@@ -86,30 +90,31 @@ BoundedLine* ExportSheet::addField(QFormLayout* section, const QString& label, s
         text = typed.toStdString();
         refresh();
     });
-    addControl(section, label, field);
+    addControl(section, label, field, meaning);
     if (firstField == nullptr) {
         firstField = field;
     }
     return field;
 }
 
-void ExportSheet::addLongField(QFormLayout* section, const QString& label, std::string& text) {
+void ExportSheet::addLongField(QFormLayout* section, const QString& label, std::string& text,
+                               const QString& meaning) {
     auto* field = new BoundedText(longestText, longFieldLines, form);
     const QPlainTextEdit& editor = field->editor();
     connect(&editor, &QPlainTextEdit::textChanged, this,
             [&editor, &text] { text = typedText(*editor.document()).toStdString(); });
-    addControl(section, label, field);
+    addControl(section, label, field, meaning);
 }
 
-QComboBox* ExportSheet::addPicker(QFormLayout* section, const QString& label) {
+QComboBox* ExportSheet::addPicker(QFormLayout* section, const QString& label, const QString& meaning) {
     auto* picker = new CalmComboBox(form);
-    addControl(section, label, picker);
+    addControl(section, label, picker, meaning);
     return picker;
 }
 
 void ExportSheet::addChoice(QFormLayout* section, const QString& label, const QStringList& choices,
-                            std::string& text) {
-    QComboBox* const picker = addPicker(section, label);
+                            std::string& text, const QString& meaning) {
+    QComboBox* const picker = addPicker(section, label, meaning);
     picker->addItems(choices);
     picker->setCurrentIndex(picker->findText(toQString(text)));
     connect(picker, &QComboBox::activated, this, [this, picker, &text] {

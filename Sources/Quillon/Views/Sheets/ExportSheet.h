@@ -32,13 +32,16 @@ class ExportSheet : public Sheet {
 
     /// A group of labelled controls under a heading, which may be empty.
     QFormLayout* addSection(const QString& heading);
-    BoundedLine* addField(QFormLayout* section, const QString& label, std::string& text);
+    // `meaning` answers the user who asks what a field is for (Shift+F1).
+    BoundedLine* addField(QFormLayout* section, const QString& label, std::string& text,
+                          const QString& meaning);
     /// With a field of several lines, empty at first.
-    void addLongField(QFormLayout* section, const QString& label, std::string& text);
+    void addLongField(QFormLayout* section, const QString& label, std::string& text, const QString& meaning);
     /// A picker to be filled.
-    QComboBox* addPicker(QFormLayout* section, const QString& label);
+    QComboBox* addPicker(QFormLayout* section, const QString& label, const QString& meaning);
     /// A picker over `choices`. A text that is none of them shows as nothing chosen.
-    void addChoice(QFormLayout* section, const QString& label, const QStringList& choices, std::string& text);
+    void addChoice(QFormLayout* section, const QString& label, const QStringList& choices, std::string& text,
+                   const QString& meaning);
     /// To be called when the form stands: from then on the button follows `isComplete`, and the first field
     /// has the focus.
     void start();
@@ -49,7 +52,7 @@ class ExportSheet : public Sheet {
     LogStore& store;
 
   private:
-    void addControl(QFormLayout* section, const QString& label, QWidget* control);
+    void addControl(QFormLayout* section, const QString& label, QWidget* control, const QString& meaning);
     void refresh();
 
     QWidget* form;

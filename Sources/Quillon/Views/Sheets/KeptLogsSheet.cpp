@@ -47,6 +47,11 @@ KeptLogsSheet::KeptLogsSheet(LogKeeper& logKeeper, QWidget* parent)
     : QDialog(parent), keeper(logKeeper), list(new QTreeWidget(this)) {
     setWindowTitle(QStringLiteral("Aufgehobene Logbücher"));
     list->setAccessibleName(windowTitle());
+    list->setWhatsThis(QStringLiteral(
+        "Was Quillon aufgehoben hat, das Neueste zuerst. „Warum“ sagt, bei welcher Gelegenheit. Ein Log mit "
+        "ungesicherten Änderungen verschwindet von hier, sobald es zurückgeholt und gesichert ist; was in "
+        "einer Datei stand, bleibt, bis Neueres es verdrängt."));
+    setWindowFlag(Qt::WindowContextHelpButtonHint);
     list->setColumnCount(Column::columnCount);
     list->setHeaderLabels({QStringLiteral("Name"), QStringLiteral("Ordner"), QStringLiteral("QSOs"),
                            QStringLiteral("Wann"), QStringLiteral("Warum")});

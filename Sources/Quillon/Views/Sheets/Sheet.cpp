@@ -13,6 +13,8 @@ namespace quillon {
 Sheet::Sheet(const QString& title, const QString& actionText, QWidget* parent)
     : QDialog(parent), body(new QVBoxLayout), remark(new QLabel(this)) {
     setWindowTitle(title);
+    // Where the desktop has a button for it beside the one that closes.
+    setWindowFlag(Qt::WindowContextHelpButtonHint);
     remark->setTextFormat(Qt::PlainText);
     remark->setForegroundRole(QPalette::PlaceholderText);
     auto* buttons = new QDialogButtonBox(this);

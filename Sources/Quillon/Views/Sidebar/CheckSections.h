@@ -29,7 +29,7 @@ class CheckSections : public QWidget {
     SidebarSection* checks();
     SidebarSection* saving();
     SidebarSection* exporting();
-    void addSwitch(SidebarSection& section, const QString& text, const QString& key);
+    void addSwitch(SidebarSection& section, const QString& text, const QString& key, const QString& meaning);
 
     LogStore& store;
     Settings& settings;

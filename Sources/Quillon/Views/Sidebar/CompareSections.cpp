@@ -29,6 +29,12 @@ CompareSections::CompareSections(CompareStore& compareStore, QWidget* parent)
     names->setTextFormat(Qt::PlainText);
     setWrappedText(*names, fields.join(QStringLiteral(" + ")));
     key->addUnderHeading(names);
+    explain(
+        *key,
+        QStringLiteral(
+            "Zwei QSOs gehören zusammen, wenn sie in all diesen Feldern übereinstimmen; Groß- und "
+            "Kleinschreibung zählen nicht. In allen anderen Feldern dürfen sie voneinander abweichen. "
+            "Mehrere gleiche werden in ihrer Reihenfolge gepaart. Andere Schlüssel kennt tallyrig compare."));
     column->addWidget(key);
 
     for (const auto signal : {&CompareStore::leftFileChanged, &CompareStore::leftFileNameChanged,

@@ -26,7 +26,7 @@ class ContestSections : public QWidget {
     SidebarSection* contest();
     SidebarSection* ownStation();
     void addText(SidebarSection& section, const QString& label, std::string OwnStation::*member,
-                 const QString& toolTip);
+                 const QString& toolTip, const QString& meaning);
 
     ContestStore& store;
 };

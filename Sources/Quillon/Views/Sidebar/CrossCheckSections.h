@@ -35,9 +35,9 @@ class CrossCheckSections : public QWidget {
     SidebarSection* scoring();
     SidebarSection* reports();
     void addSwitch(SidebarSection& section, const QString& text, bool isOn,
-                   void (CrossCheckStore::*set)(bool));
+                   void (CrossCheckStore::*set)(bool), const QString& meaning);
     void addPenalty(SidebarSection& section, const QString& label, int factor,
-                    void (CrossCheckStore::*set)(int));
+                    void (CrossCheckStore::*set)(int), const QString& meaning);
 
     CrossCheckStore& store;
     ContestStore& contest;

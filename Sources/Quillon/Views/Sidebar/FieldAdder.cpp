@@ -45,8 +45,13 @@ FieldAdder::FieldAdder(LogStore& logStore, QWidget* parent)
     own->setFocusPolicy(newFieldName->focusPolicy());
 
     auto* formSection = new SidebarSection(QString(), form);
-    formSection->addLabelled(QStringLiteral("Standardfeld"), picker);
-    formSection->addLabelled(QStringLiteral("Eigenes Feld"), own);
+    formSection->addLabelled(QStringLiteral("Standardfeld"), picker,
+                             QStringLiteral("Ein Feld aus ADIF, das dem ausgewählten QSO noch fehlt. Wer "
+                                            "tippt, findet es nach Namen oder deutscher Bezeichnung."));
+    formSection->addLabelled(
+        QStringLiteral("Eigenes Feld"), own,
+        QStringLiteral("Der Name eines Feldes, das nicht in der Liste steht, in Großbuchstaben gespeichert. "
+                       "Eingabe fügt es dem ausgewählten QSO hinzu."));
     auto* formLayout = new QVBoxLayout(form);
     formLayout->setContentsMargins(0, 0, 0, 0);
     formLayout->addWidget(formSection);

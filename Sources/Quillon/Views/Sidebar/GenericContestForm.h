@@ -27,7 +27,7 @@ class GenericContestForm : public QWidget {
     SidebarSection* duplicates();
     SidebarSection* multiplier();
     void addText(SidebarSection& section, const QString& label, std::string GenericContest::*member,
-                 const QString& toolTip);
+                 const QString& toolTip, const QString& meaning);
     template <typename Value>
     void set(Value GenericContest::*member, Value value);
 

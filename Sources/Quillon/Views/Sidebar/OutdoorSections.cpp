@@ -5,6 +5,7 @@
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Controls/ChoiceRow.h"
 #include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/SidebarSection.h"
 #include "Quillon/Views/Controls/Strings.h"
 
@@ -23,7 +24,8 @@ using tallyrig::SOTARole;
 
 /// A row with one choice for each of `values`, in their order; `set` takes the one that the user chooses.
 template <typename Values, typename Value, typename Set>
-ChoiceRow* rowOf(const Values& values, Value current, SidebarSection* section, Set set) {
+ChoiceRow* rowOf(const Values& values, Value current, SidebarSection* section, const QString& meaning,
+                 Set set) {
     QStringList labels;
     for (const Value value : values) {
         labels.append(toQString(rawValue(value)));
@@ -31,6 +33,7 @@ ChoiceRow* rowOf(const Values& values, Value current, SidebarSection* section, S
     auto* const row = new ChoiceRow(labels, static_cast<int>(current), section);
     QObject::connect(row, &ChoiceRow::chosen, section,
                      [&values, set](int index) { set(values[static_cast<std::size_t>(index)]); });
+    explain(*row, meaning);
     section->addUnderHeading(row);
     return row;
 }
@@ -75,8 +78,12 @@ OutdoorSections::OutdoorSections(LogStore& logStore, QWidget* parent) : QWidget(
 
 SidebarSection* OutdoorSections::programs() {
     auto* section = new SidebarSection(QStringLiteral("Outdoor-Programm"), this);
-    ChoiceRow* const row = rowOf(tallyrig::outdoorPrograms, store.outdoorProgram(), section,
-                                 [this](OutdoorProgram program) { store.setOutdoorProgram(program); });
+    ChoiceRow* const row = rowOf(
+        tallyrig::outdoorPrograms, store.outdoorProgram(), section,
+        QStringLiteral("Für welches Programm geprüft und exportiert wird: Parks (POTA), Gipfel (SOTA), "
+                       "Bunker (BOTA), Naturschutzgebiete (WWFF), Seen (LLOTA), Burgen (WCA) oder Berge "
+                       "(GMA). Danach richten sich die Form der Referenzen und der Wert von MY_SIG."),
+        [this](OutdoorProgram program) { store.setOutdoorProgram(program); });
     connect(&store, &LogStore::outdoorProgramChanged, row,
             [this, row] { row->setCurrent(static_cast<int>(store.outdoorProgram())); });
     return section;
@@ -84,8 +91,12 @@ SidebarSection* OutdoorSections::programs() {
 
 SidebarSection* OutdoorSections::roles() {
     auto* section = new SidebarSection(QStringLiteral("Rolle"), this);
-    ChoiceRow* const row = rowOf(tallyrig::sotaRoles, store.sotaRole(), section,
-                                 [this](SOTARole role) { store.setSotaRole(role); });
+    ChoiceRow* const row = rowOf(
+        tallyrig::sotaRoles, store.sotaRole(), section,
+        QStringLiteral(
+            "Activator ist, wer vom Gipfel gefunkt hat: jedes QSO braucht ihn in MY_SOTA_REF. Chaser ist, "
+            "wer Stationen auf Gipfeln gearbeitet hat: es zählen die QSOs mit deren Gipfel in SOTA_REF."),
+        [this](SOTARole role) { store.setSotaRole(role); });
     connect(&store, &LogStore::sotaRoleChanged, row,
             [this, row] { row->setCurrent(static_cast<int>(store.sotaRole())); });
     return section;

@@ -59,6 +59,10 @@ SidebarPane::SidebarPane(const AppStores& appStores, Settings& userSettings, QWi
     for (const OfferedMode& offered : offeredModes()) {
         modePicker->addItem(offered.label, QVariant::fromValue(static_cast<int>(offered.mode)));
     }
+    explain(*modePicker,
+            QStringLiteral("Was im Fenster zu sehen ist und woran gearbeitet wird: die Tabelle mit der "
+                           "Prüfung, der Vergleich zweier Logs, die Statistik, die Wertung eines Contests "
+                           "oder die Outdoor-Programme. Darunter stehen die Einstellungen dazu."));
     view->addUnderHeading(modePicker);
     column->addWidget(view);
     column->addStretch(1);
@@ -124,6 +128,8 @@ QWidget* SidebarPane::contestSections() {
     auto* choice = new SidebarSection(QStringLiteral("Contest-Ansicht"), both);
     auto* picker = new CalmComboBox(choice);
     picker->addItems({QStringLiteral("Eigenes Log"), QStringLiteral("Cross-Check")});
+    explain(*picker, QStringLiteral("„Eigenes Log“ wertet das geöffnete Log. „Cross-Check“ prüft die Logs "
+                                    "vieler Stationen gegeneinander und wertet sie danach."));
     choice->addUnderHeading(picker);
     auto* score = new ContestSections(contest, both);
     auto* crossCheck = new CrossCheckSections(stores.crossCheck, contest, both);

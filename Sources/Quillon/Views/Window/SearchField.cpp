@@ -22,6 +22,11 @@ SearchField::SearchField(LogStore& logStore, QWidget* parent) : QLineEdit(parent
     QAction* const picture = addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
     picture->setText(QStringLiteral("Suchen"));
     connect(picture, &QAction::triggered, this, &SearchField::startTyping);
+    setWhatsThis(
+        QStringLiteral("Zeigt nur die QSOs, in denen der Text vorkommt: in einem Wert oder im Namen eines "
+                       "Feldes, auch eines ohne Spalte. Groß- und Kleinschreibung sind gleich; gesucht wird, "
+                       "was gespeichert ist, ein Datum also als 20240315. Escape beendet die Suche. "
+                       "Gesichert und geprüft wird immer das ganze Log."));
     setFixedWidth(widthPx);
     setAcceptDrops(false);
     setText(store.searchText());
