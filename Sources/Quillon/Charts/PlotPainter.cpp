@@ -128,4 +128,9 @@ void PlotPainter::paint(QPaintDevice& device, const ChartPicture& picture) {
     Plot(picture).paint(device);
 }
 
+Library PlotPainter::library() const {
+    return {QStringLiteral("QCustomPlot"), QStringLiteral(QCUSTOMPLOT_VERSION_STR),
+            QStringLiteral("GPL-3.0-or-later")};
+}
+
 }  // namespace quillon

@@ -11,11 +11,12 @@ namespace quillon {
 /// in pixels of the chart.
 class PlotPainter : public QObject, public ChartPainter {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "quillon.ChartPainter/1")
+    Q_PLUGIN_METADATA(IID "quillon.ChartPainter/2")
     Q_INTERFACES(quillon::ChartPainter)
 
   public:
     void paint(QPaintDevice& device, const ChartPicture& picture) override;
+    Library library() const override;
 };
 
 }  // namespace quillon

@@ -9,6 +9,7 @@ namespace quillon::testing {
 class BlankPainter : public ChartPainter {
   public:
     void paint(QPaintDevice&, const ChartPicture&) override {}
+    Library library() const override { return {}; }
 };
 
 }  // namespace quillon::testing

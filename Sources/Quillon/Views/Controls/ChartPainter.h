@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quillon/Platform/Libraries.h"
 #include "Quillon/Views/Controls/ChartGeometry.h"
 
 #include <QColor>
@@ -38,6 +39,8 @@ class ChartPainter {
 
     /// Paints the whole of the chart onto `device`, on which nothing else paints meanwhile.
     virtual void paint(QPaintDevice& device, const ChartPicture& picture) = 0;
+    /// What it paints with.
+    virtual Library library() const = 0;
 };
 
 /// The painter of the module, the same each time; null if there is no such module beside the program.
@@ -45,4 +48,4 @@ ChartPainter* chartPainter();
 
 }  // namespace quillon
 
-Q_DECLARE_INTERFACE(quillon::ChartPainter, "quillon.ChartPainter/1")
+Q_DECLARE_INTERFACE(quillon::ChartPainter, "quillon.ChartPainter/2")

@@ -5,8 +5,8 @@
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/LogStore.h"
 #include "Quillon/Views/Table/QSOTableView.h"
-#include "Quillon/Views/Window/AboutBox.h"
 #include "Quillon/Views/Window/ContentView.h"
+#include "Quillon/Views/Window/HelpDesk.h"
 
 #include <algorithm>
 
@@ -260,11 +260,29 @@ std::vector<Command> makeCommands() {
          .iconName = QStringLiteral("view-fullscreen"),
          .shortcuts = {Qt::Key_F11},
          .run = [](ContentView& window) { window.toggleFullScreen(); }},
+        {.id = CommandID::handbook,
+         .menu = CommandMenu::help,
+         .title = QStringLiteral("&Handbuch"),
+         .iconName = QStringLiteral("help-contents"),
+         .shortcuts = {Qt::Key_F1},
+         .run = [](ContentView& window) { window.help().showHandbook(); }},
+        {.id = CommandID::explain,
+         .menu = CommandMenu::help,
+         .title = QStringLiteral("&Was ist das?"),
+         .iconName = QStringLiteral("help-whatsthis"),
+         .shortcuts = {Qt::SHIFT | Qt::Key_F1},
+         .run = [](ContentView& window) { window.help().explain(); }},
+        {.id = CommandID::shortcuts,
+         .menu = CommandMenu::help,
+         .title = QStringLiteral("&Tastenkürzel"),
+         .iconName = QStringLiteral("configure-shortcuts"),
+         .run = [](ContentView& window) { window.help().showShortcuts(); }},
         {.id = CommandID::about,
          .menu = CommandMenu::help,
          .title = QStringLiteral("&Über ") + appName(),
          .iconName = QStringLiteral("help-about"),
-         .run = [](ContentView& window) { showAboutBox(window); }},
+         .startsGroup = true,
+         .run = [](ContentView& window) { window.help().showAbout(); }},
     };
 }
 

@@ -48,6 +48,9 @@ enum class CommandID {
     moveColumnRight,
     removeColumn,
     fullScreen,
+    handbook,
+    explain,
+    shortcuts,
     about,
 };
 

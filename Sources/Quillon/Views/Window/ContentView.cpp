@@ -22,6 +22,7 @@
 #include "Quillon/Views/Window/Commands.h"
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/FileNotices.h"
+#include "Quillon/Views/Window/HelpDesk.h"
 #include "Quillon/Views/Window/KeptNotices.h"
 #include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/RedoKey.h"
@@ -78,6 +79,7 @@ ContentView::ContentView(const AppStores& appStores, Settings& userSettings, QSt
     dropHint = new DropHint(*this);
     new StoreSheets(stores.log, *this);
     new RedoKey(this);
+    helpDesk = new HelpDesk(stores, settings, *this);
     fileNotices = new FileNotices(stores, *notices, *this, [this](const QString& path) { openFile(path); });
     followStore();
     alertOfFailures(stores, *this);

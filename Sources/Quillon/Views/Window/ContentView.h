@@ -17,6 +17,7 @@ namespace quillon {
 class CommandActions;
 class DropHint;
 class FileNotices;
+class HelpDesk;
 class KeptNotices;
 class LogKeeper;
 class NoticeStrip;
@@ -49,6 +50,7 @@ class ContentView : public QMainWindow {
     LogStore& store() const { return stores.log; }
     QSOTableView& table() const;
     const CommandActions& actions() const { return *commandActions; }
+    HelpDesk& help() const { return *helpDesk; }
     /// Whether work is done beside the main thread, of which the window will show the result.
     bool isWorking() const;
     /// Whether the work area shows the table.
@@ -106,6 +108,7 @@ class ContentView : public QMainWindow {
     DropHint* dropHint = nullptr;
     NoticeStrip* notices = nullptr;
     FileNotices* fileNotices = nullptr;
+    HelpDesk* helpDesk = nullptr;
     KeptNotices* keptNotices = nullptr;  ///< Null where nothing is kept.
     bool hasComeUp = false;
 };
