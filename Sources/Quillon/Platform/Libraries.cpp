@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Libraries.h"
 
+#include <archive.h>
 #include <expat.h>
 #include <fmt/core.h>
 #include <oneapi/tbb/version.h>
@@ -41,6 +42,9 @@ QList<Library> linkedLibraries() {
         {QStringLiteral("{fmt}"),
          dotted(FMT_VERSION / (hundred * hundred), FMT_VERSION / hundred % hundred, FMT_VERSION % hundred),
          QStringLiteral("MIT")},
+        // Loaded with the module that unpacks a release.
+        {QStringLiteral("libarchive"), QStringLiteral(ARCHIVE_VERSION_ONLY_STRING),
+         QStringLiteral("BSD-2-Clause")},
     };
 }
 

@@ -13,7 +13,7 @@ struct Library {
     QString licence;  ///< Its short name, as SPDX lists it.
 };
 
-/// The libraries that the program is linked with, the largest first.
+/// The libraries that the program is linked with, itself or through one of its modules, the largest first.
 QList<Library> linkedLibraries();
 
 }  // namespace quillon
