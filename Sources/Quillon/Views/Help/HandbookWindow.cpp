@@ -237,6 +237,8 @@ void HandbookWindow::showHitCount() {
                           ? QStringLiteral("Nicht gefunden")
                           : QStringLiteral("%1 von %2")
                                 .arg(numberText(view->currentHit() + 1), numberText(view->hitCount())));
+    // For those who hear the field and do not see what stands beside it.
+    searchField->setAccessibleDescription(hitCount->text());
     QPalette colors = palette();
     if (isMissing) {
         colors.setColor(hitCount->foregroundRole(),

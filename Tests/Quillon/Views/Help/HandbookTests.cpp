@@ -16,6 +16,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <QToolBar>
 #include <QTreeWidget>
 
@@ -167,6 +168,22 @@ TEST_F(HandbookOnScreen, LeadsAlongLinksAndBack) {
         }
     });
     EXPECT_EQ(told.mid(0, 2).join(QLatin1Char('|')), QStringLiteral("B|https://a.example/x"));
+}
+
+TEST_F(HandbookOnScreen, ShowsPicturesAsWideAsTheyAreOrAsThePage) {
+    open(QStringLiteral("![Das Bild](pictures/quillon.png)\n\n![Keines](pictures/nowhere.png)\n"));
+    EXPECT_EQ(view().toPlainText().remove(QChar::ObjectReplacementCharacter),
+              QStringLiteral("\nDas Bild\n\nKeines"));
+    const QTextDocument& book = view().handbook();
+    const auto widthOf = [&book](const QTextBlock& block) {
+        return block.layout()->lineAt(0).naturalTextWidth();
+    };
+    const double margins = 2 * book.documentMargin();
+    EXPECT_NEAR(widthOf(book.begin()), view().viewport()->width() - margins, 1);
+    window->resize(2000, 400);
+    QApplication::processEvents();
+    EXPECT_EQ(widthOf(book.begin()), QImage(handbookPicture(QStringLiteral("pictures/quillon.png"))).width());
+    EXPECT_EQ(widthOf(book.findBlockByNumber(2)), 1);
 }
 
 TEST_F(HandbookOnScreen, FindsAndCounts) {
