@@ -283,6 +283,13 @@ std::vector<Command> makeCommands() {
          .iconName = QStringLiteral("help-about"),
          .startsGroup = true,
          .run = [](ContentView& window) { window.help().showAbout(); }},
+        {.id = CommandID::checkForUpdates,
+         .menu = CommandMenu::help,
+         .title = QStringLiteral("Nach U&pdates suchen…"),
+         .iconName = QStringLiteral("download"),
+         .shortcuts = {Qt::CTRL | Qt::ALT | Qt::Key_U},
+         .run = [](ContentView& window) { window.checkForUpdates(); },
+         .isEnabled = [](const ContentView& window) { return window.offersUpdates(); }},
     };
 }
 

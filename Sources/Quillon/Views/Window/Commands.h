@@ -52,6 +52,7 @@ enum class CommandID {
     explain,
     shortcuts,
     about,
+    checkForUpdates,
 };
 
 /// Where the shortcut of a command works.

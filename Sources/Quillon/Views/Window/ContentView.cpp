@@ -99,6 +99,16 @@ void ContentView::showKeptLogs() {
     keptNotices->showList();
 }
 
+void ContentView::offerUpdates(UpdateManager& manager, UpdateOffers::MakeInstaller makeInstaller) {
+    updateOffers = new UpdateOffers(manager, std::move(makeInstaller), *this);
+    connect(updateOffers, &UpdateOffers::noticed, statusLine, &StatusLine::showNotice);
+    commandActions->refresh();
+}
+
+void ContentView::checkForUpdates() {
+    updateOffers->check();
+}
+
 QSOTableView& ContentView::table() const {
     return workArea->table();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Quillon/Stores/AppStores.h"
+#include "Quillon/Views/Window/UpdateOffers.h"
 #include "Tallyrig/Analysis/ADIFComparison.h"
 
 #include <QMainWindow>
@@ -27,6 +28,7 @@ class SearchField;
 class Settings;
 class SidebarPane;
 class StatusLine;
+class UpdateManager;
 class WorkArea;
 
 /// The one main window: sidebar and work area side by side, menus and tool bar above them, the status line
@@ -46,6 +48,11 @@ class ContentView : public QMainWindow {
     void offerKept(LogKeeper& keeper);
     bool keepsLogs() const { return keptNotices != nullptr; }
     void showKeptLogs();
+
+    /// Shows what comes of looking for updates, with what installs one. `manager` outlives the window.
+    void offerUpdates(UpdateManager& manager, UpdateOffers::MakeInstaller makeInstaller);
+    bool offersUpdates() const { return updateOffers != nullptr; }
+    void checkForUpdates();
 
     LogStore& store() const { return stores.log; }
     QSOTableView& table() const;
@@ -109,7 +116,8 @@ class ContentView : public QMainWindow {
     NoticeStrip* notices = nullptr;
     FileNotices* fileNotices = nullptr;
     HelpDesk* helpDesk = nullptr;
-    KeptNotices* keptNotices = nullptr;  ///< Null where nothing is kept.
+    KeptNotices* keptNotices = nullptr;    ///< Null where nothing is kept.
+    UpdateOffers* updateOffers = nullptr;  ///< Null where nobody looks for updates.
     bool hasComeUp = false;
 };
 
