@@ -5,6 +5,7 @@
 #include "Quillon/Keeping/LogKeeper.h"
 #include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/FileNames.h"
+#include "Quillon/Updates/UpdateInstaller.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Window/ContentView.h"
@@ -35,12 +36,16 @@ void setUp(QApplication& application, QTranslator& translator) {
 
 QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
     : settings(userSettings()),
+      installPlatform(QCoreApplication::applicationDirPath()),
       logStore(*settings, panels, measurer, fileManager),
       compareStore(*settings, panels),
-      crossCheckStore(panels, fileManager) {
+      crossCheckStore(panels, fileManager),
+      updateManager(QStringLiteral(QUILLON_UPDATE_MANIFEST_URL), *settings, http, browser) {
     setUp(application, translator);
     contentView = std::make_unique<ContentView>(
         AppStores{logStore, compareStore, contestStore, crossCheckStore}, *settings, arguments);
+    contentView->offerUpdates(updateManager,
+                              [this] { return std::make_unique<UpdateInstaller>(http, installPlatform); });
     QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
         if (logStore.fileURL()) {
             panels.setFolder(folderOf(*logStore.fileURL()));
@@ -66,6 +71,12 @@ void QuillonApp::keepLogsIn(const QString& folder) {
             contentView->commitEditing();
             keeper->keepNow();
         });
+}
+
+void QuillonApp::lookForUpdates() {
+    // Queued, so that the window answers first: what transfers stand on is large.
+    QObject::connect(contentView.get(), &ContentView::cameUp, &updateManager, &UpdateManager::checkOnStartup,
+                     Qt::QueuedConnection);
 }
 
 void QuillonApp::tellOutOfMemory() {

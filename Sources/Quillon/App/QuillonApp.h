@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quillon/Platform/Desktop/DesktopBrowser.h"
 #include "Quillon/Platform/Desktop/DesktopFileManager.h"
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
+#include "Quillon/Platform/HTTP/ModuleHTTP.h"
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/ContestStore.h"
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Updates/DesktopInstallPlatform.h"
+#include "Quillon/Updates/UpdateManager.h"
 
 #include <QStringList>
 #include <QTranslator>
@@ -31,6 +35,8 @@ class QuillonApp {
     ~QuillonApp();
     /// Lets the log outlive the program in `folder`. To be called before the window is shown, if at all.
     void keepLogsIn(const QString& folder);
+    /// Looks for an update when the window has come up. To be called before it is shown, if at all.
+    void lookForUpdates();
 
     LogStore& store() { return logStore; }
     CompareStore& compare() { return compareStore; }
@@ -45,10 +51,14 @@ class QuillonApp {
     DesktopPanels panels;
     FontMeasurer measurer;
     DesktopFileManager fileManager;
+    DesktopBrowser browser;
+    ModuleHTTP http;
+    DesktopInstallPlatform installPlatform;
     LogStore logStore;
     CompareStore compareStore;
     ContestStore contestStore;
     CrossCheckStore crossCheckStore;
+    UpdateManager updateManager;
     std::unique_ptr<LogKeeper> keeper;
     std::unique_ptr<ContentView> contentView;
     std::unique_ptr<ProgramEnd> programEnd;

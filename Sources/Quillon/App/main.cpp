@@ -31,6 +31,7 @@ int main(int argumentCount, char** argumentValues) {
         picture->takeOf(quillonApp);
     } else {
         quillonApp.keepLogsIn(quillon::stateFolder() + QStringLiteral("/kept"));
+        quillonApp.lookForUpdates();
     }
     quillonApp.window().show();
     return QApplication::exec();
