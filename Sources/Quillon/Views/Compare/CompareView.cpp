@@ -161,6 +161,9 @@ QWidget* CompareView::wayThroughDifferences(QWidget* parent) {
     auto* way = new QWidget(parent);
     QHBoxLayout* const row = rowIn(way);
     differencesOnly = new QCheckBox(QStringLiteral("Nur Unterschiede"), way);
+    explain(*differencesOnly,
+            QStringLiteral("Lässt die Zeilen weg, deren QSOs auf beiden Seiten gleich sind. Eine Zeile, die "
+                           "beim Bearbeiten gleich wird, bleibt noch stehen."));
     connect(differencesOnly, &QCheckBox::toggled, this, [this](bool only) {
         commitEditing();
         comparison->setDifferencesOnly(only);

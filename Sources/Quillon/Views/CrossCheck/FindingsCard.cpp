@@ -91,6 +91,11 @@ FindingsCard::FindingsCard(CrossCheckStore& crossStore, std::size_t mostFindings
       further(noteLabel(QString(), this)) {
     auto* label = new QLabel(QStringLiteral("Zeigen"), this);
     nameBy(*label, *filterPicker);
+    explain(*filterPicker,
+            QStringLiteral("Welche QSOs des gewählten Logs unten stehen. „Auffälligkeiten“ sind alle, die "
+                           "nicht bestätigt sind, und die bestätigten mit einem Hinweis; darunter stehen die "
+                           "Befunde, die in diesem Log vorkommen."));
+    label->setWhatsThis(filterPicker->whatsThis());
     filterPicker->setMinimumWidth(
         filterPicker->fontMetrics().horizontalAdvance(QStringLiteral("Band/Modus abweichend (8.888)")) + 50);
     list->setAccessibleName(QStringLiteral("Befunde"));

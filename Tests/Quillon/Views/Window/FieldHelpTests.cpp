@@ -4,6 +4,8 @@
 #include "Quillon/Stores/CrossCheckStore.h"
 #include "Quillon/Support/LogStoreFixture.h"
 #include "Quillon/Views/Check/CheckResultsView.h"
+#include "Quillon/Views/Compare/CompareView.h"
+#include "Quillon/Views/CrossCheck/FindingsCard.h"
 #include "Quillon/Views/Sheets/BulkEditSheet.h"
 #include "Quillon/Views/Sheets/CabrilloExportSheet.h"
 #include "Quillon/Views/Sheets/EDIExportSheet.h"
@@ -53,11 +55,14 @@ TEST_F(FieldHelp, IsThereForEveryField) {
     CrossCheckStore cross{panels, fileManager};
     const SidebarPane sidebar(AppStores{store, compare, contest, cross}, settings);
     EXPECT_FALSE(SearchField(store).whatsThis().isEmpty());
+    // Beside it there are the editors of cells, whose fields ADIF explains.
+    EXPECT_FALSE(CompareView(store, compare).findChild<QCheckBox*>()->whatsThis().isEmpty());
     for (const AppMode mode : allAppModes) {
         store.setMode(mode);
         EXPECT_EQ(unexplained(sidebar), "") << static_cast<int>(mode);
     }
     EXPECT_EQ(unexplained(CheckResultsView(store)), "");
+    EXPECT_EQ(unexplained(FindingsCard(cross, 1)), "");
     EXPECT_EQ(unexplained(BulkEditSheet(store, "BAND")), "");
     EXPECT_EQ(unexplained(CabrilloExportSheet(store)), "");
     EXPECT_EQ(unexplained(EDIExportSheet(store)), "");

@@ -89,6 +89,7 @@ TEST_F(KeptLogNotices, ShowAListOfAll) {
     press(*strip, "Ansehen");
     EXPECT_EQ(row(0), "log.adi|1|Von außen beendet");
     EXPECT_EQ(row(1), "log.adi|1|Fenster geschlossen");
+    EXPECT_FALSE(list().whatsThis().isEmpty());
     press(sheet(), "&Löschen …");
     press(*sheet().findChild<QMessageBox*>(), "&Löschen");
     EXPECT_EQ(list().topLevelItemCount(), 1);
