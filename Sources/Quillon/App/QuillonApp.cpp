@@ -7,12 +7,14 @@
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Updates/UpdateInstaller.h"
 #include "Quillon/Views/Controls/Colors.h"
+#include "Quillon/Views/Controls/FocusMarkStyle.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QStyle>
 
 namespace quillon {
 
@@ -23,7 +25,8 @@ void setUp(QApplication& application, QTranslator& translator) {
     QApplication::setApplicationVersion(appVersion());
     QApplication::setDesktopFileName(QStringLiteral("quillon"));
     QApplication::setWindowIcon(applicationIcon());
-    makeSecondaryTextReadable();
+    QApplication::setStyle(new FocusMarkStyle(QApplication::style()->name()));
+    makePaletteReadable();
     const QLocale german(QLocale::German, QLocale::Germany);
     QLocale::setDefault(german);
     if (translator.load(german, QStringLiteral("qtbase"), QStringLiteral("_"),

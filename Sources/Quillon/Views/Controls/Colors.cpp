@@ -122,10 +122,22 @@ void calmSelection(QPalette& palette, const QWidget* list) {
     }
 }
 
-void makeSecondaryTextReadable() {
+void makePaletteReadable() {
     QPalette palette = QGuiApplication::palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        const auto readable = [&](QPalette::ColorRole role, const QList<QColor>& grounds) {
+            const QColor now = palette.color(group, role);
+            // What is readable is left to the desktop.
+            if (const QColor shade = standingOut(now, grounds, textContrast); shade != now) {
+                palette.setColor(group, role, shade);
+            }
+        };
         palette.setColor(group, QPalette::PlaceholderText, secondaryTextColor(palette, group));
+        readable(QPalette::HighlightedText, {palette.color(group, QPalette::Highlight)});
+        const QList<QColor> grounds = {palette.color(group, QPalette::Window),
+                                       palette.color(group, QPalette::Base)};
+        readable(QPalette::Link, grounds);
+        readable(QPalette::LinkVisited, grounds);
     }
     if (palette != QGuiApplication::palette()) {
         QGuiApplication::setPalette(palette);

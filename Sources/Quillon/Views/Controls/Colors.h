@@ -41,9 +41,10 @@ QColor secondaryTextColor(const QPalette& palette, QPalette::ColorGroup group = 
 /// Lets what is chosen in `list` stand back in the palette of its rows while the keyboard is elsewhere.
 void calmSelection(QPalette& palette, const QWidget* list);
 
-/// Makes `secondaryTextColor` the one that the whole application paints secondary text and placeholders in
-/// (`QPalette::PlaceholderText`): the one that comes with a desktop is often too pale. To be called whenever
-/// the palette of the application changes; all other colours go on following the desktop.
-void makeSecondaryTextReadable();
+/// Makes those colours of the whole application readable that often are not as a desktop hands them out: text
+/// that is chosen (on the desktop's accent), links, and secondary text and placeholders, which become
+/// `secondaryTextColor` (`QPalette::PlaceholderText`). To be called whenever the palette of the application
+/// changes; all other colours go on following the desktop.
+void makePaletteReadable();
 
 }  // namespace quillon

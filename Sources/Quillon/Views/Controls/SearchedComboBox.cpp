@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Controls/SearchedComboBox.h"
 
+#include "Quillon/Views/Controls/FocusMarkStyle.h"
+
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QListView>
-#include <QProxyStyle>
 #include <QRegularExpression>
 
 #include <vector>
@@ -67,12 +68,12 @@ class SearchedList : public QListView {
 };
 
 /// Lets the list open below the picker with a scroll bar: as a menu it covers the screen from top to bottom.
-class ListStyle : public QProxyStyle {
+class ListStyle : public FocusMarkStyle {
   public:
-    using QProxyStyle::QProxyStyle;
+    using FocusMarkStyle::FocusMarkStyle;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+        return hint == SH_ComboBox_Popup ? 0 : FocusMarkStyle::styleHint(hint, option, widget, returned);
     }
 };
 
@@ -80,7 +81,7 @@ class ListStyle : public QProxyStyle {
 
 SearchedComboBox::SearchedComboBox(QWidget* parent) : CalmComboBox(parent) {
     setMaxVisibleItems(20);
-    auto* listStyle = new ListStyle(style()->name());
+    auto* listStyle = new ListStyle(FocusMarkStyle::drawingStyleOf(*style()));
     listStyle->setParent(this);
     setStyle(listStyle);
     setView(new SearchedList(this));

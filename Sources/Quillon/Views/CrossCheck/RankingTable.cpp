@@ -41,14 +41,17 @@ class RankingDelegate : public QStyledItemDelegate {
         style.drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
 
         const bool isSelected = item.state.testFlag(QStyle::State_Selected);
+        const bool isAlternate = item.features.testFlag(QStyleOptionViewItem::Alternate);
         const auto tone = static_cast<Tone>(index.data(RankingModel::toneRole).toInt());
         const QColor plain = item.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
         painter->save();
         painter->setFont(item.font);
         // On the ground of a chosen row none of the tones reads as well as its text.
-        painter->setPen(isSelected || tone == Tone::plain
-                            ? plain
-                            : toneColor(tone, item.palette, item.palette.color(QPalette::Base)));
+        painter->setPen(
+            isSelected || tone == Tone::plain
+                ? plain
+                : toneColor(tone, item.palette,
+                            item.palette.color(isAlternate ? QPalette::AlternateBase : QPalette::Base)));
         // Under its heading.
         const int margin = style.pixelMetric(QStyle::PM_HeaderMargin, nullptr, item.widget);
         QRect line = item.rect.adjusted(margin, 0, -margin, 0);

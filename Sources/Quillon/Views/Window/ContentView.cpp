@@ -287,7 +287,7 @@ void ContentView::showTitle() {
 void ContentView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
         matchIconsToPalette();
-        makeSecondaryTextReadable();
+        makePaletteReadable();
     }
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && fileNotices != nullptr) {
         fileNotices->look();

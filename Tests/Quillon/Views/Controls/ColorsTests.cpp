@@ -38,7 +38,7 @@ TEST(SecondaryText, IsReadableOnEveryDesktop) {
         QPalette palette(text, window, window, window, window, text, text, base, window);
         palette.setColor(QPalette::AlternateBase, alternate);
         QApplication::setPalette(palette);
-        makeSecondaryTextReadable();
+        makePaletteReadable();
         const QColor secondary = QApplication::palette().color(QPalette::PlaceholderText);
         for (const QColor& ground : {window, base, alternate}) {
             EXPECT_GE(contrast(secondary, ground), textContrast) << ground.name().toStdString();
