@@ -5,7 +5,6 @@
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/Descriptor.h"
 #include "Quillon/Platform/Files/FolderCopy.h"
-#include "Quillon/Platform/Files/SystemError.h"
 #include "Quillon/Platform/Modules.h"
 
 #include <QCoreApplication>
@@ -35,12 +34,8 @@ std::string onDisk(const QString& path) {
     return QFile::encodeName(path).toStdString();
 }
 
-InstallError systemError(int error) {
-    return {QString::fromStdString(systemErrorSentence(error))};
-}
-
 InstallPlatform::Outcome outcome(const std::error_code& error) {
-    return error ? InstallPlatform::Outcome(systemError(error.value())) : std::nullopt;
+    return error ? InstallPlatform::Outcome(InstallError::ofSystem(error.value())) : std::nullopt;
 }
 
 }  // namespace
@@ -53,7 +48,7 @@ std::variant<QString, InstallError> DesktopInstallPlatform::tempDirectory() {
     const QString path = caches + QStringLiteral("/quillon");
     QDir().mkpath(caches);
     if (::mkdir(onDisk(path).c_str(), S_IRWXU) != 0 && errno != EEXIST) {
-        return systemError(errno);
+        return InstallError::ofSystem(errno);
     }
     const Descriptor opened(::open(onDisk(path).c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     struct stat status = {};
@@ -75,7 +70,7 @@ std::variant<InstallLock, InstallError> DesktopInstallPlatform::lockInstallation
     auto file = std::make_shared<Descriptor>(
         ::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!file->isOpen()) {
-        return systemError(errno);
+        return InstallError::ofSystem(errno);
     }
     // Where the file system has no locks it has to go without.
     if (::flock(file->number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
@@ -160,15 +155,16 @@ QString DesktopInstallPlatform::program(const QString& bundle) {
 }
 
 InstallPlatform::Outcome DesktopInstallPlatform::move(const QString& from, const QString& to) {
-    return std::rename(onDisk(from).c_str(), onDisk(to).c_str()) == 0 ? std::nullopt
-                                                                      : Outcome(systemError(errno));
+    return std::rename(onDisk(from).c_str(), onDisk(to).c_str()) == 0
+               ? std::nullopt
+               : Outcome(InstallError::ofSystem(errno));
 }
 
 InstallPlatform::Outcome DesktopInstallPlatform::ditto(const QString& from, const QString& to) {
     const int error = copyFolder(onDisk(from), onDisk(to));
     return error == 0 ? std::nullopt
                       : Outcome(InstallError::processFailed(QStringLiteral("Kopieren"), error,
-                                                            systemError(error).text));
+                                                            InstallError::ofSystem(error).text));
 }
 
 InstallPlatform::Outcome DesktopInstallPlatform::remove(const QString& path) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Updates/InstallError.h"
 
+#include "Quillon/Platform/Files/SystemError.h"
+
 namespace quillon {
 
 InstallError InstallError::badURL() {
@@ -45,6 +47,10 @@ InstallError InstallError::processFailed(const QString& tool, int code, const QS
     // All in one, for a place mark in the words would be taken for one of ours.
     return {QStringLiteral("%1 schlug fehl (Exit %2): %3")
                 .arg(tool, QString::number(code), said.right(mostCharacters).trimmed())};
+}
+
+InstallError InstallError::ofSystem(int error) {
+    return {QString::fromStdString(systemErrorSentence(error))};
 }
 
 }  // namespace quillon

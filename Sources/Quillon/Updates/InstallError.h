@@ -22,6 +22,9 @@ struct InstallError {
     /// blanks and line ends around them.
     static InstallError processFailed(const QString& tool, int code, const QString& said);
 
+    /// What an error number of the system means.
+    static InstallError ofSystem(int error);
+
     friend bool operator==(const InstallError&, const InstallError&) = default;
 };
 

@@ -2,7 +2,6 @@
 #include "Quillon/Updates/UpdateDownload.h"
 
 #include "Quillon/Platform/AppInfo.h"
-#include "Quillon/Platform/Files/SystemError.h"
 
 #include <QFile>
 
@@ -21,10 +20,6 @@ namespace {
 constexpr int mostAttempts = 3;
 constexpr std::chrono::milliseconds pauseBeforeRetry(1500);
 constexpr std::chrono::milliseconds pauseBetweenProgress(100);
-
-InstallError systemError() {
-    return {QString::fromStdString(systemErrorSentence(errno))};
-}
 
 }  // namespace
 
@@ -56,12 +51,12 @@ void UpdateDownload::start(const QString& folder) {
 std::optional<InstallError> UpdateDownload::createFile(const QString& folder) {
     static_cast<void>(platform.remove(folder));
     if (::mkdir(QFile::encodeName(folder).constData(), S_IRWXU) != 0) {
-        return systemError();
+        return InstallError::ofSystem(errno);
     }
     path = folder + QLatin1Char('/') + fileName(address);
     file = Descriptor(::open(QFile::encodeName(path).constData(),
                              O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    return file.isOpen() ? std::nullopt : std::optional(systemError());
+    return file.isOpen() ? std::nullopt : std::optional(InstallError::ofSystem(errno));
 }
 
 void UpdateDownload::attempt() {
@@ -90,7 +85,7 @@ void UpdateDownload::takeResponse(const HTTPResponse& response) {
         // Whoever ignores the range begins anew.
         if (received > 0 &&
             (::ftruncate(file.number(), 0) != 0 || ::lseek(file.number(), 0, SEEK_SET) != 0)) {
-            end(systemError());
+            end(InstallError::ofSystem(errno));
             return;
         }
         received = 0;
@@ -106,7 +101,7 @@ void UpdateDownload::takeBlock(const QByteArray& block) {
     if (const int error =
             writeAll(file.number(), {block.constData(), static_cast<std::size_t>(block.size())});
         error != 0) {
-        end(InstallError{QString::fromStdString(systemErrorSentence(error))});
+        end(InstallError::ofSystem(error));
         return;
     }
     received += block.size();

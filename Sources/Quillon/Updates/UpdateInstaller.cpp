@@ -2,7 +2,7 @@
 #include "Quillon/Updates/UpdateInstaller.h"
 
 #include "Quillon/Platform/FileNames.h"
-#include "Quillon/Platform/Files/SystemError.h"
+#include "Quillon/Platform/Files/Descriptor.h"
 #include "Quillon/Updates/UpdateDownload.h"
 
 #include <QCryptographicHash>
@@ -33,17 +33,13 @@ InstallError givenUp() {
     return {QStringLiteral("Die Installation wurde abgebrochen.")};
 }
 
-InstallError systemError() {
-    return {QString::fromStdString(systemErrorSentence(errno))};
-}
-
 Outcome checkSum(const QString& dmg, const QString& expectedSHA256, const InstallWork& work) {
     if (expectedSHA256.isEmpty()) {
         return InstallError::noChecksum();
     }
     const Descriptor file(::open(QFile::encodeName(dmg).constData(), O_RDONLY | O_CLOEXEC));
     if (!file.isOpen()) {
-        return systemError();
+        return InstallError::ofSystem(errno);
     }
     constexpr qsizetype blockBytes = 4'194'304;
     QByteArray block(blockBytes, Qt::Uninitialized);
@@ -51,7 +47,7 @@ Outcome checkSum(const QString& dmg, const QString& expectedSHA256, const Instal
     while (!work.isCancelled()) {
         const ssize_t count = ::read(file.number(), block.data(), static_cast<std::size_t>(block.size()));
         if (count < 0 && errno != EINTR) {
-            return systemError();
+            return InstallError::ofSystem(errno);
         }
         if (count == 0) {
             const QString found = QString::fromLatin1(hash.result().toHex());
