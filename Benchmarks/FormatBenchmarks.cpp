@@ -11,6 +11,8 @@
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Formats/EDIParser.h"
 #include "Tallyrig/Formats/EDIWriter.h"
+#include "Tallyrig/Formats/LogReader.h"
+#include "Tallyrig/Formats/WritingReport.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Timing.h"
 
@@ -127,6 +129,16 @@ void reportingOnADX(benchmark::State& state) {
     besideReading<ADXParser>(state, adxWriter.write(ADIFParser::parse(logOf(100'000))));
 }
 BENCHMARK(reportingOnADX)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// Reading back what is about to be saved, beside reading it as a log that is opened ("readings").
+void readingBackADX(benchmark::State& state) {
+    const ADIFDocument document = ADIFParser::parse(logOf(100'000));
+    const std::string text = adxWriter.write(document);
+    inTurns(
+        state, "readings", [&] { benchmark::DoNotOptimize(readBack(adxWriter, document, text)); },
+        [&] { benchmark::DoNotOptimize(LogReader::read(text)); });
+}
+BENCHMARK(readingBackADX)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void reportingOnCabrillo(benchmark::State& state) {
     const ADIFDocument document = contestLog(100'000);

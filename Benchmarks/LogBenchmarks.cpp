@@ -3,6 +3,8 @@
 // bytes, made in turns with it in one run, and says how many times that pass it takes ("passes").
 
 #include "MemoryCount.h"
+#include "Tallyrig/Formats/LogReader.h"
+#include "Tallyrig/Formats/WritingReport.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
@@ -51,6 +53,18 @@ void writing(benchmark::State& state) {
     besideThePass(state, text, count, [&] { benchmark::DoNotOptimize(writer.write(document)); });
 }
 BENCHMARK(writing)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// Reading back what is about to be saved, beside reading it as a log that is opened ("readings").
+void readingBack(benchmark::State& state) {
+    const ADIFDocument document = ADIFParser::parse(logOf(static_cast<std::size_t>(state.range(0))));
+    const ADIFWriter writer{"Quillon", "1", "3.1.7", true};
+    const std::string text = writer.write(document);
+    inTurns(
+        state, "readings", [&] { benchmark::DoNotOptimize(readBack(writer, document, text)); },
+        [&] { benchmark::DoNotOptimize(LogReader::read(text)); });
+}
+BENCHMARK(readingBack)->Arg(10'000)->Arg(100'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(readingBack)->Arg(1'000'000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// The full check with all switches on, beside reading the log.
 void checking(benchmark::State& state) {
