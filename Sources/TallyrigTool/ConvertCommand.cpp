@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Catalogue/LogWriters.h"
+#include "Quillon/Catalogue/LossWords.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Formats/EDIWriter.h"
+#include "Tallyrig/Formats/WritingReport.h"
 #include "Tallyrig/Validation/ADIFSpec317.h"
 #include "Tallyrig/Validation/ADIFValidator.h"
 #include "TallyrigTool/Commands.h"
@@ -65,26 +67,45 @@ Header headerFor(const ADIFDocument& document, const Options& options) {
     return header;
 }
 
+/// A log in its new format, and what of it would not come back.
+struct Converted {
+    std::string text;
+    WritingReport losses;
+};
+
 template <typename Writer>
-std::string writtenBy(const Writer& writer, const ADIFDocument& document, const Options& options) {
+Converted writtenBy(const Writer& writer, const ADIFDocument& document, const Options& options) {
     if (!options.settings.empty()) {
         throw Failure{"--set gilt nur für cbr und edi (Hilfe: tallyrig convert --help)"};
     }
-    return options.createdTimestamp.empty() ? writer.write(document)
-                                            : writer.write(document, options.createdTimestamp);
+    Converted result;
+    result.text = options.createdTimestamp.empty() ? writer.write(document)
+                                                   : writer.write(document, options.createdTimestamp);
+    result.losses = readBack(writer, document, result.text);
+    return result;
 }
 
-std::string converted(const ADIFDocument& document, const Options& options) {
+/// Cabrillo and EDI have room for the columns of a contest only: what else a log holds is left out on
+/// purpose, and nothing is said of it.
+Converted converted(const ADIFDocument& document, const Options& options) {
     if (options.format == "cbr") {
-        return CabrilloWriter{headerFor<CabrilloHeader>(document, options)}.write(document);
+        return {CabrilloWriter{headerFor<CabrilloHeader>(document, options)}.write(document), {}};
     }
     if (options.format == "edi") {
-        return EDIWriter{headerFor<EDIHeader>(document, options)}.write(document);
+        return {EDIWriter{headerFor<EDIHeader>(document, options)}.write(document), {}};
     }
     const bool hasHeader = !options.hasNoHeader;
     return options.format == "adx"
                ? writtenBy(quillon::adxWriter(options.adifVersion, hasHeader), document, options)
                : writtenBy(quillon::adifWriter(options.adifVersion, hasHeader), document, options);
+}
+
+void complainOfLosses(const WritingReport& losses, const LogFile& log) {
+    constexpr std::size_t mostLines = 10;
+    complain(log.argument + ": " + quillon::LossWords::summary(losses));
+    for (const std::string& line : quillon::LossWords::lines(losses, log.document, mostLines)) {
+        complain("  " + line);
+    }
 }
 
 /// The names of header members, in lines of a help page.
@@ -108,6 +129,9 @@ Command convertCommand(CLI::App& program) {
     CLI::App& usage = addCommand(
         program, "convert", "Schreibt ein Log neu, in ein anderes Format oder mit anderem Kopf.",
         "tallyrig convert --to cbr --set contest=WAG -o neu.cbr Examples/vereinsabend.adi\n\n"
+        "Was adi oder adx von dem Log nicht tragen kann, wird auf der Fehlerausgabe genannt; geschrieben "
+        "wird\n"
+        "trotzdem, und der Rückgabewert ist 1.\n\n"
         "Die Köpfe von cbr und edi beginnen mit dem, was das Log nahelegt. NAME ist bei cbr\n" +
             lines(CabrilloHeader::memberNames()) + "\nund bei edi\n" + lines(EDIHeader::memberNames()));
     const auto options = std::make_shared<Options>();
@@ -135,13 +159,17 @@ Command convertCommand(CLI::App& program) {
     return {&usage, [options](Output& output) {
                 const LogFile log = readLogWithReport(options->file);
                 complainOfReading(log);
-                const std::string text = converted(log.document, *options);
+                const auto [text, losses] = converted(log.document, *options);
                 if (options->target.empty() || options->target == "-") {
                     output.write(text);
                 } else {
                     writeFile(options->target, text);
                 }
-                return ExitStatus::good;
+                if (losses.isEmpty()) {
+                    return ExitStatus::good;
+                }
+                complainOfLosses(losses, log);
+                return ExitStatus::findings;
             }};
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -210,6 +211,23 @@ TEST_F(Convert, WritesADITextAndADX) {
               std::string::npos);
 }
 
+TEST_F(Convert, NamesWhatWouldNotComeBack) {
+    const Ran adx = run("tallyrig convert --to adx -o neu.adx -", "<EOH><CALL:1>A<NOTES:1>\x01<EOR>");
+    EXPECT_EQ(adx.status, 1);
+    EXPECT_NE(read("neu.adx").find("NOTES"), std::string::npos) << "written all the same";
+    EXPECT_EQ(adx.complaint,
+              "tallyrig: -: Nicht alles käme beim Lesen wieder: 1 Angabe in 1 QSO; das letzte QSO würde gar "
+              "nicht gelesen.\ntallyrig:   QSO 1 mit „A“: „NOTES“: Der Wert „␁“ ginge verloren.\n");
+    std::string many;
+    for (int record = 0; record < 30; ++record) {
+        many += "<RECORD><A:B>1</A:B></RECORD>";
+    }
+    const Ran adi = run("tallyrig convert --to adi -", "<ADX><RECORDS>" + many + "</RECORDS></ADX>");
+    EXPECT_EQ(adi.status, 1);
+    EXPECT_TRUE(adi.complaint.ends_with("\ntallyrig:   und 20 weitere\n")) << adi.complaint;
+    EXPECT_EQ(std::ranges::count(adi.complaint, '\n'), 13) << "with what the reader says and the sum";
+}
+
 TEST_F(Convert, StartsHeadersFromTheSuggestedOnesAndSetsWhatIsAsked) {
     const std::string log = "<CALL:6>DL1QZA<STATION_CALLSIGN:6>DL0QLN<MY_GRIDSQUARE:6>JO40HA<EOR>";
     const std::pair<std::string, const char*> cases[] = {
@@ -344,7 +362,7 @@ TEST_F(Readme, ShowsWhatTheToolPrints) {
             printed += line + "\n";
         }
     }
-    EXPECT_EQ(commands, 22);
+    EXPECT_EQ(commands, 23);
 }
 
 }  // namespace
