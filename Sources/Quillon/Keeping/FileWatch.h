@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quillon/Keeping/FileState.h"
+#include "Quillon/Platform/Files/FileState.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>

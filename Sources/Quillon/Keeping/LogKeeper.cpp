@@ -148,6 +148,18 @@ void LogKeeper::tellFailure(const QString& sentence) {
     }
 }
 
+/// How many QSOs the file holds as far as that is known; otherwise 0.
+std::size_t LogKeeper::knownRecordsIn(const QString& path) const {
+    if (store.fileURL() == path) {
+        return store.savedDocument().records().size();
+    }
+    if (compare.rightURL() == path) {
+        return savedRight.records().size();
+    }
+    const bool isLeft = compare.leftFile() != nullptr && compare.leftFile()->url == path;
+    return isLeft ? savedLeft.records().size() : 0;
+}
+
 void LogKeeper::keepFormerFile(const QString& path) {
     const std::string file = path.toStdString();
     const FileState now = FileState::of(file);
@@ -155,8 +167,7 @@ void LogKeeper::keepFormerFile(const QString& path) {
     if (known != savedFiles.end() && known->second == now) {
         return;
     }
-    const bool isOfLog = store.fileURL() == path;
-    if (const auto error = kept.keepFormerFile(file, isOfLog ? store.savedDocument().records().size() : 0)) {
+    if (const auto error = kept.keepFormerFile(file, knownRecordsIn(path))) {
         tellFailure(QStringLiteral("Was in der Datei stand, wird nicht aufgehoben: ") + sentence(*error));
     }
     savedFiles[file] = now;

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quillon/Keeping/FileState.h"
 #include "Quillon/Keeping/InHandKeeper.h"
+#include "Quillon/Platform/Files/FileState.h"
 #include "Quillon/Platform/Kept/KeptLogs.h"
 #include "Tallyrig/Log/ADIFDocument.h"
 
 #include <QObject>
 #include <QString>
 
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -73,6 +74,7 @@ class LogKeeper : public QObject {
     LogInHand rightSide();
     static LogInHand side(const tallyrig::ADIFDocument& document, bool isDirty,
                           const std::optional<QString>& path, tallyrig::ADIFDocument& saved);
+    std::size_t knownRecordsIn(const QString& path) const;
     void keepFormerFile(const QString& path);
     void noteSaved(const QString& path);
     void tellFailure(const QString& sentence);

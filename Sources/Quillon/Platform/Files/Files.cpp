@@ -111,7 +111,8 @@ std::variant<std::string, FileError> readStandardInput() {
     return contentOf(STDIN_FILENO, 0);
 }
 
-std::optional<FileError> replaceFile(const std::string& path, std::string_view content, Lasting lasting) {
+std::optional<FileError> replaceFile(const std::string& path, std::string_view content, Lasting lasting,
+                                     const std::function<bool()>& isWanted) {
     struct stat old = {};
     const bool isThere = ::stat(path.c_str(), &old) == 0;
     if (const int refusal = isThere ? refusalOf(old) : 0; refusal != 0) {
@@ -137,7 +138,13 @@ std::optional<FileError> replaceFile(const std::string& path, std::string_view c
         return FileError{
             "Die Datei gehört einem anderen Benutzer und würde ihm durch das Speichern genommen."};
     }
-    if ((lasting == Lasting::atOnce && ::fsync(file.number()) != 0) || !file.moveTo(*target)) {
+    if (lasting == Lasting::atOnce && ::fsync(file.number()) != 0) {
+        return writingError(errno);
+    }
+    if (isWanted && !isWanted()) {
+        return FileError{"Die Datei ist inzwischen eine andere."};
+    }
+    if (!file.moveTo(*target)) {
         return writingError(errno);
     }
     if (lasting == Lasting::atOnce) {

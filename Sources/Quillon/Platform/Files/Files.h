@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -36,8 +37,12 @@ enum class Lasting { atOnce, later };
 ///
 /// What is written has no name until it is complete, where the file system can do that. A process that dies
 /// leaves at most one file ".quillon-N.tmp" behind, which the next to save in that folder removes.
+///
+/// `isWanted`, if there is one, is asked in the last moment before the file is replaced; where it says no,
+/// that is a failure as any other.
 std::optional<FileError> replaceFile(const std::string& path, std::string_view content,
-                                     Lasting lasting = Lasting::atOnce);
+                                     Lasting lasting = Lasting::atOnce,
+                                     const std::function<bool()>& isWanted = {});
 /// Waits until all that was written to the disk of this folder is there. Absent on success.
 std::optional<FileError> makeLast(const std::string& folder);
 

@@ -135,7 +135,7 @@ std::variant<tallyrig::ADIFDocument, FileError> KeptLogs::read(const KeptEntry& 
     }
     if (entry.note.kind == KeptKind::formerFile) {
         if (const auto bytes = file->readBytes()) {
-            return tallyrig::LogReader::read(*bytes).document;
+            return tallyrig::LogReader::readWithoutReport(*bytes).document;
         }
     } else if (auto document = file->readLog()) {
         return *std::move(document);

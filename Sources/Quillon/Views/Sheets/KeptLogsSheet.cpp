@@ -11,10 +11,13 @@
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <set>
 
 namespace quillon {
@@ -85,8 +88,6 @@ KeptLogsSheet::KeptLogsSheet(LogKeeper& logKeeper, QWidget* parent)
     layout->addWidget(nothing);
     layout->addWidget(remark);
     layout->addWidget(box);
-    const int letter = fontMetrics().averageCharWidth();
-    resize(110 * letter, 24 * fontMetrics().height());
 
     connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
     const auto bringBack = [this] { closeWith(&KeptLogsSheet::bringBackWanted); };
@@ -98,6 +99,7 @@ KeptLogsSheet::KeptLogsSheet(LogKeeper& logKeeper, QWidget* parent)
     new QShortcut(Qt::Key_Delete, list, this, &KeptLogsSheet::askToRemove, Qt::WidgetShortcut);
     connect(&keeper, &LogKeeper::entriesChanged, this, &KeptLogsSheet::fill);
     fill();
+    resizeToList();
     if (!entries.empty()) {
         list->setCurrentItem(list->topLevelItem(0));
     }
@@ -124,6 +126,20 @@ void KeptLogsSheet::fill() {
     }
     nothing->setVisible(entries.empty());
     offerActions();
+}
+
+/// The last column takes what is left, and is to be read as well.
+void KeptLogsSheet::resizeToList() {
+    constexpr int leastLetters = 110;
+    const QAbstractItemView* const view = list;
+    const int reasons =
+        std::max(view->sizeHintForColumn(Column::reason), list->header()->sectionSizeHint(Column::reason));
+    const QMargins margins = layout()->contentsMargins();
+    const int columns = list->header()->sectionPosition(Column::reason) + reasons;
+    const int around = margins.left() + margins.right() + 2 * list->frameWidth() +
+                       style()->pixelMetric(QStyle::PM_ScrollBarExtent) + fontMetrics().averageCharWidth();
+    const int wanted = std::max(columns + around, leastLetters * fontMetrics().averageCharWidth());
+    resize(std::min(wanted, screen()->availableSize().width()), 24 * fontMetrics().height());
 }
 
 void KeptLogsSheet::offerActions() {

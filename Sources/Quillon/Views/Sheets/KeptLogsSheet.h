@@ -35,6 +35,7 @@ class KeptLogsSheet : public QDialog {
 
   private:
     void fill();
+    void resizeToList();
     void offerActions();
     std::vector<KeptEntry> chosen() const;
     /// Closes the sheet and sends `wanted` with what is chosen.

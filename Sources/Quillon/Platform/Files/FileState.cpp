@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quillon/Keeping/FileState.h"
+#include "Quillon/Platform/Files/FileState.h"
 
 #include <sys/stat.h>
 
