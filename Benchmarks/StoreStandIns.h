@@ -32,6 +32,7 @@ class NoPanels : public Panels {
     }
     QStringList filesAndFoldersToOpen(const QString&) override { return {}; }
     std::optional<QString> folderToWriteTo(const QString&, const QString&) override { return std::nullopt; }
+    LossAnswer answerTo(const LossQuestion&) override { return LossAnswer::cancel; }
 };
 
 class NoFileManager : public FileManager {

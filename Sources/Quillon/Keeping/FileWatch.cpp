@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Keeping/FileWatch.h"
 
-#include "Quillon/Platform/Files/Files.h"
+#include "Quillon/Stores/KnownFile.h"
 #include "Quillon/Stores/LogStore.h"
-#include "Tallyrig/Formats/LogReader.h"
 
 #include <QFileInfo>
 
 #include <string>
 #include <utility>
-#include <variant>
 
 namespace quillon {
 
@@ -66,25 +64,13 @@ void FileWatch::look() {
         return;
     }
     known = now;
-    const bool wasChanged = std::exchange(isChanged, !hasSameRecords());
+    // Many programs write what was there already.
+    const bool wasChanged = std::exchange(isChanged, !holdsRecords(*path, store.savedDocument().records()));
     if (isChanged) {
         emit changedByOthers(*path);
     } else if (wasChanged) {
         emit settled();
     }
-}
-
-/// Many programs write what was there already. What is too large to be read in passing counts as another.
-bool FileWatch::hasSameRecords() const {
-    constexpr std::uint64_t mostBytes = 20'000'000;
-    if (known.bytes > mostBytes) {
-        return false;
-    }
-    const auto content = readFile(path->toStdString());
-    const auto* const bytes = std::get_if<std::string>(&content);
-    // The header is written anew each time.
-    return bytes != nullptr &&
-           tallyrig::LogReader::read(*bytes).document.records() == store.savedDocument().records();
 }
 
 }  // namespace quillon

@@ -36,7 +36,6 @@ class FileWatch : public QObject {
   private:
     void follow();
     void watch();
-    bool hasSameRecords() const;
 
     LogStore& store;
     QFileSystemWatcher watcher;

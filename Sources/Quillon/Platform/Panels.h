@@ -14,6 +14,15 @@ struct FileType {
     QStringList extensions;  ///< Without dot; empty means any file.
 };
 
+/// What the user is asked before a log is written that would not come back whole.
+struct LossQuestion {
+    QString text;        ///< One or two sentences.
+    QStringList losses;  ///< A line for each of the first, and one for the number of the rest.
+    /// The other format in which all would come back, such as "ADX"; empty if there is none.
+    QString otherFormat;
+};
+enum class LossAnswer { saveAnyway, otherFormat, cancel };
+
 /// The questions that the stores ask the user. The real ones are modal dialogs; tests answer by themselves.
 class Panels {
   public:
@@ -33,6 +42,8 @@ class Panels {
     /// An existing folder, which may have been made just now; absent if the user cancels. `button` is what
     /// the user presses to go on.
     virtual std::optional<QString> folderToWriteTo(const QString& message, const QString& button) = 0;
+    /// Whether to write a log of which something would be lost. Only with an `otherFormat` is that an answer.
+    virtual LossAnswer answerTo(const LossQuestion& question) = 0;
 };
 
 }  // namespace quillon

@@ -4,6 +4,7 @@
 #include "Quillon/Platform/FileNames.h"
 #include "Quillon/Platform/Files/Files.h"
 #include "Quillon/Stores/FileFailure.h"
+#include "Quillon/Stores/LogText.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Tallyrig/Analysis/ADIFComparator.h"
 #include "Tallyrig/Log/ADIFParser.h"
@@ -29,13 +30,12 @@ namespace {
 /// What the files of a comparison name as the version of the program, whatever that is.
 constexpr const char* writtenProgramVersion = "0.3.1";
 
-std::string textOf(const ADIFDocument& document, const Settings& settings) {
+tallyrig::ADIFWriter writerFor(const Settings& settings) {
     const std::string wanted = settings.string(setting::adifVersion).toStdString();
     const std::string_view version = text::trimmedOfBlanks(wanted);
-    const tallyrig::ADIFWriter writer{std::string(tallyrig::programName), writtenProgramVersion,
-                                      std::string(version.empty() ? tallyrig::ADIFSpec::version : version),
-                                      settings.boolean(setting::writeHeaderOnSave, true)};
-    return writer.write(document);
+    return {std::string(tallyrig::programName), writtenProgramVersion,
+            std::string(version.empty() ? tallyrig::ADIFSpec::version : version),
+            settings.boolean(setting::writeHeaderOnSave, true)};
 }
 
 /// A property of the left file, of which there may be none.
@@ -187,13 +187,19 @@ void CompareStore::save(Side side, const QString& proposedName) {
     if (!path) {
         return;
     }
-    const Changes::Operation operation(changes);
     const QString fullPath = absolutePath(*path);
+    // Sides know no other format.
+    const LogText content =
+        textToSave(fileOf(side)->document, writerFor(settings), nullptr, fullPath, panels);
+    if (content.answer != LossAnswer::saveAnyway) {
+        return;
+    }
+    const Changes::Operation operation(changes);
     ComparedFile& file = *fileOf(side);
     if (keepFormer) {
         keepFormer(fullPath);
     }
-    if (const auto error = replaceFile(fullPath.toStdString(), textOf(file.document, settings))) {
+    if (const auto error = replaceFile(fullPath.toStdString(), content.text)) {
         state.errorMessage =
             fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath, error->message);
         return;

@@ -10,8 +10,10 @@
 #include "Quillon/Stores/ColumnLayout.h"
 #include "Quillon/Stores/DisplayedRows.h"
 #include "Quillon/Stores/EditHistory.h"
+#include "Quillon/Stores/KnownFile.h"
 #include "Quillon/Stores/RecordChanges.h"
 #include "Quillon/Stores/RowSelection.h"
+#include "Quillon/Stores/SavingConcern.h"
 #include "Quillon/Stores/StoreState.h"
 #include "Quillon/Stores/TextBinding.h"
 #include "Tallyrig/Formats/CabrilloHeader.h"
@@ -89,8 +91,16 @@ class LogStore : public QObject {
     /// `errorMessage` tells of the other paths, that they were not opened, and of one that leads nowhere if
     /// there is no other.
     void openFromCommandLineIfNeeded(const QStringList& arguments);
+    /// Writes the log to its file, or asks for one if it has none. Where that file is not what was opened or
+    /// saved last, nothing is written and `changedOnDisk` is sent. Where not all of the log would come back
+    /// the user is asked before it is written, here and wherever else the log is saved.
     void save();
+    /// The same whatever stands in the file by now.
+    void saveReplacing();
     void saveWithPanel();
+    /// Why the first save over the file that was opened takes something from it; absent if it does not, and
+    /// once the log was saved. `save` does not mind.
+    std::optional<SavingConcern> savingConcern() const { return fileConcern; }
     /// `keep` is called with the path before the log is saved or exported there, whether or not there is a
     /// file.
     void beforeReplacing(std::function<void(const QString& path)> keep) { keepFormer = std::move(keep); }
@@ -305,6 +315,8 @@ class LogStore : public QObject {
     void isDirtyChanged();
     /// The log was opened, begun, brought back or saved.
     void savedDocumentChanged();
+    /// The log was not saved, because another program has changed its file.
+    void changedOnDisk(const QString& path);
     /// A file was opened of which the reader had something to say, or the log at hand is no longer that one.
     void readingReportChanged();
     void errorMessageChanged();
@@ -376,8 +388,11 @@ class LogStore : public QObject {
     /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs
     /// out.
     void forgetEdits();
-    /// False if there is an error message instead of the file.
-    bool write(const QString& path);
+    /// What is to be done with a file that is no longer the one that was opened or saved last.
+    enum class Changed { leave, replace };
+    /// False if the file was not written.
+    bool write(const QString& path, Changed changed = Changed::replace);
+    bool replaceWith(const std::string& content, const QString& path, Changed changed);
     /// For the file that the user names in a panel.
     void exportLog(const QString& extension, const QList<FileType>& types);
     /// `fileURL` without its extension, or "Logbuch", with this one.
@@ -406,6 +421,8 @@ class LogStore : public QObject {
     const TextMeasurer& measurer;
     FileManager& files;
     std::function<void(const QString& path)> keepFormer;
+    std::optional<KnownFile> knownFile;  ///< That of the log, as it was opened or saved.
+    std::optional<SavingConcern> fileConcern;
     Observed state;
     Changes changes{*this, state, observedProperties()};
     EditHistory history;

@@ -5,6 +5,7 @@
 #include "Quillon/Platform/LogFileTypes.h"
 #include "Quillon/Stores/FileFailure.h"
 #include "Quillon/Stores/LogStore.h"
+#include "Quillon/Stores/LogText.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Tallyrig/Formats/CabrilloWriter.h"
 #include "Tallyrig/Formats/EDIWriter.h"
@@ -25,13 +26,14 @@ namespace {
 
 using tallyrig::ADIFDocument;
 
-/// The log as it is saved at `path`, as the user set it up: ADX for that extension, ADI text for any other.
-std::string textFor(const QString& path, const ADIFDocument& document, const Settings& settings) {
+/// The writer of the format as the user set it up.
+LogWriter writerFor(tallyrig::LogFormat format, const Settings& settings) {
     const std::string version = settings.string(setting::adifVersion).toStdString();
     const bool writeHeader = settings.boolean(setting::writeHeaderOnSave, true);
-    return extensionOf(path).toLower() == QLatin1String("adx")
-               ? adxWriter(version, writeHeader).write(document)
-               : adifWriter(version, writeHeader).write(document);
+    if (format == tallyrig::LogFormat::adx) {
+        return adxWriter(version, writeHeader);
+    }
+    return adifWriter(version, writeHeader);
 }
 
 /// Whether an argument that names nothing may have been meant as the path of a log: behind "--" whatever it
@@ -65,6 +67,8 @@ void LogStore::showLog(ADIFDocument document, std::optional<QString> path, tally
     state.fileURL = std::move(path);
     state.isDirty = false;
     state.savedDocument = state.document;
+    knownFile.reset();
+    fileConcern.reset();
     state.readingReport =
         report.isEmpty() ? nullptr : std::make_shared<const tallyrig::ReadingReport>(std::move(report));
     state.columns.setNames(ColumnLayout::namesFor(state.document));
@@ -91,6 +95,7 @@ void LogStore::newLog() {
 void LogStore::open(const QString& path) {
     const Operation operation(*this);
     const QString fullPath = absolutePath(path);
+    const KnownFile file(fullPath);
     const auto content = readFile(fullPath.toStdString());
     if (const auto* error = std::get_if<FileError>(&content)) {
         // What is no UTF-8 in a name has become this character, and the file is not found by it.
@@ -101,7 +106,10 @@ void LogStore::open(const QString& path) {
         return;
     }
     tallyrig::LogReader::Log log = tallyrig::LogReader::read(std::get<std::string>(content));
+    const auto concern = concernAboutSaving(log, std::get<std::string>(content), fullPath);
     showLog(std::move(log.document), fullPath, std::move(log.report));
+    knownFile = file;
+    fileConcern = concern;
     autoFitColumns();
     forgetEdits();
 }
@@ -153,6 +161,14 @@ void LogStore::openFromCommandLineIfNeeded(const QStringList& arguments) {
 
 void LogStore::save() {
     if (state.fileURL) {
+        write(QString(*state.fileURL), Changed::leave);
+    } else {
+        saveWithPanel();
+    }
+}
+
+void LogStore::saveReplacing() {
+    if (state.fileURL) {
         write(QString(*state.fileURL));
     } else {
         saveWithPanel();
@@ -167,17 +183,50 @@ void LogStore::saveWithPanel() {
     }
 }
 
-bool LogStore::write(const QString& path) {
-    const Operation operation(*this);
+bool LogStore::write(const QString& path, Changed changed) {
     const QString fullPath = absolutePath(path);
-    const std::string content = textFor(fullPath, state.document, settings);
-    announceReplacing(fullPath);
-    if (const auto error = replaceFile(fullPath.toStdString(), content)) {
-        state.errorMessage = fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath,
+    // Before anything is read back of a million QSOs.
+    if (changed == Changed::leave && knownFile && !knownFile->isStill(fullPath, state.savedDocument)) {
+        emit changedOnDisk(fullPath);
+        return false;
+    }
+    const tallyrig::LogFormat format = formatWrittenTo(fullPath);
+    const bool isADX = format == tallyrig::LogFormat::adx;
+    const LogWriter other = writerFor(isADX ? tallyrig::LogFormat::adif : tallyrig::LogFormat::adx, settings);
+    const LogText content = textToSave(state.document, writerFor(format, settings), &other, fullPath, panels);
+    switch (content.answer) {
+        case LossAnswer::cancel:
+            return false;
+        case LossAnswer::otherFormat:
+            isADX ? saveAsADI() : saveAsADX();
+            return false;
+        case LossAnswer::saveAnyway:
+            break;
+    }
+    return replaceWith(content.text, fullPath, changed);
+}
+
+bool LogStore::replaceWith(const std::string& content, const QString& path, Changed changed) {
+    const Operation operation(*this);
+    announceReplacing(path);
+    bool isOther = false;
+    const auto isWanted = [&] {
+        isOther = changed == Changed::leave && knownFile && !knownFile->isUntouched();
+        return !isOther;
+    };
+    const auto error = replaceFile(path.toStdString(), content, Lasting::atOnce, isWanted);
+    if (isOther) {
+        emit changedOnDisk(path);
+        return false;
+    }
+    if (error) {
+        state.errorMessage = fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), path,
                                          error->message + " „Speichern unter…“ wählt einen anderen Ort.");
         return false;
     }
-    state.fileURL = fullPath;
+    knownFile = KnownFile(path);
+    fileConcern.reset();
+    state.fileURL = path;
     state.isDirty = false;
     state.savedDocument = state.document;
     return true;

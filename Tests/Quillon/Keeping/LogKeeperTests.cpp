@@ -155,7 +155,7 @@ TEST_F(Keeper, KeepsWhatAFileHeldOnceUnlessOthersWroteToIt) {
     }
     EXPECT_EQ(found(), "log.adi:7:A");
     folder.write("log.adi", testing::adi({"CALL=Other"}));
-    store.save();
+    store.saveReplacing();
     EXPECT_EQ(found(), "log.adi:7:Other log.adi:7:A");
     EXPECT_FALSE(keeper->bringBack(keeper->entries()[0]));
     EXPECT_EQ(calls(store.document()), "Other");
@@ -175,6 +175,7 @@ TEST_F(Keeper, KeepsTheSidesOfAComparisonAsWell) {
     edit("T");
     compare.saveRight();
     EXPECT_EQ(found(), "q.adi:7:Q r.adi:2:S");
+    EXPECT_EQ(keeper->entries()[0].note.records, 1U);
     compare.load(CompareStore::Side::left, folder.path("r.adi"));
     compare.leftBinding(compare.leftFile()->document.records()[0].id(), "CALL").write("L");
     edit("U");

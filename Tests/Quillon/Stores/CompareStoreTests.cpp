@@ -56,6 +56,22 @@ TEST_F(ComparingLogs, SetTheOpenLogAgainstNothingAtFirst) {
     EXPECT_EQ(store.comparison(log).counts().onlyLeft, 2U);
 }
 
+TEST_F(ComparingLogs, AskBeforeASideIsSavedThatWouldNotComeBack) {
+    const tallyrig::ADIFField field("A:B", "1");
+    const tallyrig::ADIFDocument log("", {},
+                                     tallyrig::ADIFRecordList({tallyrig::ADIFRecord(std::vector{field})}));
+    store.setRight({log, "a.adi", folder.path("a.adi"), true});
+    store.saveRight();
+    EXPECT_EQ(folder.names(), "");
+    EXPECT_TRUE(store.rightDirty());
+    ASSERT_EQ(panels.lossQuestions.size(), 1U);
+    EXPECT_EQ(panels.lossQuestions[0].otherFormat, "") << "a side is ADI text";
+    panels.lossAnswer = LossAnswer::saveAnyway;
+    store.saveRight();
+    EXPECT_EQ(folder.names(), "a.adi");
+    EXPECT_FALSE(store.rightDirty());
+}
+
 TEST_F(ComparingLogs, LoadASideAndTellOnlyWhatChanged) {
     const QString path = write("a.adi", {"CALL=A"});
     loadRight(path);

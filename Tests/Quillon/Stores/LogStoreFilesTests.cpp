@@ -2,7 +2,10 @@
 #include "Quillon/Support/LogStoreFixture.h"
 
 #include <QDir>
+#include <QFile>
+#include <QSignalSpy>
 
+#include <optional>
 #include <tuple>
 
 namespace quillon {
@@ -150,6 +153,88 @@ TEST_F(Failures, ChangeNothingButTheMessage) {
     store.exportEDI({});
     EXPECT_EQ(told.sent(), "errorMessage5");
     EXPECT_EQ(title(), "log.adi — bearbeitet");
+}
+
+TEST_F(SavingLogs, AsksBeforeSomethingIsLost) {
+    store.open(folder.write("a.adi", "<EOH><CALL:1>A<NO XML:1>1<EOR>"));
+    store.save();
+    EXPECT_TRUE(panels.lossQuestions.empty());
+    panels.answers = {folder.path("a.adx")};
+    store.saveWithPanel();
+    EXPECT_EQ(folder.names(), "a.adi") << "cancelled";
+    EXPECT_EQ(title(), "a.adi");
+    ASSERT_EQ(panels.lossQuestions.size(), 1U);
+    EXPECT_EQ(panels.lossQuestions[0].text,
+              "„a.adx“ wird als ADX geschrieben. Nicht alles käme beim Lesen wieder: 1 Angabe in 1 QSO; das "
+              "letzte QSO würde gar nicht gelesen.");
+    EXPECT_EQ(panels.lossQuestions[0].losses.join('|'),
+              "QSO 1 mit „A“: Das Feld „NO XML“ mit dem Wert „1“ ginge verloren: Das Format kann den Namen "
+              "nicht schreiben.");
+    EXPECT_EQ(panels.lossQuestions[0].otherFormat, "ADIF");
+    panels.lossAnswer = LossAnswer::otherFormat;
+    panels.answers = {folder.path("a.adx"), folder.path("b.adi")};
+    store.saveWithPanel();
+    EXPECT_EQ(folder.names(), "a.adi b.adi");
+    EXPECT_EQ(title(), "b.adi");
+    panels.lossAnswer = LossAnswer::saveAnyway;
+    panels.answers = {folder.path("a.adx")};
+    store.saveAsADX();
+    EXPECT_NE(folder.read("a.adx").find("NO XML"), std::string::npos);
+    EXPECT_EQ(title(), "a.adx");
+}
+
+TEST_F(SavingLogs, LeavesAFileAloneThatAnotherProgramHasChanged) {
+    QSignalSpy changed(&store, &LogStore::changedOnDisk);
+    openLog({"CALL=A"});
+    folder.write("log.adi", "Other header<EOH><CALL:1>A<EOR>");
+    store.save();
+    EXPECT_EQ(changed.size(), 0) << "the same QSOs";
+    const std::string theirs = adi({"CALL=THEIRS"});
+    folder.write("log.adi", theirs);
+    type(0, "CALL", "B");
+    store.save();
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_EQ(folder.read("log.adi"), theirs);
+    EXPECT_EQ(title(), "log.adi — bearbeitet");
+    store.saveReplacing();
+    EXPECT_NE(folder.read("log.adi").find("<CALL:1>B"), std::string::npos);
+    // Between the look at the file and its replacement.
+    store.beforeReplacing([&](const QString&) { folder.write("log.adi", theirs); });
+    store.save();
+    EXPECT_EQ(changed.size(), 2);
+    EXPECT_EQ(folder.read("log.adi"), theirs);
+    EXPECT_EQ(error(), "(none)");
+    EXPECT_EQ(folder.names(), "log.adi");
+    QFile::remove(folder.path("log.adi"));
+    store.beforeReplacing({});
+    store.save();
+    EXPECT_EQ(changed.size(), 2) << "a file that is gone comes again";
+    EXPECT_EQ(folder.names(), "log.adi");
+}
+
+TEST_F(SavingLogs, KnowsWhatTheFirstOneTakesFromTheFile) {
+    using enum SavingConcern;
+    const std::string contest = "START-OF-LOG: 3.0\nQSO: 14074 CW 2024-01-15 1234 DL1ABC 599 1 K1XYZ 599 2\n";
+    const std::tuple<QString, std::string, std::optional<SavingConcern>> cases[] = {
+        {"a.adi", adi({"CALL=A"}), std::nullopt},
+        {"a.adx", adi({"CALL=A"}), otherFormat},
+        {"a.log", contest, otherFormat},
+        {"a.adx", "<ADX><RECORDS><RECORD><CALL>A</CALL></RECORD></RECORDS></ADX>", std::nullopt},
+        {"a.xml", "<ADX><RECORDS><RECORD><CALL>A</CALL></RECORD></RECORDS></ADX>", otherFormat},
+        {"a.adi", "<EOH><CALL:1>AB<EOR>", notWhole},
+        {"a.cbr", contest + "QSO: 14074 CW\n", notWhole},
+        {"a.pdf", "%PDF-1.4", noQSOs},
+        {"a.adi", " \n", std::nullopt},
+    };
+    for (const auto& [name, text, concern] : cases) {
+        store.open(folder.write(name, text));
+        EXPECT_EQ(store.savingConcern(), concern) << text;
+        store.save();
+        EXPECT_EQ(store.savingConcern(), std::nullopt) << text;
+    }
+    store.open(folder.write("a.log", contest));
+    store.newLog();
+    EXPECT_EQ(store.savingConcern(), std::nullopt);
 }
 
 TEST_F(OtherFormats, AreReadByTheirContentAndSavedByTheExtensionAlone) {

@@ -47,11 +47,17 @@ class ScriptedPanels : public Panels {
         messages.append(message + QLatin1Char('|') + button);
         return nextAnswer();
     }
+    LossAnswer answerTo(const LossQuestion& question) override {
+        lossQuestions.push_back(question);
+        return lossAnswer;
+    }
 
     QStringList answers;  ///< One for each question; all of them for the one that takes several.
     QStringList messages;
     QStringList proposedNames;     ///< One for each question where to save.
     QList<FileType> offeredTypes;  ///< In the last question.
+    std::vector<LossQuestion> lossQuestions;
+    LossAnswer lossAnswer = LossAnswer::cancel;  ///< To each of them.
 
   private:
     std::optional<QString> nextAnswer() {

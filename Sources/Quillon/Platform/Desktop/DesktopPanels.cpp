@@ -2,6 +2,7 @@
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 
 #include "Quillon/Platform/Desktop/BusyCursor.h"
+#include "Quillon/Platform/Desktop/LossDialog.h"
 #include "Quillon/Platform/FileNames.h"
 #include "Tallyrig/Text/VisibleText.h"
 
@@ -234,6 +235,15 @@ std::optional<QString> DesktopPanels::folderToWriteTo(const QString& message, co
     dialog.setLabelText(QFileDialog::Accept, button);
     setUp(dialog);
     return choice(dialog, folder);
+}
+
+LossAnswer DesktopPanels::answerTo(const LossQuestion& question) {
+    LossDialog dialog(question, QApplication::activeWindow());
+    dialog.exec();
+    if (dialog.answer() != LossAnswer::cancel) {
+        showBusyCursorUntilIdle();
+    }
+    return dialog.answer();
 }
 
 }  // namespace quillon

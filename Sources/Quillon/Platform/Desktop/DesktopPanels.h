@@ -14,6 +14,7 @@ class DesktopPanels : public Panels {
     std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) override;
     QStringList filesAndFoldersToOpen(const QString& message) override;
     std::optional<QString> folderToWriteTo(const QString& message, const QString& button) override;
+    LossAnswer answerTo(const LossQuestion& question) override;
 
     /// The folder in which the next panel begins.
     void setFolder(const QString& path) { folder = path; }

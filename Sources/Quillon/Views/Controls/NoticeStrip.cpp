@@ -61,6 +61,22 @@ void NoticeStrip::tell(Notice notice) {
     showFirst();
 }
 
+void NoticeStrip::tellAtOnce(Notice notice) {
+    std::erase_if(notices, [&notice](const Notice& other) { return other.topic == notice.topic; });
+    notices.insert(notices.begin(), std::move(notice));
+    showFirst();
+}
+
+bool NoticeStrip::enter(const QString& topic) {
+    const auto found = std::ranges::find(notices, topic, &Notice::topic);
+    if (found == notices.end()) {
+        return false;
+    }
+    tellAtOnce(Notice(*found));
+    buttons.front()->setFocus(Qt::ShortcutFocusReason);
+    return true;
+}
+
 bool NoticeStrip::withdraw(const QString& topic) {
     const bool wasThere =
         std::erase_if(notices, [&topic](const Notice& notice) { return notice.topic == topic; }) > 0;

@@ -42,6 +42,11 @@ class NoticeStrip : public QWidget {
 
     /// Shows the notice when those before it are closed; one of the same topic gives it its place.
     void tell(Notice notice);
+    /// Shows the notice at once, in front of the others: what the user has just asked for waits for it.
+    void tellAtOnce(Notice notice);
+    /// Shows the notice of this topic and lets its first action have the keyboard. False, and nothing
+    /// happens, if there is none.
+    bool enter(const QString& topic);
     /// The notice of this topic is told no more. False if there is none.
     bool withdraw(const QString& topic);
 

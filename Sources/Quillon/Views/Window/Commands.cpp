@@ -66,11 +66,7 @@ std::vector<Command> makeCommands() {
          .iconName = QStringLiteral("document-save"),
          .shortcuts = {Qt::CTRL | Qt::Key_S},
          .startsGroup = true,
-         .run =
-             [](ContentView& window) {
-                 showBusyCursorUntilIdle();
-                 window.store().save();
-             }},
+         .run = [](ContentView& window) { window.save(); }},
         {.id = CommandID::saveAs,
          .menu = CommandMenu::file,
          .title = QStringLiteral("Speichern &unter…"),

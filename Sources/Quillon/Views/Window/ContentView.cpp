@@ -135,6 +135,10 @@ void ContentView::openWithPanel() {
     workArea->focus();
 }
 
+void ContentView::save() {
+    fileNotices->save();
+}
+
 void ContentView::focusSearch() {
     searchField->startTyping();
 }

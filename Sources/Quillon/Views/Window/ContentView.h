@@ -68,6 +68,7 @@ class ContentView : public QMainWindow {
     // What the commands do beyond the store.
     void newLog();
     void openWithPanel();
+    void save();
     void focusSearch();
     void toggleFullScreen();
     /// Ends typing in a cell, which writes what was typed.

@@ -4,7 +4,6 @@
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Stores/CompareStore.h"
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Controls/NoticeStrip.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/VisibleText.h"
 
@@ -16,8 +15,34 @@ namespace quillon {
 
 namespace {
 
-QString topic() {
+QString topicOfChange() {
     return QStringLiteral("changed on disk");
+}
+
+QString topicOfSaving() {
+    return QStringLiteral("saving");
+}
+
+QString nameOf(const QString& path) {
+    return toQString(tallyrig::text::visibleText(QFileInfo(path).fileName().toStdString()));
+}
+
+QString sentence(SavingConcern concern, const QString& path) {
+    const QString format =
+        formatWrittenTo(path) == tallyrig::LogFormat::adx ? QStringLiteral("ADX") : QStringLiteral("ADIF");
+    switch (concern) {
+        case SavingConcern::noQSOs:
+            return QStringLiteral("In „%1“ wurde kein QSO gefunden. Speichern ersetzt, was darin steht.")
+                .arg(nameOf(path));
+        case SavingConcern::notWhole:
+            return QStringLiteral(
+                       "„%1“ wurde nicht ganz gelesen. Was nicht gelesen wurde, steht nach dem "
+                       "Speichern nicht mehr darin.")
+                .arg(nameOf(path));
+        case SavingConcern::otherFormat:
+            break;
+    }
+    return QStringLiteral("„%1“ wird als %2 geschrieben.").arg(nameOf(path), format);
 }
 
 }  // namespace
@@ -30,22 +55,57 @@ FileNotices::FileNotices(const AppStores& appStores, NoticeStrip& noticeStrip, Q
       open(std::move(openFile)),
       watch(stores.log, this) {
     connect(&watch, &FileWatch::changedByOthers, this, &FileNotices::tellOf);
-    connect(&watch, &FileWatch::settled, this, [this] { strip.withdraw(topic()); });
+    connect(&watch, &FileWatch::settled, this, [this] { strip.withdraw(topicOfChange()); });
+    connect(&stores.log, &LogStore::changedOnDisk, this, [this](const QString& path) {
+        if (!strip.enter(topicOfChange())) {
+            strip.tellAtOnce(changedNotice(path));
+        }
+    });
+    // Another log is open, or this one is saved.
+    for (const auto signal : {&LogStore::savedDocumentChanged, &LogStore::fileURLChanged}) {
+        connect(&stores.log, signal, this, [this] { strip.withdraw(topicOfSaving()); });
+    }
 }
 
 void FileNotices::tellOf(const QString& path) {
-    const std::string name = tallyrig::text::visibleText(QFileInfo(path).fileName().toStdString());
-    strip.tell({topic(),
-                QStringLiteral("Die Datei „%1“ ist inzwischen eine andere.").arg(toQString(name)),
-                Notice::Kind::warning,
-                {{QStringLiteral("Neu laden"), [this, path] { open(path); }},
-                 {QStringLiteral("Vergleichen"), [this, path] { compare(path); }},
-                 {QStringLiteral("Ersetzen"),
-                  [this] {
-                      showBusyCursorUntilIdle();
-                      stores.log.save();
-                  }}},
-                {}});
+    strip.tell(changedNotice(path));
+}
+
+Notice FileNotices::changedNotice(const QString& path) {
+    return {topicOfChange(),
+            QStringLiteral("Die Datei „%1“ ist inzwischen eine andere.").arg(nameOf(path)),
+            Notice::Kind::warning,
+            {{QStringLiteral("Neu laden"), [this, path] { open(path); }},
+             {QStringLiteral("Vergleichen"), [this, path] { compare(path); }},
+             {QStringLiteral("Ersetzen"),
+              [this] {
+                  showBusyCursorUntilIdle();
+                  stores.log.saveReplacing();
+              }}},
+            {}};
+}
+
+void FileNotices::save() {
+    const auto concern = stores.log.savingConcern();
+    if (!concern) {
+        showBusyCursorUntilIdle();
+        stores.log.save();
+    } else if (!strip.enter(topicOfSaving())) {
+        strip.tellAtOnce(savingNotice(*concern));
+    }
+}
+
+Notice FileNotices::savingNotice(SavingConcern concern) {
+    return {topicOfSaving(),
+            sentence(concern, stores.log.fileURL().value_or(QString())),
+            Notice::Kind::warning,
+            {{QStringLiteral("Speichern unter…"), [this] { stores.log.saveWithPanel(); }},
+             {QStringLiteral("Trotzdem"),
+              [this] {
+                  showBusyCursorUntilIdle();
+                  stores.log.save();
+              }}},
+            {}};
 }
 
 void FileNotices::compare(const QString& path) {

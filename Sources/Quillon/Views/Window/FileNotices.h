@@ -3,6 +3,8 @@
 
 #include "Quillon/Keeping/FileWatch.h"
 #include "Quillon/Stores/AppStores.h"
+#include "Quillon/Stores/SavingConcern.h"
+#include "Quillon/Views/Controls/NoticeStrip.h"
 
 #include <QObject>
 
@@ -12,9 +14,8 @@ class QWidget;
 
 namespace quillon {
 
-class NoticeStrip;
-
-/// Tells the user when another program has changed the file of the open log, and what can be done about it.
+/// Tells the user what becomes of the file of the open log: that another program has changed it, or that
+/// saving over it takes something from it, and what can be done about it.
 class FileNotices : public QObject {
     Q_OBJECT
 
@@ -25,9 +26,14 @@ class FileNotices : public QObject {
 
     /// Looks at the file now, as where the system does not tell of changes.
     void look() { watch.look(); }
+    /// Saves the log as the user asks for it. Where that takes something from its file nothing is written
+    /// until the user has said so, once for a file; asking again leads to where that is said.
+    void save();
 
   private:
     void tellOf(const QString& path);
+    Notice changedNotice(const QString& path);
+    Notice savingNotice(SavingConcern concern);
     void compare(const QString& path);
 
     AppStores stores;

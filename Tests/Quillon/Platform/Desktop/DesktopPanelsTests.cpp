@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
 
+#include "Quillon/Platform/Desktop/LossDialog.h"
 #include "Quillon/Support/TemporaryFolder.h"
 #include "Quillon/Support/WidgetSearch.h"
 
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -50,6 +52,24 @@ TEST(FilePanel, TellsFilesByTheirNames) {
     });
     EXPECT_EQ(panels.fileToOpen(types), std::nullopt);
     EXPECT_EQ(told.toStdString(), "Ordner ADI-Datei Datei");
+}
+
+TEST(LossPanel, GivesTheAnswerThatTheUserPresses) {
+    DesktopPanels panels;
+    LossQuestion question{QStringLiteral("Frage"), {QStringLiteral("eins"), QStringLiteral("zwei")}, {}};
+    const auto answerBy = [&](const char* button) {
+        whenShown<LossDialog>([button](LossDialog& dialog) {
+            EXPECT_EQ(dialog.findChild<QPlainTextEdit*>()->toPlainText(), QStringLiteral("eins\nzwei"));
+            QAbstractButton* const wanted = testing::shownButton(dialog, QString::fromUtf8(button));
+            wanted != nullptr ? wanted->click() : dialog.reject();
+        });
+        return panels.answerTo(question);
+    };
+    EXPECT_EQ(answerBy("Als ADX &speichern…"), LossAnswer::cancel) << "not offered";
+    question.otherFormat = QStringLiteral("ADX");
+    EXPECT_EQ(answerBy("Als ADX &speichern…"), LossAnswer::otherFormat);
+    EXPECT_EQ(answerBy("&Trotzdem speichern"), LossAnswer::saveAnyway);
+    EXPECT_EQ(answerBy("&Abbrechen"), LossAnswer::cancel);
 }
 
 TEST(FolderPanel, TakesFilesAndFoldersTogetherAndAFolderAlone) {

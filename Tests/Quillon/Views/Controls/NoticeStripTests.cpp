@@ -51,6 +51,21 @@ TEST_F(Notices, AreToldOneAfterTheOther) {
     EXPECT_EQ(happened, "run a closed c ");
 }
 
+TEST_F(Notices, AreEnteredByTheKeyboardWhereTheUserAsksForThem) {
+    tell("a", "first");
+    strip.tellAtOnce({"b", "urgent", Notice::Kind::warning, {{"Jetzt", {}}}, {}});
+    EXPECT_EQ(shown(), "urgent\n1 von 2");
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    field.setFocus();
+    EXPECT_FALSE(strip.enter("c"));
+    EXPECT_TRUE(field.hasFocus());
+    EXPECT_TRUE(strip.enter("a"));
+    EXPECT_EQ(shown(), "first\n1 von 2");
+    EXPECT_TRUE(testing::shownButton(strip, "Tun")->hasFocus());
+}
+
 TEST_F(Notices, WhatIsDoneMayTellSomethingElse) {
     strip.tell({"a", "first", Notice::Kind::information, {{"Tun", [this] { tell("b", "failed"); }}}, {}});
     press("Tun");

@@ -111,6 +111,38 @@ TEST_F(Window, TellsWhenAnotherProgramChangesTheFile) {
     EXPECT_NE(folder.read(QStringLiteral("a.adi")).find("others"), std::string::npos);
 }
 
+TEST_F(Window, WritesNothingOverAFileThatLosesByItUntilTheUserSaysSo) {
+    const std::string original =
+        "START-OF-LOG: 3.0\nQSO: 14074 CW 2024-01-15 1234 DL1ABC 599 1 K1XYZ 599 2\n";
+    const QString path = folder.write(QStringLiteral("contest.log"), original);
+    show({path});
+    QApplication::setActiveWindow(window.get());
+    auto& strip = *window->findChild<NoticeStrip*>();
+    const auto save = [&] { window->actions().action(CommandID::save)->trigger(); };
+    save();
+    EXPECT_EQ(testing::shownTexts(strip), "„contest.log“ wird als ADIF geschrieben.");
+    EXPECT_TRUE(tableHasFocus());
+    save();
+    EXPECT_TRUE(testing::shownButton(strip, QStringLiteral("Speichern unter…"))->hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(strip.isHidden());
+    EXPECT_TRUE(tableHasFocus());
+    save();
+    EXPECT_EQ(folder.read(QStringLiteral("contest.log")), original);
+    testing::shownButton(strip, QStringLiteral("Trotzdem"))->click();
+    EXPECT_TRUE(strip.isHidden());
+    EXPECT_NE(folder.read(QStringLiteral("contest.log")).find("<CALL:5>K1XYZ"), std::string::npos);
+    type(0, "CALL", "K2XYZ");
+    save();
+    EXPECT_NE(folder.read(QStringLiteral("contest.log")).find("<CALL:5>K2XYZ"), std::string::npos);
+    folder.write(QStringLiteral("contest.log"), original + "\n");
+    save();
+    EXPECT_EQ(testing::shownTexts(strip), "Die Datei „contest.log“ ist inzwischen eine andere.");
+    save();
+    EXPECT_TRUE(testing::shownButton(strip, QStringLiteral("Neu laden"))->hasFocus());
+    EXPECT_EQ(folder.read(QStringLiteral("contest.log")), original + "\n");
+}
+
 TEST_F(Window, OpensTheLogOfTheArgumentsOnce) {
     const QString path = folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=DL1ABC"}));
     show({path});
