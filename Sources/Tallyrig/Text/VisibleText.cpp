@@ -145,4 +145,27 @@ std::string visibleText(std::string_view text) {
     return withIsolatedWords(shown);
 }
 
+std::string visibleBytes(std::string_view bytes) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string shown;
+    std::size_t begin = 0;  ///< Of the text up to the next byte that is none.
+    const auto* at = reinterpret_cast<const std::uint8_t*>(bytes.data());
+    for (std::size_t next = 0; next < bytes.size();) {
+        std::size_t start = next;
+        UChar32 character = 0;
+        U8_NEXT(at, next, bytes.size(), character);
+        if (character >= 0) {
+            continue;
+        }
+        shown += visibleText(bytes.substr(begin, start - begin));
+        for (begin = next; start < next; ++start) {
+            shown += "⟨";
+            shown += digits[at[start] >> 4U];
+            shown += digits[at[start] & 0xFU];
+            shown += "⟩";
+        }
+    }
+    return shown + visibleText(bytes.substr(begin));
+}
+
 }  // namespace tallyrig::text

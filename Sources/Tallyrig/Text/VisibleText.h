@@ -16,6 +16,10 @@ namespace tallyrig::text {
 /// round nothing beside them. Everything else stays as it is. `text` is well-formed UTF-8.
 std::string visibleText(std::string_view text);
 
+/// The same for bytes as they stand in a file: those that are no UTF-8 are shown by their value, such as
+/// "⟨FC⟩".
+std::string visibleBytes(std::string_view bytes);
+
 /// Whether `text`, well-formed UTF-8, holds a character for which `visibleText` has a sign.
 bool holdsUnseen(std::string_view text);
 

@@ -28,5 +28,10 @@ TEST(VisibleText, HasASignForWhatActsUnseenAndIsolatesWhatRunsToTheLeft) {
     }
 }
 
+TEST(VisibleText, ShowsBytesThatAreNoTextByTheirValue) {
+    EXPECT_EQ(visibleBytes("J\xF6rg Jörg\t\xE2\x82 \xFF"), "J⟨F6⟩rg Jörg␉⟨E2⟩⟨82⟩ ⟨FF⟩");
+    EXPECT_EQ(visibleBytes(""), "");
+}
+
 }  // namespace
 }  // namespace tallyrig::text
