@@ -5,11 +5,14 @@
 
 #include <cstddef>
 #include <deque>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace quillon {
+
+class FileReading;
 
 /// The states of a log before and behind the present one, for undo and redo.
 class EditHistory {
@@ -19,6 +22,7 @@ class EditHistory {
         tallyrig::ADIFDocument document;
         std::vector<std::string> columns;
         bool isDirty = false;
+        std::shared_ptr<const FileReading> reading = {};  ///< The one that gave the log; null for none.
     };
 
     static constexpr std::size_t mostSteps = 100;

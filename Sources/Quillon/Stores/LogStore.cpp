@@ -23,7 +23,7 @@ std::span<const LogStore::Changes::Property> LogStore::observedProperties() {
     static const std::array properties = {
         Changes::Property{isOtherLog, &LogStore::documentChanged},
         Changes::Property{Changes::differ<&Observed::fileURL>, &LogStore::fileURLChanged},
-        Changes::Property{Changes::differ<&Observed::readingReport>, &LogStore::readingReportChanged},
+        Changes::Property{Changes::differ<&Observed::reading>, &LogStore::readingReportChanged},
         Changes::Property{Changes::differ<&Observed::isDirty>, &LogStore::isDirtyChanged},
         Changes::Property{[](const Observed& before, const Observed& now) {
                               return !areSame(before.savedDocument, now.savedDocument);

@@ -10,6 +10,7 @@
 #include "Quillon/Stores/ColumnLayout.h"
 #include "Quillon/Stores/DisplayedRows.h"
 #include "Quillon/Stores/EditHistory.h"
+#include "Quillon/Stores/FileReading.h"
 #include "Quillon/Stores/KnownFile.h"
 #include "Quillon/Stores/RecordChanges.h"
 #include "Quillon/Stores/RowSelection.h"
@@ -19,7 +20,6 @@
 #include "Tallyrig/Formats/CabrilloHeader.h"
 #include "Tallyrig/Formats/EDIHeader.h"
 #include "Tallyrig/Log/ADIFDocument.h"
-#include "Tallyrig/Log/ReadingReport.h"
 #include "Tallyrig/Log/UUID.h"
 #include "Tallyrig/Outdoor/OutdoorProgram.h"
 #include "Tallyrig/Outdoor/SOTARole.h"
@@ -71,9 +71,18 @@ class LogStore : public QObject {
     /// What the log's file holds as far as the store knows: the log as it was last opened or saved. The empty
     /// log where it has no file, or was brought back.
     const tallyrig::ADIFDocument& savedDocument() const { return state.savedDocument; }
-    /// What the reader said of the file when the log was opened: empty for a log that was not. Its record
-    /// indices are those of the log as it was opened.
+    /// What the reader said of the file when the log was opened or read again: empty for a log that was not.
+    /// Its record indices are those of the log as it was then.
     const tallyrig::ReadingReport& readingReport() const;
+    /// The same with what is needed to show it; null for a log that was not opened, or where there was
+    /// nothing to say.
+    const std::shared_ptr<const FileReading>& reading() const { return state.reading; }
+    /// Reads the file that was opened once more, with the repair that its report names: one step back, which
+    /// brings back the report as well. Nothing happens without such a repair. Where the file is another by
+    /// now only `errorMessage` changes.
+    void readAgainRepaired();
+    /// Whether the log has changes that were not saved. Cost: nothing.
+    bool hasUnsavedChanges() const { return !state.document.isSameAs(state.savedDocument); }
     /// What the user must be told; absent once it was.
     const std::optional<QString>& errorMessage() const { return state.errorMessage; }
     void setErrorMessage(std::optional<QString> message);
@@ -317,7 +326,8 @@ class LogStore : public QObject {
     void savedDocumentChanged();
     /// The log was not saved, because another program has changed its file.
     void changedOnDisk(const QString& path);
-    /// A file was opened of which the reader had something to say, or the log at hand is no longer that one.
+    /// A file was opened of which the reader had something to say, or was read again, or the log at hand is
+    /// no longer that one.
     void readingReportChanged();
     void errorMessageChanged();
     void windowTitleChanged();
@@ -354,7 +364,7 @@ class LogStore : public QObject {
         std::optional<QString> fileURL;
         bool isDirty = false;
         tallyrig::ADIFDocument savedDocument;
-        std::shared_ptr<const tallyrig::ReadingReport> readingReport;  ///< Null if it is empty.
+        std::shared_ptr<const FileReading> reading;
         std::optional<QString> errorMessage;
         AppMode mode = AppMode::check;
         std::shared_ptr<const CheckResults> checkResults;  ///< Never null.
@@ -382,7 +392,7 @@ class LogStore : public QObject {
     static std::span<const Changes::Property> observedProperties();
 
     void showLog(tallyrig::ADIFDocument document, std::optional<QString> path,
-                 tallyrig::ReadingReport report = {});
+                 std::shared_ptr<const FileReading> reading = nullptr);
     void announceReplacing(const QString& path) const;
     void keepOpenFileIn(const QString& folder, const tallyrig::OutdoorExportFiles& wanted) const;
     /// Empties selection and history. To be called last: the bracket does not bring them back if memory runs

@@ -36,7 +36,7 @@ bool hasValue(const ADIFRecord& record) {
 }  // namespace
 
 EditHistory::Snapshot LogStore::currentSnapshot() const {
-    return {state.document, state.columns.names(), state.isDirty};
+    return {state.document, state.columns.names(), state.isDirty, state.reading};
 }
 
 void LogStore::commitUndo(EditHistory::Snapshot before, std::optional<std::string> coalescingKey) {
@@ -68,6 +68,7 @@ void LogStore::takeStep(std::optional<EditHistory::Snapshot> (EditHistory::*step
     state.document = std::move(snapshot->document);
     state.columns.setNames(std::move(snapshot->columns));
     state.isDirty = snapshot->isDirty;
+    state.reading = std::move(snapshot->reading);
     clearCheckResults();
     rowSelection.reduceTo(state.document.records());
     noteSelection();

@@ -62,22 +62,17 @@ QString LogStore::Observed::windowTitle() const {
     return isDirty ? name + QStringLiteral(" — bearbeitet") : name;
 }
 
-void LogStore::showLog(ADIFDocument document, std::optional<QString> path, tallyrig::ReadingReport report) {
+void LogStore::showLog(ADIFDocument document, std::optional<QString> path,
+                       std::shared_ptr<const FileReading> reading) {
     state.document = std::move(document);
     state.fileURL = std::move(path);
     state.isDirty = false;
     state.savedDocument = state.document;
     knownFile.reset();
     fileConcern.reset();
-    state.readingReport =
-        report.isEmpty() ? nullptr : std::make_shared<const tallyrig::ReadingReport>(std::move(report));
+    state.reading = std::move(reading);
     state.columns.setNames(ColumnLayout::namesFor(state.document));
     clearCheckResults();
-}
-
-const tallyrig::ReadingReport& LogStore::readingReport() const {
-    static const tallyrig::ReadingReport empty;
-    return state.readingReport ? *state.readingReport : empty;
 }
 
 void LogStore::forgetEdits() {
@@ -105,9 +100,11 @@ void LogStore::open(const QString& path) {
                         isNameBroken ? "Der Name ist nicht in UTF-8 geschrieben." : error->message);
         return;
     }
-    tallyrig::LogReader::Log log = tallyrig::LogReader::read(std::get<std::string>(content));
-    const auto concern = concernAboutSaving(log, std::get<std::string>(content), fullPath);
-    showLog(std::move(log.document), fullPath, std::move(log.report));
+    const std::string& bytes = std::get<std::string>(content);
+    tallyrig::LogReader::Log log = tallyrig::LogReader::read(bytes);
+    const auto concern = concernAboutSaving(log, bytes, fullPath);
+    auto reading = log.report.isEmpty() ? nullptr : std::make_shared<const FileReading>(fullPath, bytes, log);
+    showLog(std::move(log.document), fullPath, std::move(reading));
     knownFile = file;
     fileConcern = concern;
     autoFitColumns();
