@@ -2,10 +2,11 @@
 #include "Quillon/Views/Check/CheckResultsView.h"
 
 #include "Quillon/Stores/LogStore.h"
-#include "Quillon/Views/Check/IssueDelegate.h"
 #include "Quillon/Views/Check/IssueListModel.h"
 #include "Quillon/Views/Controls/CopyableList.h"
 #include "Quillon/Views/Controls/EmptyState.h"
+#include "Quillon/Views/Controls/FindingDelegate.h"
+#include "Quillon/Views/Controls/IconButton.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
@@ -24,16 +25,6 @@ namespace quillon {
 namespace {
 
 constexpr int filterWidthPx = 200;
-
-QToolButton* headButton(const QString& iconName, const QString& text, QWidget* parent) {
-    auto* button = new QToolButton(parent);
-    button->setIcon(icon(iconName));
-    button->setToolTip(text);
-    button->setAccessibleName(text);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
 
 /// The number of findings of a severity, at the same time the switch that shows and hides them.
 QToolButton* countSwitch(tallyrig::ValidationSeverity severity, const QString& toolTip, QWidget* parent) {
@@ -119,10 +110,10 @@ QWidget* CheckResultsView::makeHead() {
     layout->addStretch(1);
     layout->addWidget(filterField, 2);
 
-    QToolButton* again = headButton(QStringLiteral("view-refresh"), QStringLiteral("Erneut prüfen"), head);
+    QToolButton* again = iconButton(QStringLiteral("view-refresh"), QStringLiteral("Erneut prüfen"), head);
     connect(again, &QToolButton::clicked, this, &CheckResultsView::checkRequested);
     QToolButton* close =
-        headButton(QStringLiteral(":/Icons/close.svg"), QStringLiteral("Ergebnisleiste schließen"), head);
+        iconButton(QStringLiteral(":/Icons/close.svg"), QStringLiteral("Ergebnisleiste schließen"), head);
     connect(close, &QToolButton::clicked, this, [this] {
         store.setShowCheckResults(false);
         emit left();
@@ -136,7 +127,8 @@ QWidget* CheckResultsView::makeList() {
     list = new CopyableList(Qt::DisplayRole, this);
     list->setAccessibleName(QStringLiteral("Befunde"));
     list->setModel(model);
-    list->setItemDelegate(new IssueDelegate(*model, list));
+    list->setItemDelegate(
+        new FindingDelegate([this] { return model->longestLine(); }, FindingDelegate::Excerpts::none, list));
     // A second look at a finding that is chosen already.
     connect(list, &QListView::clicked, this, [this](const QModelIndex& finding) {
         if (list->chosenCount() == 1) {

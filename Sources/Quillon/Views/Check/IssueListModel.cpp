@@ -94,9 +94,9 @@ QVariant IssueListModel::data(const QModelIndex& index, int role) const {
             return QString(severityText(issue) + QStringLiteral(", ") + rowText(issue));
         case Qt::ToolTipRole:
             return plainToolTip(messageText(issue));
-        case lineRole:
+        case FindingDelegate::placeRole:
             return lineText(issue);
-        case messageRole:
+        case FindingDelegate::messageRole:
             return messageText(issue);
         case issueIndexRole:
             return QVariant::fromValue(static_cast<qulonglong>(position));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quillon/Views/Controls/FindingDelegate.h"
+
 #include <QAbstractListModel>
 #include <QString>
 #include <QTimer>
@@ -34,12 +36,10 @@ class IssueListModel : public QAbstractListModel {
     Q_OBJECT
 
   public:
-    /// What a row tells besides its severity's icon (`Qt::DecorationRole`) and its whole text
-    /// (`Qt::DisplayRole`).
+    /// What a row tells besides its whole text (`Qt::DisplayRole`) and what `FindingDelegate` asks for.
     enum Role {
-        lineRole = Qt::UserRole,  ///< Such as "Zeile 1".
-        messageRole,
-        issueIndexRole,  ///< The position of the finding in the store's list.
+        issueIndexRole =
+            FindingDelegate::firstFreeRole,  ///< The position of the finding in the store's list.
     };
 
     /// `logStore` outlives the model.
@@ -57,7 +57,7 @@ class IssueListModel : public QAbstractListModel {
     /// The row of the finding at `issueIndex` of the store's list; absent if there is none, or not yet.
     std::optional<int> rowOf(std::size_t issueIndex) const;
 
-    /// The longest text of `lineRole`; empty without findings.
+    /// The longest place of a finding; empty without findings.
     QString longestLine() const;
 
   signals:

@@ -7,6 +7,8 @@
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QPainter>
 #include <QStyle>
 #include <QTextDocument>
@@ -99,6 +101,12 @@ QLabel* titleLabel(const QString& text, QWidget* parent) {
     font.setPointSizeF(font.pointSizeF() * 1.2);
     label->setFont(font);
     return label;
+}
+
+QFont fixedFontBeside(const QFont& text) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(QFontInfo(text).pointSizeF());
+    return font;
 }
 
 QLabel* headingLabel(const QString& text, QWidget* parent) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFont>
 #include <QIcon>
 #include <QLabel>
 
@@ -35,6 +36,9 @@ QLabel* headingLabel(const QString& text, QWidget* parent = nullptr);
 /// A figure that strikes the eye: bold, `factor` times as large as running text. It can be selected and
 /// copied.
 QLabel* figureLabel(double factor, QWidget* parent = nullptr);
+
+/// The monospaced font of the system for what stands in a file, as large as `text`.
+QFont fixedFontBeside(const QFont& text);
 
 /// Lets `label`, which wraps, be as narrow as its pane: a word that is too long is cut off at the end, and
 /// the whole is its tool tip.

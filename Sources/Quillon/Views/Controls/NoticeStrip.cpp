@@ -2,6 +2,7 @@
 #include "Quillon/Views/Controls/NoticeStrip.h"
 
 #include "Quillon/Views/Controls/Colors.h"
+#include "Quillon/Views/Controls/IconButton.h"
 #include "Quillon/Views/Controls/Icons.h"
 #include "Quillon/Views/Controls/Labels.h"
 
@@ -37,12 +38,8 @@ NoticeStrip::NoticeStrip(QWidget* parent)
                 [this, index] { close(std::function(notices.front().actions[index].run)); });
         layout->addWidget(buttons[index]);
     }
-    auto* closing = new QToolButton(this);
-    closing->setIcon(icon(QStringLiteral(":/Icons/close.svg")));
-    closing->setToolTip(QStringLiteral("Meldung schließen"));
-    closing->setAccessibleName(closing->toolTip());
-    closing->setAutoRaise(true);
-    closing->setFocusPolicy(Qt::TabFocus);
+    QToolButton* const closing =
+        iconButton(QStringLiteral(":/Icons/close.svg"), QStringLiteral("Meldung schließen"), this);
     layout->addWidget(closing);
 
     const auto dismiss = [this] { close(std::function(notices.front().dismissed)); };
