@@ -48,9 +48,9 @@ struct Option {
 };
 
 constexpr Option ownOptions[] = {
-    {"--crosscheck", true},   {"--grab", true},         {"--grab-check"},      {"--grab-select", true},
-    {"--grab-compare", true}, {"--grab-contest", true}, {"--grab-mode", true}, {"--grab-outdoor", true},
-    {"--grab-size", true},    {"--grab-dark"},
+    {"--crosscheck", true},   {"--grab", true},         {"--grab-check"},         {"--grab-reading"},
+    {"--grab-select", true},  {"--grab-compare", true}, {"--grab-contest", true}, {"--grab-mode", true},
+    {"--grab-outdoor", true}, {"--grab-size", true},    {"--grab-dark"},
 };
 
 /// Those that Qt takes out of the arguments, with one dash or two.

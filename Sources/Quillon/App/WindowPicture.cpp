@@ -68,6 +68,7 @@ std::optional<WindowPicture> WindowPicture::takenFrom(QStringList& arguments) {
     WindowPicture picture;
     picture.path = takeValue(arguments, QStringLiteral("--grab"));
     picture.withCheck = takeSwitch(arguments, QStringLiteral("--grab-check"));
+    picture.withReading = takeSwitch(arguments, QStringLiteral("--grab-reading"));
     picture.isDark = takeSwitch(arguments, QStringLiteral("--grab-dark"));
     picture.comparedFile = takeValue(arguments, QStringLiteral("--grab-compare"));
     picture.contest = contestNamed(takeValue(arguments, QStringLiteral("--grab-contest")).toStdString());
@@ -93,6 +94,9 @@ void WindowPicture::takeOf(QuillonApp& app) const {
     QObject::connect(&app.window(), &ContentView::cameUp, &app.window(), [picture = *this, &app] {
         if (picture.withCheck) {
             app.store().runCheck();
+        }
+        if (picture.withReading) {
+            app.window().showReadingNotes();
         }
         if (picture.outdoorProgram) {
             app.store().setMode(AppMode::outdoor);

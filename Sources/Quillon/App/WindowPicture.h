@@ -21,6 +21,7 @@ class QuillonApp;
 ///
 ///     --grab FILE         opens what the other arguments ask for, writes a picture of the window and quits
 ///     --grab-check        with the results of the check
+///     --grab-reading      with the reading report and the first place of it in the file
 ///     --grab-select N     with record N selected, counted from 1
 ///     --grab-compare F    compared with the file F
 ///     --grab-contest C    with the score by the contest of this raw value
@@ -33,6 +34,7 @@ class QuillonApp;
 struct WindowPicture {
     QString path;
     bool withCheck = false;
+    bool withReading = false;
     std::optional<std::size_t> selectedRecord;  ///< From zero.
     QString comparedFile;                       ///< Null for none.
     std::optional<Contest> contest;

@@ -49,6 +49,7 @@ CommandActions::CommandActions(ContentView& contentView) : QObject(&contentView)
     connect(&store, &LogStore::modeChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::historyChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::documentChanged, this, &CommandActions::refresh);
+    connect(&store, &LogStore::readingReportChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::displayedRecordsChanged, this, &CommandActions::refresh);
     connect(&store, &LogStore::selectionChanged, this, &CommandActions::refresh);
     connect(&window.table(), &QSOTableView::currentCellChanged, this, &CommandActions::refresh);

@@ -39,6 +39,7 @@ enum class CommandID {
     addRecord,
     deleteSelected,
     check,
+    readingNotes,
     renameColumn,
     duplicateColumn,
     fitColumn,

@@ -25,6 +25,7 @@
 #include "Quillon/Views/Window/HelpDesk.h"
 #include "Quillon/Views/Window/KeptNotices.h"
 #include "Quillon/Views/Window/PaneKeys.h"
+#include "Quillon/Views/Window/ReadingNotices.h"
 #include "Quillon/Views/Window/RedoKey.h"
 #include "Quillon/Views/Window/SearchField.h"
 #include "Quillon/Views/Window/StatusLine.h"
@@ -81,6 +82,8 @@ ContentView::ContentView(const AppStores& appStores, Settings& userSettings, QSt
     new RedoKey(this);
     helpDesk = new HelpDesk(stores, settings, *this);
     fileNotices = new FileNotices(stores, *notices, *this, [this](const QString& path) { openFile(path); });
+    readingNotices = new ReadingNotices(stores.log, *notices, *workArea, *this);
+    connect(readingNotices, &ReadingNotices::noticed, statusLine, &StatusLine::showNotice);
     followStore();
     alertOfFailures(stores, *this);
 }
@@ -97,6 +100,10 @@ void ContentView::offerKept(LogKeeper& keeper) {
 
 void ContentView::showKeptLogs() {
     keptNotices->showList();
+}
+
+void ContentView::showReadingNotes() {
+    readingNotices->showNotes();
 }
 
 void ContentView::offerUpdates(UpdateManager& manager, UpdateOffers::MakeInstaller makeInstaller) {

@@ -24,6 +24,7 @@ class LogKeeper;
 class NoticeStrip;
 class PaneKeys;
 class QSOTableView;
+class ReadingNotices;
 class SearchField;
 class Settings;
 class SidebarPane;
@@ -48,6 +49,7 @@ class ContentView : public QMainWindow {
     void offerKept(LogKeeper& keeper);
     bool keepsLogs() const { return keptNotices != nullptr; }
     void showKeptLogs();
+    void showReadingNotes();
 
     /// Shows what comes of looking for updates, with what installs one. `manager` outlives the window.
     void offerUpdates(UpdateManager& manager, UpdateOffers::MakeInstaller makeInstaller);
@@ -116,6 +118,7 @@ class ContentView : public QMainWindow {
     DropHint* dropHint = nullptr;
     NoticeStrip* notices = nullptr;
     FileNotices* fileNotices = nullptr;
+    ReadingNotices* readingNotices = nullptr;
     HelpDesk* helpDesk = nullptr;
     KeptNotices* keptNotices = nullptr;    ///< Null where nothing is kept.
     UpdateOffers* updateOffers = nullptr;  ///< Null where nobody looks for updates.

@@ -14,6 +14,7 @@
 #include "Quillon/Views/CrossCheck/CrossCheckRunner.h"
 #include "Quillon/Views/CrossCheck/CrossCheckView.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
+#include "Quillon/Views/Reading/ReadingNotesView.h"
 #include "Quillon/Views/Statistics/StatsView.h"
 #include "Quillon/Views/Table/QSOTableView.h"
 #include "Quillon/Views/Table/TableBody.h"
@@ -58,6 +59,12 @@ WorkArea::WorkArea(const AppStores& appStores, PaneSplitter& splitter)
     splitter.addPane(dashboard, dashboardWidths);
 
     connect(&stores.log, &LogStore::showCheckResultsChanged, this, &WorkArea::showResults);
+    connect(&stores.log, &LogStore::checkResultsChanged, this, [this] {
+        // A check was asked for later than the notes.
+        if (stores.log.showCheckResults()) {
+            hideReadingNotes();
+        }
+    });
     connect(&stores.log, &LogStore::modeChanged, this, &WorkArea::showMode);
     connect(&stores.contest, &ContestStore::paneChanged, this, &WorkArea::showMode);
     showMode();
@@ -118,7 +125,7 @@ void WorkArea::focusTable() {
 }
 
 QWidgetList WorkArea::panes() const {
-    return {tableView, results, detailView, dashboard};
+    return {tableView, results, readingStrip, detailView, dashboard};
 }
 
 void WorkArea::commitEditing() {
@@ -203,14 +210,8 @@ StatsView* WorkArea::statsPane() {
 
 void WorkArea::showResults() {
     if (results == nullptr && stores.log.showCheckResults()) {
-        results = new QWidget(tableArea);
-        QVBoxLayout* const column = columnIn(results);
-        auto* view = new CheckResultsView(stores.log, results);
-        view->setFixedHeight(resultsHeightPx);
-        column->addWidget(horizontalLine(results));
-        column->addWidget(view);
-        tableColumn->addWidget(results);
-        QWidget::setTabOrder(&tableView->body(), view);
+        auto* view = new CheckResultsView(stores.log, tableArea);
+        results = addStrip(*view);
         connect(view, &CheckResultsView::findingChosen, this,
                 [this](tallyrig::UUID record, const std::string& field, std::optional<std::size_t> position) {
                     tableView->showCell(record, field);
@@ -220,7 +221,58 @@ void WorkArea::showResults() {
         connect(view, &CheckResultsView::left, this, &WorkArea::focusTable);
     }
     if (results != nullptr) {
-        results->setVisible(stores.log.showCheckResults());
+        results->setVisible(stores.log.showCheckResults() && !areReadingNotesShown);
+    }
+}
+
+QWidget* WorkArea::addStrip(QWidget& view) {
+    auto* strip = new QWidget(tableArea);
+    QVBoxLayout* const column = columnIn(strip);
+    view.setFixedHeight(resultsHeightPx);
+    column->addWidget(horizontalLine(strip));
+    column->addWidget(&view);
+    tableColumn->addWidget(strip);
+    QWidget::setTabOrder(&tableView->body(), &view);
+    return strip;
+}
+
+void WorkArea::makeReadingNotes() {
+    readingNotes = new ReadingNotesView(stores.log, tableArea);
+    readingStrip = addStrip(*readingNotes);
+    connect(readingNotes, &ReadingNotesView::noteChosen, this,
+            [this](std::optional<tallyrig::UUID> record, const std::string& field) {
+                if (record) {
+                    tableView->showCell(*record, field);
+                } else {
+                    stores.log.setSelection({}, std::nullopt);
+                }
+            });
+    connect(readingNotes, &ReadingNotesView::repairWanted, this, &WorkArea::repairWanted);
+    connect(readingNotes, &ReadingNotesView::left, this, &WorkArea::focusTable);
+    connect(readingNotes, &ReadingNotesView::closeWanted, this, &WorkArea::hideReadingNotes);
+}
+
+void WorkArea::showReadingNotes() {
+    if (readingNotes == nullptr) {
+        makeReadingNotes();
+    }
+    areReadingNotesShown = true;
+    showResults();
+    readingStrip->show();
+    readingNotes->enterNotes();
+}
+
+void WorkArea::hideReadingNotes() {
+    if (!areReadingNotesShown) {
+        return;
+    }
+    areReadingNotesShown = false;
+    const QWidget* const keyboard = readingStrip->window()->focusWidget();
+    const bool hadKeyboard = keyboard != nullptr && readingStrip->isAncestorOf(keyboard);
+    readingStrip->hide();
+    showResults();
+    if (hadKeyboard) {
+        focusTable();
     }
 }
 

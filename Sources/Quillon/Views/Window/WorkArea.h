@@ -24,6 +24,7 @@ class CrossCheckRunner;
 class CrossCheckView;
 class PaneSplitter;
 class QSOTableView;
+class ReadingNotesView;
 class RecordDetailView;
 class StatsView;
 class TableQuestions;
@@ -52,6 +53,11 @@ class WorkArea : public QObject {
     /// Selects the QSO and shows it in the table, which takes the keyboard.
     void showQSO(tallyrig::UUID record);
 
+    /// Shows what the reader said of the log's file, in the place of the findings, and gives it the keyboard.
+    void showReadingNotes();
+    /// The findings come back, if there are any to show.
+    void hideReadingNotes();
+
     /// Gives the keyboard to what is shown.
     void focus();
     void focusTable();
@@ -63,6 +69,8 @@ class WorkArea : public QObject {
   signals:
     /// The user wants the log checked once more.
     void checkRequested();
+    /// The user wants the log's file read as the repair of its reading report would have it.
+    void repairWanted();
     /// Something happened that cannot be seen in the panes; `text` says so.
     void noticed(const QString& text);
 
@@ -70,6 +78,9 @@ class WorkArea : public QObject {
     void buildTable(PaneSplitter& splitter);
     void showMode();
     void showResults();
+    void makeReadingNotes();
+    /// Adds a strip under the table.
+    QWidget* addStrip(QWidget& view);
     QWidget* paneOfMode();
     void addPane(QWidget& pane);
     CompareView* comparePane();
@@ -83,7 +94,10 @@ class WorkArea : public QObject {
     QBoxLayout* tableColumn = nullptr;
     QSOTableView* tableView = nullptr;
     RecordDetailView* detailView = nullptr;
-    QWidget* results = nullptr;           ///< Null until there are results to show.
+    QWidget* results = nullptr;       ///< Null until there are results to show.
+    QWidget* readingStrip = nullptr;  ///< Null until it is to be shown.
+    ReadingNotesView* readingNotes = nullptr;
+    bool areReadingNotesShown = false;
     QStackedWidget* dashboard = nullptr;  ///< Takes the place of the table in the modes that want it.
     CompareView* compareView = nullptr;   ///< Null until seen, as those below.
     ContestView* contestView = nullptr;
