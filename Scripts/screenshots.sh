@@ -13,7 +13,7 @@ Scripts/build.sh release Quillon
 folder=/var/tmp/Logbuch
 mkdir -p Docs/pictures "$folder"
 cp -r Examples/befunde.adi Examples/jahreslog.adi Examples/maerzcontest.adi Examples/crosscheck \
-    Examples/unterwegs.adi Examples/vereinsabend*.adi "$folder"
+    Examples/schaden.adi Examples/unterwegs.adi Examples/vereinsabend*.adi "$folder"
 trap 'rm -r "$folder"' EXIT
 
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/befunde.adi" \
@@ -28,3 +28,5 @@ QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/vereinsabend.adi" \
     --grab Docs/pictures/compare.png --grab-size 1280x640 --grab-compare "$folder/vereinsabend-abschrift.adi"
 QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/unterwegs.adi" \
     --grab Docs/pictures/outdoor.png --grab-size 1280x800 --grab-outdoor POTA --grab-select 4
+QT_QPA_PLATFORM=offscreen build/release/bin/Quillon "$folder/schaden.adi" \
+    --grab Docs/pictures/reading.png --grab-size 1280x640 --grab-reading
