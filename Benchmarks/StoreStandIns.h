@@ -26,12 +26,14 @@ class NoSettings : public Settings {
 
 class NoPanels : public Panels {
   public:
-    std::optional<QString> fileToOpen(const QList<FileType>&) override { return std::nullopt; }
-    std::optional<QString> fileToSave(const QString&, const QList<FileType>&) override {
+    std::optional<QString> fileToOpen(PanelUse, const QList<FileType>&) override { return std::nullopt; }
+    std::optional<QString> fileToSave(PanelUse, const QString&, const QList<FileType>&) override {
         return std::nullopt;
     }
-    QStringList filesAndFoldersToOpen(const QString&) override { return {}; }
-    std::optional<QString> folderToWriteTo(const QString&, const QString&) override { return std::nullopt; }
+    QStringList filesAndFoldersToOpen(PanelUse, const QString&) override { return {}; }
+    std::optional<QString> folderToWriteTo(PanelUse, const QString&, const QString&) override {
+        return std::nullopt;
+    }
     LossAnswer answerTo(const LossQuestion&) override { return LossAnswer::cancel; }
 };
 

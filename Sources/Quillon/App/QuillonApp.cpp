@@ -16,6 +16,8 @@
 #include <QLocale>
 #include <QStyle>
 
+#include <utility>
+
 namespace quillon {
 
 namespace {
@@ -37,8 +39,10 @@ void setUp(QApplication& application, QTranslator& translator) {
 
 }  // namespace
 
-QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
-    : settings(userSettings()),
+QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments,
+                       std::unique_ptr<Settings> userSettings)
+    : settings(std::move(userSettings)),
+      panels(*settings),
       installPlatform(QCoreApplication::applicationDirPath()),
       logStore(*settings, panels, measurer, fileManager),
       compareStore(*settings, panels),
@@ -51,7 +55,7 @@ QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments)
                               [this] { return std::make_unique<UpdateInstaller>(http, installPlatform); });
     QObject::connect(&logStore, &LogStore::fileURLChanged, contentView.get(), [this] {
         if (logStore.fileURL()) {
-            panels.setFolder(folderOf(*logStore.fileURL()));
+            panels.setLogFolder(folderOf(*logStore.fileURL()));
         }
     });
 }

@@ -31,7 +31,8 @@ class ProgramEnd;
 class QuillonApp {
   public:
     /// `arguments` are those of the program without its name. `application` outlives this.
-    QuillonApp(QApplication& application, const QStringList& arguments);
+    QuillonApp(QApplication& application, const QStringList& arguments,
+               std::unique_ptr<Settings> userSettings);
     ~QuillonApp();
     /// Lets the log outlive the program in `folder`. To be called before the window is shown, if at all.
     void keepLogsIn(const QString& folder);

@@ -3,11 +3,13 @@
 #include "Quillon/App/QuillonApp.h"
 #include "Quillon/App/Terminal.h"
 #include "Quillon/App/WindowPicture.h"
+#include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/StateFolder.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <csignal>
 #include <cstddef>
+#include <memory>
 #include <span>
 
 int main(int argumentCount, char** argumentValues) {
@@ -25,7 +27,10 @@ int main(int argumentCount, char** argumentValues) {
     if (picture) {
         picture->prepare();
     }
-    quillon::QuillonApp quillonApp(application, arguments);
+    // A picture shows and changes nothing of what the user set.
+    quillon::QuillonApp quillonApp(
+        application, arguments,
+        picture ? std::make_unique<quillon::PassingSettings>() : quillon::userSettings());
     application.whenOutOfMemory([&quillonApp] { quillonApp.tellOutOfMemory(); });
     if (picture) {
         picture->takeOf(quillonApp);

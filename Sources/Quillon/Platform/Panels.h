@@ -23,6 +23,9 @@ struct LossQuestion {
 };
 enum class LossAnswer { saveAnyway, otherFormat, cancel };
 
+/// What a panel is shown for. Each begins in the folder in which it ended last.
+enum class PanelUse { openLog, saveLog, exportLog, outdoorFiles, comparedSide, crossCheckLogs, reports };
+
 /// The questions that the stores ask the user. The real ones are modal dialogs; tests answer by themselves.
 class Panels {
   public:
@@ -33,15 +36,17 @@ class Panels {
 
     /// One existing file, absent if the user cancels. Every file may be chosen; `types` are what is offered
     /// first.
-    virtual std::optional<QString> fileToOpen(const QList<FileType>& types) = 0;
+    virtual std::optional<QString> fileToOpen(PanelUse use, const QList<FileType>& types) = 0;
     /// A place to write to, absent if the user cancels. The panel has asked about replacing a file that is
     /// there.
-    virtual std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) = 0;
+    virtual std::optional<QString> fileToSave(PanelUse use, const QString& proposedName,
+                                              const QList<FileType>& types) = 0;
     /// Existing files and folders, of any kind; none if the user cancels. `message` says what for.
-    virtual QStringList filesAndFoldersToOpen(const QString& message) = 0;
+    virtual QStringList filesAndFoldersToOpen(PanelUse use, const QString& message) = 0;
     /// An existing folder, which may have been made just now; absent if the user cancels. `button` is what
     /// the user presses to go on.
-    virtual std::optional<QString> folderToWriteTo(const QString& message, const QString& button) = 0;
+    virtual std::optional<QString> folderToWriteTo(PanelUse use, const QString& message,
+                                                   const QString& button) = 0;
     /// Whether to write a log of which something would be lost. Only with an `otherFormat` is that an answer.
     virtual LossAnswer answerTo(const LossQuestion& question) = 0;
 };

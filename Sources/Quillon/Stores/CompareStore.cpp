@@ -149,7 +149,7 @@ void CompareStore::loadLeftFile() {
 }
 
 void CompareStore::loadWithPanel(Side side) {
-    if (const auto path = panels.fileToOpen(adifContentTypes())) {
+    if (const auto path = panels.fileToOpen(PanelUse::comparedSide, adifContentTypes())) {
         load(side, *path);
     }
 }
@@ -182,7 +182,7 @@ void CompareStore::save(Side side, const QString& proposedName) {
     }
     std::optional<QString> path = fileOf(side)->url;
     if (!path) {
-        path = panels.fileToSave(proposedName, adifContentTypes());
+        path = panels.fileToSave(PanelUse::comparedSide, proposedName, adifContentTypes());
     }
     if (!path) {
         return;

@@ -144,6 +144,7 @@ void CrossCheckStore::addLogsWithPanel(const std::optional<QString>& currentURL)
 
 std::optional<LogsToAdd> CrossCheckStore::logsToAddWithPanel(const std::optional<QString>& currentURL) const {
     const QStringList paths = panels.filesAndFoldersToOpen(
+        PanelUse::crossCheckLogs,
         QStringLiteral("Contest-Logs (ADI, ADX, Cabrillo, EDI) oder einen Ordner wählen"));
     return paths.isEmpty() ? std::nullopt : std::optional(logsToAdd(paths, currentURL));
 }
@@ -321,6 +322,7 @@ void CrossCheckStore::exportReportsWithPanel(std::shared_ptr<const Evaluation> e
 std::optional<ReportsToWrite> CrossCheckStore::reportsToWriteWithPanel(
     std::shared_ptr<const Evaluation> evaluation, const QDate& date) const {
     const auto folder = panels.folderToWriteTo(
+        PanelUse::reports,
         QStringLiteral("Ordner für die Prüfberichte wählen (es wird ein Unterordner angelegt)"),
         QStringLiteral("Exportieren"));
     return folder ? std::optional(reportsToWrite(std::move(evaluation), *folder, date)) : std::nullopt;

@@ -121,7 +121,7 @@ void LogStore::bringBack(ADIFDocument document, std::optional<QString> path) {
 }
 
 void LogStore::openWithPanel() {
-    if (const auto path = panels.fileToOpen(adifContentTypes())) {
+    if (const auto path = panels.fileToOpen(PanelUse::openLog, adifContentTypes())) {
         open(*path);
     }
 }
@@ -175,7 +175,7 @@ void LogStore::saveReplacing() {
 void LogStore::saveWithPanel() {
     const QString proposedName =
         state.fileURL ? QFileInfo(*state.fileURL).fileName() : QStringLiteral("Logbuch.adi");
-    if (const auto path = panels.fileToSave(proposedName, adifContentTypes())) {
+    if (const auto path = panels.fileToSave(PanelUse::saveLog, proposedName, adifContentTypes())) {
         write(*path);
     }
 }
@@ -241,7 +241,7 @@ QString LogStore::proposedName(const QString& extension) const {
 }
 
 void LogStore::exportLog(const QString& extension, const QList<FileType>& types) {
-    const auto path = panels.fileToSave(proposedName(extension), types);
+    const auto path = panels.fileToSave(PanelUse::saveLog, proposedName(extension), types);
     if (path && write(*path)) {
         emit exported(*state.fileURL);
     }
@@ -258,7 +258,7 @@ void LogStore::saveAsADX() {
 }
 
 void LogStore::exportText(const std::string& text, const FileType& type, const QString& failurePrefix) {
-    const auto path = panels.fileToSave(proposedName(type.extensions.first()),
+    const auto path = panels.fileToSave(PanelUse::exportLog, proposedName(type.extensions.first()),
                                         {type, {QStringLiteral("Textdateien"), {QStringLiteral("txt")}}});
     if (!path) {
         return;

@@ -51,6 +51,7 @@ void LogStore::exportOutdoor() {
     }
     const std::string name(rawValue(state.outdoorProgram));
     const auto chosen = panels.folderToWriteTo(
+        PanelUse::outdoorFiles,
         QStringLiteral("Ordner für die %1-Dateien wählen.").arg(QString::fromStdString(name)),
         QStringLiteral("Hierhin exportieren"));
     if (!chosen) {

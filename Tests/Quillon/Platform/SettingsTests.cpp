@@ -26,6 +26,10 @@ TEST(UserSettings, ComeBackInTheNextRunWithTheirTypes) {
     first->setValue("off", false);
     first->setValue("text", QString::fromUtf8(" 1,5; \"ü\" "));
     first->setValue("moment", moment);
+    first->setValue("list", QStringList({"/a, b", "@/c"}));
+    first->setValue("short list", QStringList("/a"));
+    first->setValue("number", 320);
+    first->setValue("bytes", QByteArray("\0\xff,", 3));
     QSettings(QSettings::IniFormat, QSettings::UserScope, "Quillon", "Quillon").sync();
     // Objects for one file share what they hold in memory; a copy of the file is read anew.
     ASSERT_TRUE(QDir(home.path(".")).mkpath("later/Quillon"));
@@ -37,12 +41,19 @@ TEST(UserSettings, ComeBackInTheNextRunWithTheirTypes) {
         EXPECT_FALSE(settings->boolean("off", true));
         EXPECT_EQ(settings->string("text"), QString::fromUtf8(" 1,5; \"ü\" "));
         EXPECT_EQ(settings->moment("moment"), moment);
+        EXPECT_EQ(settings->strings("list"), QStringList({"/a, b", "@/c"}));
+        EXPECT_EQ(settings->strings("short list"), QStringList("/a"));
+        EXPECT_EQ(settings->number("number", 1), 320);
+        EXPECT_EQ(settings->bytes("bytes"), QByteArray("\0\xff,", 3));
         // Of the wrong type or not there at all.
         EXPECT_TRUE(settings->string("on").isNull());
         EXPECT_FALSE(settings->boolean("text", false));
         EXPECT_FALSE(settings->moment("text"));
         EXPECT_FALSE(settings->moment("none"));
         EXPECT_TRUE(settings->boolean("none", true));
+        EXPECT_EQ(settings->strings("on"), QStringList());
+        EXPECT_EQ(settings->number("text", 1), 1);
+        EXPECT_EQ(settings->bytes("number"), QByteArray());
     }
 }
 

@@ -6,7 +6,6 @@
 #include "Quillon/Platform/Settings.h"
 #include "Quillon/Platform/TextMeasurer.h"
 
-#include <QHash>
 #include <QStringList>
 
 #include <map>
@@ -16,34 +15,27 @@
 
 namespace quillon::testing {
 
-/// Settings that last as long as the object.
-class MemorySettings : public Settings {
-  public:
-    QVariant value(const QString& key) const override { return values.value(key); }
-    void setValue(const QString& key, const QVariant& value) override { values.insert(key, value); }
-
-  private:
-    QHash<QString, QVariant> values;
-};
+using MemorySettings = PassingSettings;
 
 /// Panels that answer from a list; with none left, as a user who cancels.
 class ScriptedPanels : public Panels {
   public:
-    std::optional<QString> fileToOpen(const QList<FileType>& types) override {
+    std::optional<QString> fileToOpen(PanelUse, const QList<FileType>& types) override {
         offeredTypes = types;
         return nextAnswer();
     }
-    std::optional<QString> fileToSave(const QString& proposedName, const QList<FileType>& types) override {
+    std::optional<QString> fileToSave(PanelUse, const QString& proposedName,
+                                      const QList<FileType>& types) override {
         offeredTypes = types;
         proposedNames.append(proposedName);
         return nextAnswer();
     }
 
-    QStringList filesAndFoldersToOpen(const QString& message) override {
+    QStringList filesAndFoldersToOpen(PanelUse, const QString& message) override {
         messages.append(message);
         return std::exchange(answers, {});
     }
-    std::optional<QString> folderToWriteTo(const QString& message, const QString& button) override {
+    std::optional<QString> folderToWriteTo(PanelUse, const QString& message, const QString& button) override {
         messages.append(message + QLatin1Char('|') + button);
         return nextAnswer();
     }

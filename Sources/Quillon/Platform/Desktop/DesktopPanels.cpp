@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Desktop/BusyCursor.h"
 #include "Quillon/Platform/Desktop/LossDialog.h"
 #include "Quillon/Platform/FileNames.h"
+#include "Quillon/Platform/Settings.h"
 #include "Tallyrig/Text/VisibleText.h"
 
 #include <QApplication>
@@ -174,7 +175,47 @@ QStringList withoutParents(const QStringList& paths) {
     return chosen;
 }
 
-QStringList choices(QFileDialog& dialog, QString& folder) {
+bool isForTheLog(PanelUse use) {
+    return use == PanelUse::openLog || use == PanelUse::saveLog;
+}
+
+QString settingOf(PanelUse use) {
+    switch (use) {
+        case PanelUse::openLog:
+            return QStringLiteral("folder.open");
+        case PanelUse::saveLog:
+            return QStringLiteral("folder.save");
+        case PanelUse::exportLog:
+            return QStringLiteral("folder.export");
+        case PanelUse::outdoorFiles:
+            return QStringLiteral("folder.outdoor");
+        case PanelUse::comparedSide:
+            return QStringLiteral("folder.compare");
+        case PanelUse::crossCheckLogs:
+            return QStringLiteral("folder.crossCheck");
+        case PanelUse::reports:
+            return QStringLiteral("folder.reports");
+    }
+    return {};
+}
+
+}  // namespace
+
+QString DesktopPanels::folderFor(PanelUse use) const {
+    const QString kept = settings.string(settingOf(use));
+    const QString opened = settings.string(settingOf(PanelUse::openLog));
+    const QStringList wanted =
+        isForTheLog(use) ? QStringList{logFolder, kept, opened} : QStringList{kept, logFolder, opened};
+    for (const QString& folder : wanted) {
+        // One on a stick may be gone.
+        if (folder.startsWith(QLatin1Char('/')) && QFileInfo(folder).isDir()) {
+            return folder;
+        }
+    }
+    return {};
+}
+
+QStringList DesktopPanels::choices(QFileDialog& dialog, PanelUse use) {
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
@@ -182,28 +223,33 @@ QStringList choices(QFileDialog& dialog, QString& folder) {
     if (paths.isEmpty()) {
         return {};
     }
-    folder = folderOf(paths.constFirst());
+    // What is written to a folder is likely to go there the next time, too.
+    const bool isFolder = dialog.fileMode() == QFileDialog::Directory;
+    const QString folder = isFolder ? paths.constFirst() : folderOf(paths.constFirst());
+    settings.setValue(settingOf(use), folder);
+    if (isForTheLog(use)) {
+        logFolder = folder;
+    }
     // The store now reads or writes the file; it returns to the event loop when it is done.
     showBusyCursorUntilIdle();
     return paths;
 }
 
-std::optional<QString> choice(QFileDialog& dialog, QString& folder) {
-    const QStringList paths = choices(dialog, folder);
+std::optional<QString> DesktopPanels::choice(QFileDialog& dialog, PanelUse use) {
+    const QStringList paths = choices(dialog, use);
     return paths.isEmpty() ? std::nullopt : std::optional(paths.constFirst());
 }
 
-}  // namespace
-
-std::optional<QString> DesktopPanels::fileToOpen(const QList<FileType>& types) {
-    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Öffnen"), folder);
+std::optional<QString> DesktopPanels::fileToOpen(PanelUse use, const QList<FileType>& types) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Öffnen"), folderFor(use));
     dialog.setFileMode(QFileDialog::ExistingFile);
     setUp(dialog, types);
-    return choice(dialog, folder);
+    return choice(dialog, use);
 }
 
-std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, const QList<FileType>& types) {
-    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Speichern unter"), folder);
+std::optional<QString> DesktopPanels::fileToSave(PanelUse use, const QString& proposedName,
+                                                 const QList<FileType>& types) {
+    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Speichern unter"), folderFor(use));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     setUp(dialog, types);
@@ -211,7 +257,7 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
     // extension here.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.selectFile(proposedName);
-    while (auto path = choice(dialog, folder)) {
+    while (auto path = choice(dialog, use)) {
         if (extensionOf(*path).isEmpty() && !QFileInfo::exists(*path)) {
             *path += QLatin1Char('.') + firstExtension(types);
         }
@@ -222,19 +268,20 @@ std::optional<QString> DesktopPanels::fileToSave(const QString& proposedName, co
     return std::nullopt;
 }
 
-QStringList DesktopPanels::filesAndFoldersToOpen(const QString& message) {
-    FilesAndFoldersDialog dialog(QApplication::activeWindow(), message, folder);
+QStringList DesktopPanels::filesAndFoldersToOpen(PanelUse use, const QString& message) {
+    FilesAndFoldersDialog dialog(QApplication::activeWindow(), message, folderFor(use));
     setUp(dialog);
-    return choices(dialog, folder);
+    return choices(dialog, use);
 }
 
-std::optional<QString> DesktopPanels::folderToWriteTo(const QString& message, const QString& button) {
-    QFileDialog dialog(QApplication::activeWindow(), message, folder);
+std::optional<QString> DesktopPanels::folderToWriteTo(PanelUse use, const QString& message,
+                                                      const QString& button) {
+    QFileDialog dialog(QApplication::activeWindow(), message, folderFor(use));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setLabelText(QFileDialog::Accept, button);
     setUp(dialog);
-    return choice(dialog, folder);
+    return choice(dialog, use);
 }
 
 LossAnswer DesktopPanels::answerTo(const LossQuestion& question) {
