@@ -5,6 +5,7 @@
 #include "Quillon/Keeping/LogKeeper.h"
 #include "Quillon/Platform/AppInfo.h"
 #include "Quillon/Platform/FileNames.h"
+#include "Quillon/Platform/RecentFiles.h"
 #include "Quillon/Updates/UpdateInstaller.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/FocusMarkStyle.h"
@@ -61,6 +62,27 @@ QuillonApp::QuillonApp(QApplication& application, const QStringList& arguments,
 }
 
 QuillonApp::~QuillonApp() = default;
+
+void QuillonApp::keepRecentFiles() {
+    recentFileDue.setSingleShot(true);
+    QObject::connect(&recentFileDue, &QTimer::timeout, &recentFiles, [this] { noteRecentFile(); });
+    // Opened, or saved under another name; saved for the first time after it was brought back.
+    for (const auto signal : {&LogStore::fileURLChanged, &LogStore::savedDocumentChanged}) {
+        QObject::connect(&logStore, signal, &recentFileDue, qOverload<>(&QTimer::start));
+    }
+}
+
+void QuillonApp::noteRecentFile() {
+    // A log that was brought back was not in its file.
+    if (!logStore.fileURL() || logStore.isDirty()) {
+        return;
+    }
+    const QString path = *logStore.fileURL();
+    if (!liesIn(foldersOfPassingFiles(), path)) {
+        RecentFiles(*settings).add(path);
+        recentFiles.note(path);
+    }
+}
 
 void QuillonApp::keepLogsIn(const QString& folder) {
     keeper = std::make_unique<LogKeeper>(logStore, compareStore, folder.toStdString(), LogKeeper::Pace());

@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Desktop/DesktopBrowser.h"
 #include "Quillon/Platform/Desktop/DesktopFileManager.h"
 #include "Quillon/Platform/Desktop/DesktopPanels.h"
+#include "Quillon/Platform/Desktop/DesktopRecentFiles.h"
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Platform/HTTP/ModuleHTTP.h"
 #include "Quillon/Platform/Settings.h"
@@ -15,6 +16,7 @@
 #include "Quillon/Updates/UpdateManager.h"
 
 #include <QStringList>
+#include <QTimer>
 #include <QTranslator>
 
 #include <memory>
@@ -34,6 +36,8 @@ class QuillonApp {
     QuillonApp(QApplication& application, const QStringList& arguments,
                std::unique_ptr<Settings> userSettings);
     ~QuillonApp();
+    /// Remembers for the user which logs were open.
+    void keepRecentFiles();
     /// Lets the log outlive the program in `folder`. To be called before the window is shown, if at all.
     void keepLogsIn(const QString& folder);
     /// Looks for an update when the window has come up. To be called before it is shown, if at all.
@@ -47,6 +51,8 @@ class QuillonApp {
     void tellOutOfMemory();
 
   private:
+    void noteRecentFile();
+
     QTranslator translator;  ///< The words of Qt's own dialogs.
     std::unique_ptr<Settings> settings;
     DesktopPanels panels;
@@ -55,6 +61,8 @@ class QuillonApp {
     DesktopBrowser browser;
     ModuleHTTP http;
     DesktopInstallPlatform installPlatform;
+    DesktopRecentFiles recentFiles;
+    QTimer recentFileDue;  ///< One note for all that changes in one turn of the event loop.
     LogStore logStore;
     CompareStore compareStore;
     ContestStore contestStore;

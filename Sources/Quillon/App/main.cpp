@@ -37,6 +37,7 @@ int main(int argumentCount, char** argumentValues) {
     } else {
         quillonApp.keepLogsIn(quillon::stateFolder() + QStringLiteral("/kept"));
         quillonApp.lookForUpdates();
+        quillonApp.keepRecentFiles();
     }
     quillonApp.window().show();
     return QApplication::exec();

@@ -26,6 +26,7 @@
 #include "Quillon/Views/Window/KeptNotices.h"
 #include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/ReadingNotices.h"
+#include "Quillon/Views/Window/RecentFilesMenu.h"
 #include "Quillon/Views/Window/RedoKey.h"
 #include "Quillon/Views/Window/SearchField.h"
 #include "Quillon/Views/Window/StatusLine.h"
@@ -164,6 +165,9 @@ void ContentView::buildMenus() {
         connect(entry, &QMenu::aboutToShow, commandActions,
                 [this, menu] { commandActions->showIcons(menu); });
         commandActions->addMenu(menu, *entry);
+        if (menu == CommandMenu::file) {
+            buildRecentFilesMenu(*entry);
+        }
     }
     commandActions->addRowMenu(table().body());
     commandActions->addMenu(CommandMenu::column, table().header());
@@ -172,6 +176,15 @@ void ContentView::buildMenus() {
             commandActions->showIcons(menu);
         }
     });
+}
+
+void ContentView::buildRecentFilesMenu(QMenu& fileMenu) {
+    auto* recent = new RecentFilesMenu(settings, &fileMenu);
+    const QList<QAction*> actions = fileMenu.actions();
+    const qsizetype open = actions.indexOf(commandActions->action(CommandID::open));
+    fileMenu.insertMenu(actions.value(open + 1), recent);
+    connect(&fileMenu, &QMenu::aboutToShow, recent, &RecentFilesMenu::refresh);
+    connect(recent, &RecentFilesMenu::chosen, this, &ContentView::openFile);
 }
 
 void ContentView::buildPanes() {

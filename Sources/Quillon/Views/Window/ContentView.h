@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class QMenu;
 class QMimeData;
 
 namespace quillon {
@@ -90,6 +91,7 @@ class ContentView : public QMainWindow {
 
   private:
     void buildMenus();
+    void buildRecentFilesMenu(QMenu& fileMenu);
     void buildPanes();
     void buildToolBar();
     void followStore();

@@ -21,6 +21,7 @@
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/FileNotices.h"
 #include "Quillon/Views/Window/NoHits.h"
+#include "Quillon/Views/Window/RecentFilesMenu.h"
 #include "Quillon/Views/Window/StatusLine.h"
 
 #include <gtest/gtest.h>
@@ -87,6 +88,29 @@ class Window : public testing::LogStoreTest {
     CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<ContentView> window;
 };
+
+TEST_F(Window, OffersTheFilesThatWereOpenLast) {
+    const QString there = folder.write(QStringLiteral("R&D.adi"), testing::adi({"CALL=A"}));
+    settings.setValue("recentFiles", QStringList{folder.path("gone.adi"), there});
+    show();
+    auto& menu = *window->findChild<RecentFilesMenu*>();
+    auto& presence = *menu.findChild<PresenceCheck*>();
+    QSignalSpy looked(&presence, &PresenceCheck::looked);
+    menu.popup(QPoint());
+    const QList<QAction*> actions = menu.actions();
+    EXPECT_EQ(actions[0]->text(), "&1  gone.adi");
+    EXPECT_EQ(actions[1]->text(), "&2  R&&D.adi");
+    while (looked.size() < 2) {
+        ASSERT_TRUE(looked.wait());
+    }
+    EXPECT_FALSE(actions[0]->isEnabled());
+    QTest::keyClick(&menu, Qt::Key_2);
+    EXPECT_EQ(store.fileURL(), there);
+    menu.popup(QPoint());
+    menu.actions().constLast()->trigger();
+    menu.refresh();
+    EXPECT_FALSE(menu.menuAction()->isEnabled());
+}
 
 TEST_F(Window, TellsWhenAnotherProgramChangesTheFile) {
     const QString path = folder.write(QStringLiteral("a.adi"), testing::adi({"CALL=A"}));
