@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QSplitterHandle>
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -33,6 +35,11 @@ void PaneSplitter::addPane(QWidget* pane, PaneWidths widths) {
     addWidget(pane);
     setStretchFactor(indexOf(pane), widths.takesRoom ? 1 : 0);
     idealWidths.append(widths.ideal);
+    setSizes(idealWidths);
+}
+
+void PaneSplitter::setIdealWidth(QWidget& pane, int width) {
+    idealWidths[indexOf(&pane)] = std::clamp(width, pane.minimumWidth(), pane.maximumWidth());
     setSizes(idealWidths);
 }
 

@@ -25,6 +25,9 @@ class PaneSplitter : public QSplitter {
     /// Adds `pane` at the right and gives each pane its ideal width.
     void addPane(QWidget* pane, PaneWidths widths);
 
+    /// Gives `pane`, one that was added, this width as far as its own limits let it.
+    void setIdealWidth(QWidget& pane, int width);
+
   protected:
     QSplitterHandle* createHandle() override;
 

@@ -23,6 +23,7 @@
 #include "Quillon/Views/Window/DropHint.h"
 #include "Quillon/Views/Window/FileNotices.h"
 #include "Quillon/Views/Window/HelpDesk.h"
+#include "Quillon/Views/Window/KeptLayout.h"
 #include "Quillon/Views/Window/KeptNotices.h"
 #include "Quillon/Views/Window/PaneKeys.h"
 #include "Quillon/Views/Window/ReadingNotices.h"
@@ -207,6 +208,10 @@ void ContentView::buildPanes() {
     connect(sidebar, &SidebarPane::addLogsRequested, &crossCheck, &CrossCheckRunner::addLogsWithPanel);
     connect(sidebar, &SidebarPane::reportsRequested, &crossCheck, &CrossCheckRunner::exportReportsWithPanel);
     connect(sidebar, &SidebarPane::fieldAdded, &workArea->detail(), &RecordDetailView::focusLastField);
+
+    auto* layout = new KeptLayout(*this, *splitter, settings);
+    layout->addPane(*sidebar, QStringLiteral("sidebar"));
+    layout->addPane(workArea->detail(), QStringLiteral("detail"));
 
     areaLayout->addWidget(splitter, 1);
     areaLayout->addWidget(horizontalLine(area));

@@ -10,6 +10,7 @@
 #include "Quillon/Views/Contest/ContestView.h"
 #include "Quillon/Views/Controls/FindingList.h"
 #include "Quillon/Views/Controls/NoticeStrip.h"
+#include "Quillon/Views/Controls/PaneSplitter.h"
 #include "Quillon/Views/Detail/FieldRow.h"
 #include "Quillon/Views/Detail/RecordDetailView.h"
 #include "Quillon/Views/Sheets/BulkEditSheet.h"
@@ -35,6 +36,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
@@ -88,6 +90,35 @@ class Window : public testing::LogStoreTest {
     CrossCheckStore cross{panels, fileManager};
     std::unique_ptr<ContentView> window;
 };
+
+TEST_F(Window, ComesBackAsItWasAndWhereItCanBeSeen) {
+    show();
+    const QSize size(1100, 520);
+    window->resize(size);
+    window->move(5000, -3000);
+    auto* splitter = window->findChild<PaneSplitter*>();
+    QTest::mousePress(splitter->handle(1), Qt::LeftButton, {}, QPoint());
+    QTest::mouseMove(splitter->handle(1), QPoint(37, 0));
+    QTest::mouseRelease(splitter->handle(1), Qt::LeftButton, {}, QPoint(37, 0));
+    const int width = window->findChild<SidebarPane*>()->width();
+    EXPECT_NE(width, 250);
+    window->close();
+    show();
+    EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->geometry()));
+    EXPECT_EQ(window->findChild<SidebarPane*>()->width(), width);
+    window->showFullScreen();
+    window->close();
+    show();
+    EXPECT_TRUE(window->isFullScreen());
+    // What was not written by the program.
+    settings.setValue("window.geometry", QByteArray("rubbish"));
+    settings.setValue("window.sidebarWidth", -7);
+    show();
+    EXPECT_EQ(window->findChild<SidebarPane*>()->width(), 250);
+    settings.setValue("window.sidebarWidth", 5000);
+    show();
+    EXPECT_LE(window->findChild<SidebarPane*>()->width(), 320);
+}
 
 TEST_F(Window, OffersTheFilesThatWereOpenLast) {
     const QString there = folder.write(QStringLiteral("R&D.adi"), testing::adi({"CALL=A"}));
