@@ -4,9 +4,13 @@
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/UnseenCharacters.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <limits>
@@ -17,6 +21,24 @@ namespace {
 constexpr int borderPx = 2;
 /// What QLineEdit itself keeps free in front of its text.
 constexpr int builtInMarginPx = 2;
+
+/// Cells of a spreadsheet come with tabs between them and line breaks behind them.
+QString onOneLine(QString text) {
+    const auto isBreak = [](QChar letter) {
+        return letter == u'\n' || letter == u'\r' || letter == QChar::LineSeparator ||
+               letter == QChar::ParagraphSeparator;
+    };
+    while (!text.isEmpty() && (isBreak(text.back()) || text.back() == u'\t')) {
+        text.chop(1);
+    }
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (QChar& letter : text) {
+        if (isBreak(letter) || letter == u'\t') {
+            letter = u' ';
+        }
+    }
+    return text;
+}
 
 }  // namespace
 
@@ -109,7 +131,41 @@ bool InlineEditor::focusNextPrevChild(bool next) {
     return true;
 }
 
+void InlineEditor::pasteOnOneLine(QClipboard::Mode from) {
+    if (const QString text = QGuiApplication::clipboard()->text(from); !text.isEmpty()) {
+        insert(onOneLine(text));
+    }
+}
+
+void InlineEditor::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
+        setCursorPosition(cursorPositionAt(event->pos()));
+        pasteOnOneLine(QClipboard::Selection);
+        event->accept();
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void InlineEditor::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* const action : menu->actions()) {
+        // Qt gives it no name.
+        if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+            disconnect(action, &QAction::triggered, nullptr, nullptr);
+            connect(action, &QAction::triggered, this, [this] { pasteOnOneLine(QClipboard::Clipboard); });
+        }
+    }
+    menu->popup(event->globalPos());
+}
+
 void InlineEditor::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste)) {
+        pasteOnOneLine(QClipboard::Clipboard);
+        event->accept();
+        return;
+    }
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:

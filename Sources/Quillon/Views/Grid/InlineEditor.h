@@ -3,6 +3,7 @@
 
 #include "Quillon/Platform/TableMetrics.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 
 namespace quillon {
@@ -12,6 +13,9 @@ namespace quillon {
 /// Return, Tab, a press of the mouse anywhere else in the application and losing the focus all commit. A
 /// press into the parent widget is the parent's to handle: it knows what lay under the pointer before the
 /// commit moved it.
+///
+/// What is pasted comes to stand on one line: each tab and each line break becomes a blank, and those at the
+/// end go. Those that a value has already stay.
 class InlineEditor : public QLineEdit {
     Q_OBJECT
 
@@ -54,11 +58,14 @@ class InlineEditor : public QLineEdit {
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     bool ownsPopup() const;
+    void pasteOnOneLine(QClipboard::Mode from);
 
     Escape escape;
     const QWidget* informedWidget = nullptr;  ///< Beside the parent, which commits itself, too.
