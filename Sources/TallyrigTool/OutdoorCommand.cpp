@@ -96,7 +96,7 @@ void writeFiles(const Options& options, const OutdoorExportFiles& files, Output&
     };
     const auto folder = options.folder.empty() ? std::nullopt : std::optional(options.folder);
     if (const auto error = quillon::exportOutdoorFiles(files, folder, write)) {
-        throw Failure{options.folder + ": " + error->message};
+        throw Failure{(folder ? *folder : options.file) + ": " + error->message};
     }
 }
 

@@ -58,12 +58,14 @@ TEST_F(Outdoor, SaysWhatStandsInTheWay) {
     EXPECT_EQ(none.complaint,
               "tallyrig: Keine LLOTA-Referenzen im Log gefunden. Jedes QSO braucht eine gültige Referenz in "
               "MY_SIG_INFO (z. B. CL-0001).\n");
-    const Ran portable = run("tallyrig outdoor export --program WCA -o . -",
-                             contact + "<STATION_CALLSIGN:6>DL9X/P<MY_SIG_INFO:4>HB-1<EOR>");
-    EXPECT_EQ(portable.status, 2);
-    EXPECT_EQ(portable.complaint,
-              "tallyrig: .: „DL9X/P@HB-1 20240501.adi“: Der Name einer Datei darf weder „/“ noch „..“ noch "
-              "Steuerzeichen enthalten.\n");
+    for (const auto& [option, place] : {std::pair("-o . ", "."), std::pair("", "-")}) {
+        const Ran portable = run("tallyrig outdoor export --program WCA " + std::string(option) + "-",
+                                 contact + "<STATION_CALLSIGN:6>DL9X/P<MY_SIG_INFO:4>HB-1<EOR>");
+        EXPECT_EQ(portable.status, 2);
+        EXPECT_EQ(portable.complaint, "tallyrig: " + std::string(place) +
+                                          ": „DL9X/P@HB-1 20240501.adi“: Der Name einer Datei darf weder „/“ "
+                                          "noch „..“ noch Steuerzeichen enthalten.\n");
+    }
     const std::pair<std::string, std::string> calls[] = {
         {"outdoor", "Es fehlt der Befehl (Hilfe: tallyrig outdoor --help)"},
         {"outdoor zeige", "Unbekannter Befehl: zeige (Hilfe: tallyrig outdoor --help)"},

@@ -34,11 +34,16 @@ bool isFileName(std::string_view name) {
            !hasControls(name);
 }
 
-std::optional<FileError> write(const tallyrig::OutdoorExportFile& file, const std::string& folder) {
-    const auto error =
-        isFileName(file.filename)
-            ? replaceFile(folder + '/' + file.filename, file.content, Lasting::later)
-            : FileError{"Der Name einer Datei darf weder „/“ noch „..“ noch Steuerzeichen enthalten."};
+/// Without a folder it is only asked whether the file could have its name.
+std::optional<FileError> write(const tallyrig::OutdoorExportFile& file,
+                               const std::optional<std::string>& folder) {
+    auto error = isFileName(file.filename)
+                     ? std::nullopt
+                     : std::optional(FileError{
+                           "Der Name einer Datei darf weder „/“ noch „..“ noch Steuerzeichen enthalten."});
+    if (!error && folder) {
+        error = replaceFile(*folder + '/' + file.filename, file.content, Lasting::later);
+    }
     if (!error) {
         return std::nullopt;
     }
@@ -59,7 +64,7 @@ std::optional<FileError> exportOutdoorFiles(
         tallyrig::OutdoorExportFile file = files[index];
         const std::size_t stop = file.filename.rfind('.');
         file.filename = names.next(file.filename.substr(0, stop), file.filename.substr(stop));
-        failure = folder ? write(file, *folder) : std::nullopt;
+        failure = write(file, folder);
         if (!failure) {
             visit(file);
         }

@@ -15,7 +15,8 @@ namespace quillon {
 /// is replaced.
 ///
 /// The names come from what stands in a log. One that is none for a file in this folder is a failure as any
-/// other: it ends the export, and the files before it stay. Absent on success; the message names the file.
+/// other: it ends the export, and the files before it stay. Without a folder only that can fail. Absent on
+/// success; the message names the file.
 std::optional<FileError> exportOutdoorFiles(
     const tallyrig::OutdoorExportFiles& files, const std::optional<std::string>& folder,
     const std::function<void(const tallyrig::OutdoorExportFile&)>& visit);
