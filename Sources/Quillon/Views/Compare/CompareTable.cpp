@@ -85,6 +85,35 @@ void CompareTable::addCellActions(CompareBody& rows) {
         edit->setEnabled(isThere);
         copy->setEnabled(isThere);
     });
+    addWidthActions(rows);
+}
+
+/// For those who do not drag: the column of the current cell, on both sides.
+void CompareTable::addWidthActions(CompareBody& rows) {
+    constexpr double stepPx = 16;
+    const auto change = [this](double step) {
+        const std::size_t column = model.currentCell()->column;
+        model.setColumnWidth(column, model.geometry().columnWidth(column) + step);
+    };
+    const auto add = [this, &rows](const QString& text, const QKeySequence& key, auto act) {
+        auto* action = new QAction(text, &rows);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, [this, act] {
+            if (const auto cell = model.currentCell()) {
+                act();
+                model.showCell(*cell);
+            }
+        });
+        rows.addAction(action);
+    };
+    auto* separator = new QAction(&rows);
+    separator->setSeparator(true);
+    rows.addAction(separator);
+    add(QStringLiteral("Spalte &breiter"), Qt::ALT | Qt::Key_Plus, [change] { change(stepPx); });
+    add(QStringLiteral("Spalte &schmaler"), Qt::ALT | Qt::Key_Minus, [change] { change(-stepPx); });
+    add(QStringLiteral("&Übliche Spaltenbreite"), Qt::ALT | Qt::Key_0,
+        [this] { model.resetColumnWidth(model.currentCell()->column); });
 }
 
 void CompareTable::addMenuActions(const QList<QAction*>& further) {

@@ -59,6 +59,7 @@ class CompareTable : public QWidget {
     Half makeHalf(ComparisonModel::Side side);
     const Half& half(ComparisonModel::Side side) const;
     void addCellActions(CompareBody& rows);
+    void addWidthActions(CompareBody& rows);
     void fitContent();
 
     ComparisonModel& model;

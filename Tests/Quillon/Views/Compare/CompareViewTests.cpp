@@ -311,6 +311,23 @@ TEST_F(Comparing, ScrollsBothSidesUpAndDownButEachToTheSides) {
     EXPECT_NEAR(side(Side::left).width(), side(Side::right).width(), 1);
 }
 
+TEST_F(Comparing, ChangesTheWidthOfAColumnByTheKeyboard) {
+    openLog({"CALL=A RST=1"});
+    loadRight({"CALL=A RST=2"});
+    show();
+    click(Side::right, 0, 1);
+    const auto& geometry = view->model().geometry();
+    press(Qt::Key_Plus, Qt::AltModifier);
+    EXPECT_EQ(geometry.columnWidth(1), 108);
+    for (int times = 0; times < 5; ++times) {
+        press(Qt::Key_Minus, Qt::AltModifier);
+    }
+    EXPECT_EQ(geometry.columnWidth(1), 48);
+    EXPECT_EQ(geometry.columnWidth(0), 92);
+    press(Qt::Key_0, Qt::AltModifier);
+    EXPECT_EQ(geometry.columnWidth(1), 92);
+}
+
 TEST_F(Comparing, WidensAColumnOnBothSidesForTheRestOfTheRun) {
     openLog({"CALL=A RST=1"});
     show();
