@@ -120,7 +120,11 @@ SidebarSection* OutdoorSections::checking() {
 SidebarSection* OutdoorSections::exporting() {
     auto* section = new SidebarSection(QStringLiteral("Export"), this);
     exportButton = new QPushButton(icon(QStringLiteral("document-export")), QString(), section);
-    connect(exportButton, &QPushButton::clicked, &store, &LogStore::exportOutdoor);
+    connect(exportButton, &QPushButton::clicked, this, [this] {
+        // The log is sorted by reference before the panel asks for a folder.
+        showBusyCursorUntilIdle();
+        store.exportOutdoor();
+    });
     section->add(exportButton);
     exportNote = section->addNote(QString());
     return section;
