@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quillon/Views/Controls/ChartNumbers.h"
 
+#include "Quillon/Platform/NaturalOrder.h"
 #include "Quillon/Views/Controls/Strings.h"
 
 #include <QAbstractTableModel>
@@ -9,6 +10,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QSortFilterProxyModel>
 
 #include <algorithm>
 #include <utility>
@@ -19,6 +21,7 @@ namespace quillon {
 namespace {
 
 constexpr int mostRowsInSight = 10;
+constexpr int countColumn = 1;
 
 class NumbersModel : public QAbstractTableModel {
   public:
@@ -56,7 +59,35 @@ class NumbersModel : public QAbstractTableModel {
 
 }  // namespace
 
-ChartNumbers::ChartNumbers(QWidget* parent) : QTableView(parent) {
+/// The rows of the table in the order that the user wants.
+class NumbersOrder : public QSortFilterProxyModel {
+  public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void show(std::shared_ptr<const ChartData> data) {
+        QAbstractItemModel* const before = sourceModel();
+        shown = std::move(data);
+        setSourceModel(new NumbersModel(shown, this));
+        delete before;
+    }
+
+  protected:
+    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override {
+        const ChartEntry& one = shown->entries[static_cast<std::size_t>(left.row())];
+        const ChartEntry& other = shown->entries[static_cast<std::size_t>(right.row())];
+        if (left.column() == countColumn) {
+            return one.count < other.count;
+        }
+        return shown->form == ChartData::Form::days ? one.day < other.day
+                                                    : NaturalOrder::compare(one.label, other.label) < 0;
+    }
+
+  private:
+    std::shared_ptr<const ChartData> shown;
+};
+
+ChartNumbers::ChartNumbers(QWidget* parent) : QTableView(parent), order(new NumbersOrder(this)) {
+    setModel(order);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -66,19 +97,32 @@ ChartNumbers::ChartNumbers(QWidget* parent) : QTableView(parent) {
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setToolTip(QStringLiteral("Klick oder Eingabetaste: nach dieser Spalte sortieren"));
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &ChartNumbers::sortBy);
 }
 
 void ChartNumbers::setData(std::shared_ptr<const ChartData> chartData) {
     shown = std::move(chartData);
-    QAbstractItemModel* const before = model();
-    setModel(new NumbersModel(shown, this));
-    delete before;
+    order->show(shown);
     setAccessibleName(shown->title + QStringLiteral(", Zahlen"));
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
     fitHeight();
+}
+
+void ChartNumbers::sortBy(int column) {
+    // Of counts, the highest are what is looked for.
+    const Qt::SortOrder first = column == countColumn ? Qt::DescendingOrder : Qt::AscendingOrder;
+    const bool isSorted = order->sortColumn() == column;
+    const bool isTurned = isSorted && order->sortOrder() != first;
+    const Qt::SortOrder next =
+        isSorted ? (first == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder) : first;
+    order->sort(isTurned ? -1 : column, next);
+    horizontalHeader()->setSortIndicator(isTurned ? -1 : column, next);
 }
 
 void ChartNumbers::fitHeight() {
@@ -90,7 +134,7 @@ void ChartNumbers::fitHeight() {
     const QString longest = numberText(shown->entries.empty() ? 0 : shown->highest());
     setColumnWidth(1,
                    std::max(letters.horizontalAdvance(longest), letters.horizontalAdvance(shown->countAxis)) +
-                       letters.height());
+                       2 * letters.height());
     const int rows = std::min(model()->rowCount(), mostRowsInSight);
     setFixedHeight(horizontalHeader()->sizeHint().height() +
                    std::max(rows, 1) * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
@@ -120,20 +164,24 @@ void ChartNumbers::keyPressEvent(QKeyEvent* event) {
         copyChosen();
         return;
     }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        sortBy(std::max(currentIndex().column(), 0));
+        return;
+    }
     QTableView::keyPressEvent(event);
 }
 
 void ChartNumbers::copyChosen() const {
-    std::vector<std::size_t> rows;
+    std::vector<int> rows;
     for (const QItemSelectionRange& block : selectionModel()->selection()) {
         for (int row = block.top(); row <= block.bottom(); ++row) {
-            rows.push_back(static_cast<std::size_t>(row));
+            rows.push_back(row);
         }
     }
     std::ranges::sort(rows);
     QString text;
-    for (const std::size_t row : rows) {
-        text += shown->line(row);
+    for (const int row : rows) {
+        text += shown->line(static_cast<std::size_t>(order->mapToSource(order->index(row, 0)).row()));
     }
     if (!text.isEmpty()) {
         QGuiApplication::clipboard()->setText(text);

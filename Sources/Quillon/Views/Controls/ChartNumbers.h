@@ -9,8 +9,11 @@
 
 namespace quillon {
 
-/// The numbers behind a chart as a table: all entries in their order, also those without a bar. Copying puts
-/// the chosen lines into the clipboard, in the form of `ChartData::numbers`.
+class NumbersOrder;
+
+/// The numbers behind a chart as a table: all entries in their order, also those without a bar. A click on a
+/// heading, or Return in its column, sorts by it, once more the other way round, and the third time back to
+/// that order. Copying puts the chosen lines into the clipboard, in the form of `ChartData::numbers`.
 class ChartNumbers : public QTableView {
     Q_OBJECT
 
@@ -25,10 +28,12 @@ class ChartNumbers : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void sortBy(int column);
     void fitHeight();
     void copyChosen() const;
 
     std::shared_ptr<const ChartData> shown;
+    NumbersOrder* order;
 };
 
 }  // namespace quillon

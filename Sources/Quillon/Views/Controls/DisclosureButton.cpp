@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QKeyEvent>
 
 namespace quillon {
 
@@ -51,6 +52,14 @@ DisclosureButton::DisclosureButton(const QString& text, QWidget* parent) : QTool
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QToolButton::clicked, this, [this] { setExpanded(!expanded); });
+}
+
+void DisclosureButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QToolButton::keyPressEvent(event);
+    }
 }
 
 void DisclosureButton::setExpanded(bool isOpen) {

@@ -6,7 +6,7 @@
 namespace quillon {
 
 /// A button that opens and closes what stands below it, with an arrow that shows which; those who do not see
-/// it are told as well.
+/// it are told as well. Return presses it as the space bar does.
 class DisclosureButton : public QToolButton {
     Q_OBJECT
 
@@ -18,6 +18,9 @@ class DisclosureButton : public QToolButton {
 
   signals:
     void expandedChanged();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     bool expanded = false;

@@ -136,8 +136,26 @@ TEST_F(BarChart, ShowsItsNumbersOnRequest) {
     EXPECT_EQ(clipboardText(), "1m\t1000\n3m\t1002\n");
     card->setData(bandsOf(2));
     EXPECT_EQ(table.model()->rowCount(), 2);
-    testing::shownButton(*card, QStringLiteral("Zahlen zeigen"))->click();
+    QTest::keyClick(testing::shownButton(*card, QStringLiteral("Zahlen zeigen")), Qt::Key_Return);
     EXPECT_FALSE(testing::isShown(table, *card));
+}
+
+TEST_F(BarChart, SortsItsNumbersByEitherColumnAndBack) {
+    show(bandsOf(11));
+    choose("Zahlen zeigen");
+    auto& table = testing::namedChild<QTableView>(*card, "QSOs pro Band, Zahlen");
+    const auto sorted = [&](int column) {
+        table.setCurrentIndex(table.model()->index(0, column));
+        QTest::keyClick(&table, Qt::Key_Return);
+        table.selectAll();
+        QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+        return QString::fromStdString(clipboardText()).split(u'\n').mid(0, 2).join(u' ').toStdString();
+    };
+    EXPECT_EQ(sorted(1), "11m\t1010 10m\t1009");
+    card->setData(bandsOf(12));
+    EXPECT_EQ(sorted(0), "1m\t1000 2m\t1001") << "2 stands before 10";
+    EXPECT_EQ(sorted(0), "12m\t1011 11m\t1010");
+    EXPECT_EQ(sorted(0), "1m\t1000 2m\t1001");
 }
 
 }  // namespace
