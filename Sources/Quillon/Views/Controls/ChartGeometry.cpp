@@ -162,15 +162,45 @@ void ChartGeometry::placeBars(const ChartLetters& letters) {
 }
 
 double ChartGeometry::dayMiddle(sys_days day) const {
-    return (static_cast<double>((day - data->entries.front().day).count()) + 0.5) * slot;
+    const auto behind = std::ranges::upper_bound(stretches, day, {}, &Stretch::first);
+    const Stretch& stretch = *std::prev(behind);
+    return stretch.left + (static_cast<double>((day - stretch.first).count()) + 0.5) * stretch.slot;
+}
+
+/// A stretch has room for a label at least, and a gap for another one.
+void ChartGeometry::placeStretches(double labelWidth) {
+    std::vector<sys_days> charted;
+    charted.reserve(count);
+    for (std::size_t entry = 0; entry < count; ++entry) {
+        charted.push_back(data->entries[entry].day);
+    }
+    auto found = dayStretches(charted);
+    const double fixed = static_cast<double>(2 * found.size() - 1) * labelWidth;
+    if (found.size() > 1 && fixed > plotArea.width() / 2.0) {
+        found = {{found.front().first, found.back().last}};
+    }
+    const bool isBroken = found.size() > 1;
+    double all = 0;
+    for (const DayStretch& stretch : found) {
+        all += static_cast<double>((stretch.last - stretch.first).count() + 1);
+    }
+    const double shared = plotArea.width() - (isBroken ? fixed : 0);
+    double left = 0;
+    for (const DayStretch& stretch : found) {
+        const auto days = static_cast<double>((stretch.last - stretch.first).count() + 1);
+        const double width = (isBroken ? labelWidth : 0) + shared * days / all;
+        stretches.push_back({stretch.first, stretch.last, left, width / days});
+        left += width + labelWidth;
+    }
 }
 
 void ChartGeometry::placeDays(const ChartLetters& letters) {
     first = 0;
     inSight = count;
-    const auto span = (data->entries[count - 1].day - data->entries.front().day).count() + 1;
-    slot = plotArea.width() / static_cast<double>(span);
-    thickness = static_cast<int>(std::clamp(std::floor(0.8 * slot), 1.0, widestDayPx));
+    const double labelWidth = letters.width(QStringLiteral("88.88.")) + gapPx;
+    placeStretches(labelWidth);
+    const double daySlot = std::ranges::min_element(stretches, {}, &Stretch::slot)->slot;
+    thickness = static_cast<int>(std::clamp(std::floor(0.8 * daySlot), 1.0, widestDayPx));
     for (std::size_t entry = 0; entry < count; ++entry) {
         const QRect area = barOf(entry);
         // Only the highest of several days on one pixel is seen.
@@ -182,22 +212,30 @@ void ChartGeometry::placeDays(const ChartLetters& letters) {
         }
         shownBars.push_back({area, entry, QString()});
     }
-    labelDays(letters);
+    labelDays(labelWidth);
 }
 
-/// The year stands below the first label and wherever it is another than that before.
-void ChartGeometry::labelDays(const ChartLetters& letters) {
-    const double labelWidth = letters.width(QStringLiteral("88.88.")) + gapPx;
-    const auto most = std::max<std::size_t>(2, static_cast<std::size_t>(plotArea.width() / labelWidth));
-    std::optional<std::chrono::year> yearBefore;
-    for (const sys_days day : dayTicks(data->entries.front().day, data->entries[count - 1].day, most)) {
-        const year_month_day date(day);
-        QString label = dayAndMonth(date);
-        if (date.year() != yearBefore) {
-            label += QStringLiteral("\n%1").arg(static_cast<int>(date.year()), 4, 10, QLatin1Char('0'));
-            yearBefore = date.year();
+/// The year stands below the first label of a stretch and wherever it is another than that before.
+void ChartGeometry::labelDays(double labelWidth) {
+    for (const Stretch& stretch : stretches) {
+        if (!labels.empty()) {
+            labels.push_back({stretch.left - labelWidth / 2, QStringLiteral("…")});
         }
-        labels.push_back({dayMiddle(day), label});
+        const double width = stretch.slot * static_cast<double>((stretch.last - stretch.first).count() + 1);
+        const auto most = static_cast<std::size_t>(width / labelWidth);
+        const bool hasRoom = most > 1 || stretches.size() == 1;
+        std::optional<std::chrono::year> yearBefore;
+        for (const sys_days day : hasRoom
+                                      ? dayTicks(stretch.first, stretch.last, std::max<std::size_t>(2, most))
+                                      : std::vector{stretch.first}) {
+            const year_month_day date(day);
+            QString label = dayAndMonth(date);
+            if (date.year() != yearBefore) {
+                label += QStringLiteral("\n%1").arg(static_cast<int>(date.year()), 4, 10, QLatin1Char('0'));
+                yearBefore = date.year();
+            }
+            labels.push_back({dayMiddle(day), label});
+        }
     }
 }
 

@@ -29,7 +29,8 @@ struct ChartLetters {
 ///
 /// Bars keep a width at which their labels can be read. If that is too wide for all of them, only as many
 /// as fit are there, from a chosen one on. On an axis of days all are always there: where several days fall
-/// on one pixel, the highest of them covers the others.
+/// on one pixel, the highest of them covers the others. It is broken where nothing is for a lifetime
+/// (`dayStretches`), and labelled with an ellipsis there.
 class ChartGeometry {
   public:
     struct Tick {
@@ -79,9 +80,18 @@ class ChartGeometry {
     void placeCountTicks(const ChartLetters& letters);
     void placeBars(const ChartLetters& letters);
     void placeDays(const ChartLetters& letters);
-    void labelDays(const ChartLetters& letters);
+    void placeStretches(double labelWidth);
+    void labelDays(double labelWidth);
     double lengthOf(std::size_t entry) const;
     double dayMiddle(std::chrono::sys_days day) const;
+
+    /// A part of an axis of days that is as long as its days are many.
+    struct Stretch {
+        std::chrono::sys_days first;
+        std::chrono::sys_days last;
+        double left = 0;  ///< From the left edge of the plot.
+        double slot = 0;  ///< Pixels that a day has.
+    };
 
     const ChartData* data = nullptr;
     ChartData::Form form = ChartData::Form::columns;
@@ -90,7 +100,8 @@ class ChartGeometry {
     std::size_t count = 0;
     std::size_t first = 0;
     std::size_t inSight = 0;
-    double slot = 0;    ///< Pixels that a bar has with the gap beside it, or a day.
+    double slot = 0;  ///< Pixels that a bar has with the gap beside it.
+    std::vector<Stretch> stretches;
     double top = 1;     ///< The count at the end of the axis.
     int thickness = 0;  ///< Of all bars, in pixels.
     std::vector<Tick> labels;

@@ -89,4 +89,16 @@ std::vector<sys_days> dayTicks(sys_days first, sys_days last, std::size_t most) 
     return ticks.empty() ? std::vector{first} : ticks;
 }
 
+std::vector<DayStretch> dayStretches(std::span<const sys_days> all) {
+    constexpr auto widestGap = std::chrono::round<days>(std::chrono::years(50));
+    std::vector<DayStretch> stretches;
+    for (const sys_days day : all) {
+        if (stretches.empty() || day - stretches.back().last > widestGap) {
+            stretches.push_back({day, day});
+        }
+        stretches.back().last = day;
+    }
+    return stretches;
+}
+
 }  // namespace quillon

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 namespace quillon {
@@ -17,5 +18,17 @@ std::vector<std::size_t> countTicks(std::size_t highest, std::size_t most);
 /// apart, the first of a month, or the first of a year. Cost: the number of ticks.
 std::vector<std::chrono::sys_days> dayTicks(std::chrono::sys_days first, std::chrono::sys_days last,
                                             std::size_t most);
+
+/// Days that lie near each other, both included.
+struct DayStretch {
+    std::chrono::sys_days first;
+    std::chrono::sys_days last;
+
+    bool operator==(const DayStretch&) const = default;
+};
+
+/// The stretches into which `days`, which ascend, fall. Between two stretches lies a gap of more than fifty
+/// years: a date that far off is mistyped more often than not, and must not push all others together.
+std::vector<DayStretch> dayStretches(std::span<const std::chrono::sys_days> days);
 
 }  // namespace quillon

@@ -130,6 +130,20 @@ TEST(DaysOnAnAxis, AreOneBarIfThereIsOne) {
     EXPECT_NEAR(QRectF(places.bars()[0].area).center().x(), QRectF(places.plot()).center().x(), 1);
 }
 
+TEST(DaysOnAnAxis, AreNotPushedTogetherByOneThatIsFarOff) {
+    const ChartData data = dated({0, 1, 365, 2'000'000});
+    const ChartGeometry places(data, {600, 200}, 0, letters());
+    ASSERT_EQ(places.bars().size(), 4);
+    const auto left = [&places](std::size_t bar) { return places.barOf(bar).left(); };
+    EXPECT_GT(left(2) - left(0), places.plot().width() / 2);
+    EXPECT_TRUE(places.plot().contains(places.barOf(3)));
+    EXPECT_TRUE(text(places.labelTicks()).ends_with("|…|24.10.\n7475")) << text(places.labelTicks());
+    // So many of them leave no room.
+    const ChartGeometry crowded(dated({0, 20'000, 40'000, 60'000, 80'000, 100'000}), {600, 200}, 0,
+                                letters());
+    EXPECT_EQ(text(crowded.labelTicks()).find("…"), std::string::npos);
+}
+
 TEST(DaysOnAnAxis, CoverEachOtherOnOnePixelButAreAllThere) {
     std::vector<int> tenThousandYears;
     for (int day = 0; day < 3'650'000; day += 100) {
