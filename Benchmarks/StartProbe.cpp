@@ -3,6 +3,7 @@
 // with the argument "empty", an empty one with the same libraries behind it.
 
 #include "Quillon/App/QuillonApp.h"
+#include "Quillon/Platform/Settings.h"
 #include "Quillon/Views/Window/ContentView.h"
 
 #include <QApplication>
@@ -38,7 +39,8 @@ int main(int argc, char** argv) {
         empty->resize(1280, 800);
         window = empty.get();
     } else {
-        quillonApp = std::make_unique<quillon::QuillonApp>(application, QStringList());
+        quillonApp = std::make_unique<quillon::QuillonApp>(application, QStringList(),
+                                                           std::make_unique<quillon::PassingSettings>());
         window = &quillonApp->window();
     }
     window->installEventFilter(&end);
