@@ -134,6 +134,14 @@ class Unpacking {
         if (!names || (names->empty() && !isFolder) || (mode & (S_ISUID | S_ISGID)) != 0) {
             return refused(path);
         }
+        if (auto failure = count()) {
+            return failure;
+        }
+        if (isLink || type != AE_IFREG) {
+            if (auto failure = passOver(archive_entry_size(entry))) {
+                return failure;
+            }
+        }
         if (isLink) {
             return linkFile(*names, said(archive_entry_hardlink(entry), archive_entry_hardlink_utf8(entry)));
         }
@@ -150,18 +158,33 @@ class Unpacking {
                 }
                 // Made last: until then nothing can be written through one.
                 links.emplace_back(*names, target);
-                return count();
+                return std::nullopt;
             }
             default:
                 return refused(path);
         }
     }
 
+    /// One more entry, or a folder that none names. Each is asked for, those that make nothing new as well:
+    /// compressed, very many of them are a small file.
     Failure count() {
         if (++entries > limits.mostEntries) {
             return tooLarge();
         }
         return isWanted() ? std::nullopt : Failure(givenUp());
+    }
+
+    bool fits(std::int64_t size) const {
+        return size >= 0 && static_cast<std::uint64_t>(size) <= limits.mostBytes - bytes;
+    }
+
+    /// The content of what is no file is not written, but reading it takes as long.
+    Failure passOver(std::int64_t size) {
+        if (!fits(size)) {
+            return tooLarge();
+        }
+        bytes += static_cast<std::uint64_t>(size);
+        return std::nullopt;
     }
 
     static UnpackError givenUp() {
@@ -181,12 +204,15 @@ class Unpacking {
         Descriptor folder(::fcntl(root, F_DUPFD_CLOEXEC, 0));
         for (std::size_t level = 0; level < depth && folder.isOpen(); ++level) {
             const char* const name = names[level].c_str();
-            if (::mkdirat(folder.number(), name, S_IRWXU) == 0) {
+            const bool isMade = ::mkdirat(folder.number(), name, S_IRWXU) == 0;
+            if (!isMade && errno != EEXIST) {
+                return systemError();
+            }
+            // The last name is that of the entry, which is counted.
+            if (isMade && level + 1 < names.size()) {
                 if (auto failure = count()) {
                     return *failure;
                 }
-            } else if (errno != EEXIST) {
-                return systemError();
             }
             folder =
                 Descriptor(::openat(folder.number(), name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
@@ -218,7 +244,7 @@ class Unpacking {
 
     Failure writeFile(const Names& names, mode_t mode, std::int64_t size) {
         // Said to be too large is known before the disk is full.
-        if (size < 0 || static_cast<std::uint64_t>(size) > limits.mostBytes - bytes) {
+        if (!fits(size)) {
             return tooLarge();
         }
         const auto folder = folderOf(names, names.size() - 1);
@@ -231,7 +257,7 @@ class Unpacking {
         if (!file.isOpen()) {
             return failureAt(names);
         }
-        auto failure = count();
+        Failure failure;
         while (!failure) {
             const la_ssize_t length = archive_read_data(source, buffer.data(), buffer.size());
             if (length <= 0) {
@@ -271,7 +297,7 @@ class Unpacking {
                      std::get<Descriptor>(to).number(), names.back().c_str(), 0) != 0) {
             return failureAt(names);
         }
-        return count();
+        return std::nullopt;
     }
 
     Failure makeLinks() {

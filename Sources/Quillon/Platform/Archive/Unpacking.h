@@ -22,8 +22,10 @@ struct UnpackError {
 
 /// What an archive may make of itself.
 struct UnpackLimits {
-    std::uint64_t mostBytes = 2'000'000'000;  ///< In all files together.
-    std::size_t mostEntries = 100'000;        ///< Files, links and folders, those not named included.
+    /// In all files together, and in what comes with anything else and is passed over.
+    std::uint64_t mostBytes = 2'000'000'000;
+    /// Files, links and folders, those not named included; one that is named twice counts twice.
+    std::size_t mostEntries = 100'000;
 };
 
 /// Unpacks the .tar.xz at `archive` (UTF-8, as all paths) into a new folder in `parent` that is open to its
@@ -31,9 +33,9 @@ struct UnpackLimits {
 /// no, the folder is gone.
 ///
 /// The archive is not trusted. It is refused whole if anything in it is named from the root on or by "..",
-/// comes twice, is neither file nor folder nor link, is a link that leads out of the folder or through a
-/// name and back ("a/.."), or would run as somebody else. Nothing is written through a link. Permissions are
-/// kept, but nobody but the owner may write, and the owner may always read and enter.
+/// comes twice and is no folder, is neither file nor folder nor link, is a link that leads out of the folder
+/// or through a name and back ("a/.."), or would run as somebody else. Nothing is written through a link.
+/// Permissions are kept, but nobody but the owner may write, and the owner may always read and enter.
 std::variant<std::string, UnpackError> unpack(const std::string& archive, const std::string& parent,
                                               const std::function<bool()>& isWanted,
                                               const UnpackLimits& limits = {});

@@ -126,6 +126,20 @@ TEST_F(Unpacked, RefusesWhateverMayReachOutOfItsFolder) {
     EXPECT_EQ(temporary.names(), "a.tar.xz place");
 }
 
+/// Gives the header at `start` the sum that its bytes have now.
+void sumUp(std::string& tar, std::size_t start) {
+    constexpr std::size_t at = 148;
+    constexpr std::size_t length = 8;
+    tar.replace(start + at, length, length, ' ');
+    unsigned int sum = 0;
+    for (std::size_t index = 0; index < 512; ++index) {
+        sum += static_cast<unsigned char>(tar[start + index]);
+    }
+    std::array<char, 16> text = {};
+    std::snprintf(text.data(), text.size(), "%06o", sum);
+    tar.replace(start + at, 7, text.data(), 7);
+}
+
 TEST_F(Unpacked, HasBounds) {
     const std::string tooLarge = "Das Archiv ist größer, als eine Version sein kann.";
     const std::string two = archiveOf({file("a", "12345"), file("b", "67890")});
@@ -134,6 +148,14 @@ TEST_F(Unpacked, HasBounds) {
     EXPECT_EQ(unpacked(two, {10, 1}), tooLarge);
     EXPECT_EQ(unpacked(archiveOf({file("a/b/c/d")}), {10, 3}), tooLarge) << "folders count";
     EXPECT_EQ(unpacked(archiveOf({file("bomb", std::string(3'000'000, '\0'))}), {2'999'999, 9}), tooLarge);
+    EXPECT_EQ(unpacked(archiveOf({folder("a"), folder("a"), folder("a")}), {9, 2}), tooLarge);
+    EXPECT_EQ(unpacked(archiveOf({folder("./"), folder("./"), folder("./")}), {9, 2}), tooLarge);
+    // Behind the other file and what tells of the letter.
+    std::string withContent = testing::tar({file("a"), file("\xc3\xbc", std::string(3'000'000, 'x'))});
+    constexpr std::size_t header = 2048;
+    withContent.replace(header + 156, 2, "1a");
+    sumUp(withContent, header);
+    EXPECT_EQ(unpacked(withContent, {2'999'999, 9}), tooLarge) << "a link, whose content is passed over";
 }
 
 TEST_F(Unpacked, IsNothingIfTheArchiveIsNotWhole) {
@@ -151,20 +173,6 @@ TEST_F(Unpacked, IsNothingIfTheArchiveIsNotWhole) {
     int left = 3;
     EXPECT_EQ(all(unpack(written(whole), place(), [&] { return --left > 0; })),
               "Das Entpacken wurde abgebrochen.");
-}
-
-/// Gives the header at `start` the sum that its bytes have now.
-void sumUp(std::string& tar, std::size_t start) {
-    constexpr std::size_t at = 148;
-    constexpr std::size_t length = 8;
-    tar.replace(start + at, length, length, ' ');
-    unsigned int sum = 0;
-    for (std::size_t index = 0; index < 512; ++index) {
-        sum += static_cast<unsigned char>(tar[start + index]);
-    }
-    std::array<char, 16> text = {};
-    std::snprintf(text.data(), text.size(), "%06o", sum);
-    tar.replace(start + at, 7, text.data(), 7);
 }
 
 TEST_F(Unpacked, StaysInItsFolderWhateverHappensToTheHeaders) {
