@@ -76,16 +76,17 @@ std::optional<Names> splitInside(std::string_view path) {
     return names;
 }
 
-/// Whether a symbolic link with `depth` folders above it, all of them real ones, stays inside. Upwards only
-/// in front: behind a name, which may be a link as well, ".." leads elsewhere than the text says.
-bool staysInside(std::string_view target, std::size_t depth) {
+/// Whether the symbolic link that `link` lead to stays in the first folder of those, all of them real ones.
+/// Upwards only in front: behind a name, which may be a link as well, ".." leads elsewhere than the text
+/// says.
+bool staysInside(std::string_view target, const Names& link) {
     const auto names = split(target);
     if (!names) {
         return false;
     }
     const auto down = std::ranges::find_if(*names, [](const std::string& name) { return name != ".."; });
-    return static_cast<std::size_t>(down - names->begin()) <= depth &&
-           std::find(down, names->end(), "..") == names->end();
+    const auto steps = static_cast<std::size_t>(down - names->begin());
+    return (steps == 0 || steps + 2 <= link.size()) && std::find(down, names->end(), "..") == names->end();
 }
 
 /// What the archive says, in UTF-8 where the locale has no word for it; empty if it says nothing.
@@ -153,7 +154,7 @@ class Unpacking {
             case AE_IFLNK: {
                 const std::string target(
                     said(archive_entry_symlink(entry), archive_entry_symlink_utf8(entry)));
-                if (!staysInside(target, names->size() - 1)) {
+                if (!staysInside(target, *names)) {
                     return refused(path);
                 }
                 // Made last: until then nothing can be written through one.

@@ -33,8 +33,9 @@ struct UnpackLimits {
 /// no, the folder is gone.
 ///
 /// The archive is not trusted. It is refused whole if anything in it is named from the root on or by "..",
-/// comes twice and is no folder, is neither file nor folder nor link, is a link that leads out of the folder
-/// or through a name and back ("a/.."), or would run as somebody else. Nothing is written through a link.
+/// comes twice and is no folder, is neither file nor folder nor link, is a link that leads through a name
+/// and back ("a/..") or out of the folder, be it the one in the archive that the link is in, which may be
+/// taken to another place, or would run as somebody else. Nothing is written through a link.
 /// Permissions are kept, but nobody but the owner may write, and the owner may always read and enter.
 std::variant<std::string, UnpackError> unpack(const std::string& archive, const std::string& parent,
                                               const std::function<bool()>& isWanted,

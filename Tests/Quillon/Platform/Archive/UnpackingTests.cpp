@@ -72,9 +72,9 @@ class Unpacked : public ::testing::Test {
 
 TEST_F(Unpacked, KeepsModesAndLinksAndMakesWhatIsNotNamed) {
     EXPECT_EQ(unpacked(archiveOf({folder("./"), file("./a/run", "x", 0755), folder("b", 0500),
-                                  file("b/c", "x", 0466), link("l/up", "../a/./run"), link("to", "l/up"),
+                                  file("b/c", "x", 0466), link("l/m/up", "../n/./run"), link("to", "l/m/up"),
                                   hardLink("b/twin", "a/run")})),
-              "a/run:755 a:700 b/c:444 b/twin:755 b:700 l/up>../a/./run l:700 to>l/up");
+              "a/run:755 a:700 b/c:444 b/twin:755 b:700 l/m/up>../n/./run l/m:700 l:700 to>l/m/up");
     EXPECT_EQ(unpacked(archiveOf({file("Log \xc3\xbc.txt")})), "Log \xc3\xbc.txt:644");
     EXPECT_EQ(unpacked(archiveOf({link("gone", "not/there")})), "gone>not/there");
 }
@@ -90,6 +90,8 @@ TEST_F(Unpacked, RefusesWhateverMayReachOutOfItsFolder) {
         {link("l", "/etc")},
         {link("l", "..")},
         {link("a/l", "../../out")},
+        {file("b/beside"), link("a/l", "../b/beside")},
+        {link("a/b/l", "../../c")},
         {link("a/b/l", "../.."), link("m", "a/b/l/../..")},
         {link("l", "a"), file("l/through")},
         {file("l/before"), link("l", "a")},
