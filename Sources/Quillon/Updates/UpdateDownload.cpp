@@ -91,11 +91,19 @@ void UpdateDownload::takeResponse(const HTTPResponse& response) {
         received = 0;
         total = response.expectedLength;
     }
+    refuseBeyond(response.expectedLength);
+}
+
+bool UpdateDownload::refuseBeyond(qint64 more) {
+    const bool isTooMuch = more > mostBytes - received;
+    if (isTooMuch) {
+        end(InstallError{QStringLiteral("Der Download ist größer, als eine Version sein kann.")});
+    }
+    return isTooMuch;
 }
 
 void UpdateDownload::takeBlock(const QByteArray& block) {
-    if (block.size() > mostBytes - received) {
-        end(InstallError{QStringLiteral("Der Download ist größer, als eine Version sein kann.")});
+    if (refuseBeyond(block.size())) {
         return;
     }
     if (const int error =

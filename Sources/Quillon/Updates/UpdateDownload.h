@@ -49,6 +49,8 @@ class UpdateDownload : public QObject {
     std::optional<InstallError> createFile(const QString& folder);
     void attempt();
     void takeResponse(const HTTPResponse& response);
+    /// Ends the download if the file may not become larger by so many bytes. Whether it did.
+    bool refuseBeyond(qint64 more);
     void takeBlock(const QByteArray& block);
     void takeFailure(const HTTPFailure& failure);
     void takeEnd();
