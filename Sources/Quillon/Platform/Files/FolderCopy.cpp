@@ -3,6 +3,8 @@
 
 #include "Quillon/Platform/Files/Files.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -13,10 +15,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The mask of the user must not take away what the original has.
+/// The mask of the user must neither take away what the original has nor let others in for a moment.
 void makeLike(const fs::path& from, const fs::path& to, std::error_code& error) {
-    if (!fs::create_directory(to, error) && !error) {
-        error = std::make_error_code(std::errc::file_exists);
+    if (::mkdir(to.c_str(), S_IRWXU) != 0) {
+        error = std::error_code(errno, std::generic_category());
     }
     if (!error) {
         // The owner has to get in until all is there.
