@@ -217,7 +217,7 @@ void UpdateInstaller::performInstall(const QString& dmg) {
 
 void UpdateInstaller::relaunch(const QString& bundle) {
     setPhase({Kind::relaunching, 0, {}});
-    // What the shell has built in is there on every system.
+    // By their names alone: where they lie differs from one system to the next.
     const QString line =
         QStringLiteral("while kill -0 %1 2>/dev/null; do sleep 0.2; done; exec %2")
             .arg(QString::number(platform.processID()), quotedForShell(platform.program(bundle)));
