@@ -22,7 +22,12 @@ class StandInPlatform : public InstallPlatform {
   public:
     explicit StandInPlatform(QString temporaryFolder) : temporary(std::move(temporaryFolder)) {}
 
-    std::variant<QString, InstallError> tempDirectory() override { return temporary; }
+    std::variant<QString, InstallError> tempDirectory() override {
+        if (!tempError.isEmpty()) {
+            return InstallError{tempError};
+        }
+        return temporary;
+    }
     std::variant<InstallLock, InstallError> lockInstallation(const QString& /*tempDirectory*/) override {
         if (!held.expired()) {
             return InstallError{QStringLiteral("locked")};
@@ -88,6 +93,7 @@ class StandInPlatform : public InstallPlatform {
     QStringList beside;   ///< The names in the bundle's folder.
     bool isSlow = false;  ///< Attaching takes until nobody wants it any more.
     bool hasExited = false;
+    QString tempError;  ///< Why there is no folder for temporary files, if there is none.
     /// What begins with one of these fails and says so.
     QStringList failing;
     std::chrono::milliseconds time{0};

@@ -37,6 +37,8 @@ QLabel* lineLabel(const QString& beforehand, const QString& text, QWidget* paren
     auto* label = new ElidedLabel(Qt::ElideRight, parent);
     label->setText(beforehand + toQString(shown));
     label->setToolTip(plainToolTip(label->text()));
+    // A text without end is no reason for a dialog as wide as the screen.
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return label;
 }
 
@@ -49,9 +51,11 @@ UpdateAlertView::UpdateAlertView(VersionInfo release, UpdateManager& updateManag
       manager(updateManager),
       installer(std::move(updateInstaller)) {
     setWindowTitle(QStringLiteral("Software-Update"));
-    setMinimumWidth(widthInLetters * fontMetrics().averageCharWidth());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(18, 18, 18, 18);
+    // No least width of the dialog itself: that would take the place of the one that its buttons need, and a
+    // small screen would cut them.
+    column->addStrut(widthInLetters * fontMetrics().averageCharWidth());
     column->setSpacing(12);
     column->addWidget(heading());
     QTextEdit* const text = info.message && !info.message->isEmpty() ? message() : nullptr;
@@ -65,8 +69,8 @@ UpdateAlertView::UpdateAlertView(VersionInfo release, UpdateManager& updateManag
     if (text != nullptr) {
         // At the width that it will have, so that the dialog comes up as high as it stays.
         const QMargins margins = column->contentsMargins();
-        text->document()->setTextWidth(std::max(minimumWidth(), column->sizeHint().width()) - margins.left() -
-                                       margins.right() - 2 * text->frameWidth());
+        text->document()->setTextWidth(column->sizeHint().width() - margins.left() - margins.right() -
+                                       2 * text->frameWidth());
     }
     connect(installer.get(), &UpdateInstaller::phaseChanged, this, &UpdateAlertView::follow);
     follow();
@@ -179,6 +183,16 @@ void UpdateAlertView::follow() {
         if (phase.kind == Kind::failed) {
             installButton->setFocus();
         }
+    }
+    growToFit();
+}
+
+void UpdateAlertView::growToFit() {
+    // By itself a dialog grows no further than to the lines that its texts have when none of them wraps.
+    if (isVisible()) {
+        status->layout()->activate();
+        layout()->activate();
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
     }
 }
 

@@ -47,6 +47,7 @@ class UpdateAlertView : public QDialog {
     void install();
     /// Shows how far the installation is, and offers what is possible meanwhile.
     void follow();
+    void growToFit();
 
     const VersionInfo info;
     UpdateManager& manager;
