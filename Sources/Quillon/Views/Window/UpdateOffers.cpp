@@ -63,8 +63,11 @@ void UpdateOffers::showAnswer() {
     }
     // Over the offer, where it is about that.
     QWidget& below = dialog ? *dialog : window;
+    // The title stands in the box itself, for a box is as wide as its text, and desktops cut the title above
+    // a small one or show none at all.
     answerBox =
-        new QMessageBox(QMessageBox::NoIcon, answer->title, answer->text, QMessageBox::NoButton, &below);
+        new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Software-Update"),
+                        answer->title + QStringLiteral("\n\n") + answer->text, QMessageBox::NoButton, &below);
     answerBox->setAttribute(Qt::WA_DeleteOnClose);
     answerBox->setIconPixmap(applicationIcon().pixmap(QSize(48, 48), window.devicePixelRatioF()));
     answerBox->setTextFormat(Qt::PlainText);
