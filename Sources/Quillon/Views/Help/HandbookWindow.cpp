@@ -251,8 +251,8 @@ void HandbookWindow::restore() {
     const int letter = fontMetrics().averageCharWidth();
     // Beside the frame of the window on a small screen.
     constexpr QSize frame(16, 48);
-    resize(QSize(150 * letter, 45 * fontMetrics().height()).boundedTo(screen()->availableSize() - frame));
-    splitter->setSizes({36 * letter, 114 * letter});
+    resize(QSize(156 * letter, 45 * fontMetrics().height()).boundedTo(screen()->availableSize() - frame));
+    splitter->setSizes({42 * letter, 114 * letter});
     restoreGeometry(bytes(settings, geometryKey));
     splitter->restoreState(bytes(settings, splitterKey));
     bool isNumber = false;

@@ -36,7 +36,7 @@ QString licenceText() {
 
 QDialogButtonBox* buttonsOf(QDialog& dialog) {
     auto* buttons = new QDialogButtonBox(&dialog);
-    buttons->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole);
+    buttons->addButton(QStringLiteral("&Schließen"), QDialogButtonBox::RejectRole)->setDefault(true);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     return buttons;
 }
