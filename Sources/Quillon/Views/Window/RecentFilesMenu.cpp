@@ -2,6 +2,7 @@
 #include "Quillon/Views/Window/RecentFilesMenu.h"
 
 #include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/VisibleText.h"
 
@@ -55,7 +56,7 @@ void RecentFilesMenu::addFile(const QString& path, const QString& name, int numb
                              .replace(QLatin1Char('&'), QStringLiteral("&&"));
     const QString key = number <= mostNumbered ? QStringLiteral("&%1  ").arg(number) : QString();
     QAction* const action = addAction(key + text);
-    action->setToolTip(visible(path).toHtmlEscaped());
+    action->setToolTip(plainToolTip(visible(path)));
     connect(action, &QAction::triggered, this, [this, path] { emit chosen(path); });
     actionByPath.insert(path, action);
 }
@@ -64,7 +65,7 @@ void RecentFilesMenu::showPresence(const QString& path, bool isThere) {
     if (QAction* const action = actionByPath.value(path); action != nullptr && !isThere) {
         action->setEnabled(false);
         action->setToolTip(
-            QStringLiteral("%1<br>Die Datei ist nicht zu erreichen.").arg(visible(path).toHtmlEscaped()));
+            plainToolTip(visible(path) + QStringLiteral("\nDie Datei ist nicht zu erreichen.")));
     }
 }
 

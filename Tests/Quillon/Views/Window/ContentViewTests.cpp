@@ -131,6 +131,7 @@ TEST_F(Window, OffersTheFilesThatWereOpenLast) {
     const QList<QAction*> actions = menu.actions();
     EXPECT_EQ(actions[0]->text(), "&1  gone.adi");
     EXPECT_EQ(actions[1]->text(), "&2  R&&D.adi");
+    EXPECT_EQ(actions[1]->toolTip(), there);
     while (looked.size() < 2) {
         ASSERT_TRUE(looked.wait());
     }
