@@ -33,11 +33,6 @@ const QString zoomKey = QStringLiteral("handbook.zoom");
 
 constexpr int zoomStepPercent = 10;
 
-QByteArray bytes(const Settings& settings, const QString& key) {
-    const QVariant stored = settings.value(key);
-    return stored.typeId() == QMetaType::QByteArray ? stored.toByteArray() : QByteArray();
-}
-
 bool isOfTheWeb(const QUrl& address) {
     return QStringList{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto")}.contains(
         address.scheme());
@@ -253,13 +248,9 @@ void HandbookWindow::restore() {
     constexpr QSize frame(16, 48);
     resize(QSize(156 * letter, 45 * fontMetrics().height()).boundedTo(screen()->availableSize() - frame));
     splitter->setSizes({42 * letter, 114 * letter});
-    restoreGeometry(bytes(settings, geometryKey));
-    splitter->restoreState(bytes(settings, splitterKey));
-    bool isNumber = false;
-    const int percent = settings.value(zoomKey).toInt(&isNumber);
-    if (isNumber) {
-        view->setZoom(percent);
-    }
+    restoreGeometry(settings.bytes(geometryKey));
+    splitter->restoreState(settings.bytes(splitterKey));
+    view->setZoom(settings.number(zoomKey, view->zoom()));
 }
 
 void HandbookWindow::remember() {
