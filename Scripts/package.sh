@@ -30,7 +30,10 @@ Scripts/packages.sh --package
 echo "Packing. What is said meanwhile goes to $log"
 mkdir -p build/packages
 : >"$log"
+# However it ends: what is built here later must not look there.
+trap 'cmake --preset release -DQUILLON_UPDATE_MANIFEST_URL= >/dev/null' EXIT
 pack TXZ "$address"
+trap - EXIT
 pack DEB ""
 rm -rf build/packages/_CPack_Packages
 ls -l build/packages/*.deb build/packages/*.tar.xz
