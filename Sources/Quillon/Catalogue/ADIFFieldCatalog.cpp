@@ -68,6 +68,44 @@ const std::unordered_map<std::string_view, std::string_view>& germanLabels() {
     return labels;
 }
 
+/// What values of a data type look like. Of those that are not here there is nothing to tell.
+const std::unordered_map<std::string_view, std::string_view>& germanForms() {
+    static const std::unordered_map<std::string_view, std::string_view> forms = {
+        {"Date", "Ein Datum mit acht Ziffern, Jahr, Monat und Tag: 20240315."},
+        {"Time", "Eine Uhrzeit in UTC mit vier oder sechs Ziffern: 1802 oder 180230."},
+        {"GridSquare", "Ein Locator: JO62QM."},
+        {"GridSquareList", "Locatoren mit Kommas dazwischen: JO62,JO63."},
+        {"Number", "Eine Zahl mit Punkt statt Komma: 14.250."},
+        {"PositiveInteger", "Eine ganze Zahl über 0."},
+        {"Integer", "Eine ganze Zahl."},
+        {"Boolean", "Y für Ja oder N für Nein."},
+        {"Location", "Himmelsrichtung, drei Stellen Grad und Minuten: N052 31.200."},
+        {"IOTARefNo", "Eine IOTA-Referenz: EU-005."},
+        {"SOTARef", "Eine SOTA-Referenz: DL/AL-001."},
+        {"POTARefList", "POTA-Referenzen mit Kommas dazwischen: DE-0001,DE-0002."},
+        {"WWFFRef", "Eine WWFF-Referenz: DLFF-0001."},
+        {"String", "Text auf einer Zeile."},
+        {"IntlString", "Text auf einer Zeile, mit Buchstaben aller Schriften."},
+        {"MultilineString", "Text, auch über mehrere Zeilen."},
+        {"IntlMultilineString", "Text, auch über mehrere Zeilen, mit Buchstaben aller Schriften."},
+    };
+    return forms;
+}
+
+/// A sentence about the values of a field.
+std::string askedOf(const tallyrig::FieldDef& definition) {
+    constexpr std::size_t mostValues = 40;
+    if (definition.dataType == "Enumeration" && definition.enumKey) {
+        const tallyrig::SpecSet* const values = tallyrig::ADIFSpec::enumerations().find(*definition.enumKey);
+        return values != nullptr && values->size() <= mostValues
+                   ? fmt::format("Einer dieser Werte: {}.", fmt::join(*values, ", "))
+                   : "Ein Wert aus einer Liste, die ADIF vorgibt.";
+    }
+    const auto form = germanForms().find(definition.dataType);
+    return form == germanForms().end() ? fmt::format("Seine Form heißt in ADIF {}.", definition.dataType)
+                                       : std::string(form->second);
+}
+
 std::string label(std::string_view name) {
     return ADIFFieldCatalog::label(name);
 }
@@ -150,6 +188,21 @@ std::string ADIFFieldCatalog::label(std::string_view name) {
     std::string upperName = text::upper(name);
     const auto found = germanLabels().find(upperName);
     return found == germanLabels().end() ? upperName : std::string(found->second);
+}
+
+std::string ADIFFieldCatalog::explanation(std::string_view name) {
+    const std::string upperName = text::upper(name);
+    const std::string heading = fmt::format("ADIF-Feld {}. ", upperName);
+    if (const tallyrig::FieldDef* const definition = tallyrig::ADIFSpec::fields().find(upperName)) {
+        return heading + askedOf(*definition);
+    }
+    return upperName.starts_with("APP_")
+               ? heading + "Ein Programm hat es sich ausgedacht; was darin steht, weiß nur dieses."
+           : upperName.starts_with("USERDEF")
+               ? heading +
+                     "Ein Benutzer hat es für sich festgelegt; im Kopf der Datei kann stehen, wie es heißt."
+               : fmt::format("{} ist kein Feld von ADIF {}. Andere Programme übergehen es vielleicht.",
+                             upperName, tallyrig::ADIFSpec::version);
 }
 
 std::string ADIFFieldCatalog::germanMessage(const tallyrig::ValidationIssue& issue) {

@@ -15,6 +15,10 @@ struct ADIFFieldCatalog {
     /// The German name of a field given in any case; its ADIF name in capitals if it has none.
     static std::string label(std::string_view name);
 
+    /// What a person who is about to fill in the field wants to know, in German sentences: its ADIF name in
+    /// capitals, and the form or the values that ADIF 3.1.7 asks of it, if it does.
+    static std::string explanation(std::string_view name);
+
     /// One German sentence about the finding, made from its kind alone.
     static std::string germanMessage(const tallyrig::ValidationIssue& issue);
 

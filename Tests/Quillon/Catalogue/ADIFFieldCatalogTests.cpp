@@ -20,6 +20,19 @@ TEST(FieldLabels, AreGermanWhereThereIsAWord) {
     }
 }
 
+TEST(Explanations, SayWhatIsToBeFilledIn) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"qso_date", "ADIF-Feld QSO_DATE. Ein Datum mit acht Ziffern, Jahr, Monat und Tag: 20240315."},
+        {"QSL_SENT", "ADIF-Feld QSL_SENT. Einer dieser Werte: Y, N, R, Q, I."},
+        {"MODE", "ADIF-Feld MODE. Ein Wert aus einer Liste, die ADIF vorgibt."},
+        {"GRIDSQUARE_EXT", "ADIF-Feld GRIDSQUARE_EXT. Seine Form heißt in ADIF GridSquareExt."},
+        {"XYZ", "XYZ ist kein Feld von ADIF 3.1.7. Andere Programme übergehen es vielleicht."},
+    };
+    for (const auto& [name, explanation] : cases) {
+        EXPECT_EQ(ADIFFieldCatalog::explanation(name), explanation);
+    }
+}
+
 TEST(Messages, SayInGermanWhatWasFound) {
     const std::pair<tallyrig::ValidationKind, const char*> cases[] = {
         {finding::InvalidDate{"QSLRDATE", "2024"}, "Ungültiges Datum: 2024"},

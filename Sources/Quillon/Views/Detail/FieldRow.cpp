@@ -130,6 +130,9 @@ void FieldRow::showName(std::string_view name) {
         const QString germanName = shownName(ADIFFieldCatalog::label(name));
         label->setText(germanName);
         label->setToolTip(plainToolTip(shownName(name)));
+        const QString meaning = plainToolTip(shownName(ADIFFieldCatalog::explanation(name)));
+        explain(*valueEdit, meaning);
+        explain(*label, meaning);
         valueEdit->setAccessibleName(germanName);
         remove->setAccessibleName(QStringLiteral("Feld entfernen: ") + germanName);
     }

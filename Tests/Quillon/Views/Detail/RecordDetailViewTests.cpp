@@ -53,6 +53,7 @@ TEST_F(RecordDetail, ListsTheFieldsInTheirOrder) {
     openLog({"CALL=DL1ABC BAND=20m MY_RIG=X APP_A=1", "APP_A=2"});
     select({0});
     EXPECT_EQ(fields(), "Rufzeichen=DL1ABC Band=20m MY_RIG=X APP_A=1");
+    EXPECT_TRUE(field(1).whatsThis().startsWith(QStringLiteral("ADIF-Feld BAND. ")));
     select({1});
     EXPECT_EQ(fields(), "APP_A=2");
     EXPECT_EQ(field(0).placeholderText(), QStringLiteral("Wert"));
