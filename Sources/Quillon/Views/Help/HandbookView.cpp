@@ -103,9 +103,16 @@ double HandbookView::topOf(int position) const {
     return book->documentLayout()->blockBoundingRect(book->findBlock(position)).top();
 }
 
-void HandbookView::scrollTo(int position) {
+void HandbookView::bringToTop(int position) {
     constexpr double gapPx = 8;
+    // Text is laid out bit by bit, and until the last the bar ends where the layout has come to.
+    QAbstractTextDocumentLayout* const layout = book->documentLayout();
+    emit layout->documentSizeChanged(layout->documentSize());
     verticalScrollBar()->setValue(static_cast<int>(std::floor(std::max(topOf(position) - gapPx, 0.0))));
+}
+
+void HandbookView::scrollTo(int position) {
+    bringToTop(position);
     // The keyboard goes on from here.
     QTextCursor cursor = textCursor();
     cursor.setPosition(position);
@@ -216,6 +223,17 @@ void HandbookView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         book->setColors(palette());
         markHits();
+    }
+}
+
+void HandbookView::resizeEvent(QResizeEvent* event) {
+    const bool hasScrolled = verticalScrollBar()->value() != arrival;
+    QTextBrowser::resizeEvent(event);
+    // At another width there is another height of text above the part that was gone to, most of all when the
+    // window comes up and gets its own width. Whoever has scrolled since goes on from where the bar is.
+    if (!hasScrolled) {
+        bringToTop(places[place]);
+        arrival = verticalScrollBar()->value();
     }
 }
 

@@ -54,12 +54,14 @@ class HandbookView : public QTextBrowser {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
     void followLink(const QUrl& address);
     int topPosition() const;
     double topOf(int position) const;
+    void bringToTop(int position);
     void scrollTo(int position);
     void keepPlace();
     void moveInHistory(int step);

@@ -170,6 +170,13 @@ TEST_F(HandbookOnScreen, LeadsAlongLinksAndBack) {
     EXPECT_EQ(told.mid(0, 2).join(QLatin1Char('|')), QStringLiteral("B|https://a.example/x"));
 }
 
+TEST_F(HandbookOnScreen, OpensWithAPartNearTheEndAtTheTop) {
+    open(handbookText() + shortcutChapter(), QStringLiteral("tastenkürzel"));
+    EXPECT_LT(view().cursorRect().top(), 40);
+    window->resize(1000, 400);
+    EXPECT_LT(view().cursorRect().top(), 40) << "at another width";
+}
+
 TEST_F(HandbookOnScreen, ShowsPicturesAsWideAsTheyAreOrAsThePage) {
     open(QStringLiteral("![Das Bild](pictures/quillon.png)\n\n![Keines](pictures/nowhere.png)\n"));
     EXPECT_EQ(view().toPlainText().remove(QChar::ObjectReplacementCharacter),
