@@ -80,7 +80,8 @@ ExitStatus check(const Options& options, Output& output) {
     return checked.status();
 }
 
-void writeFiles(const Options& options, const OutdoorExportFiles& files, Output& output) {
+quillon::OutdoorLosses writeFiles(const Options& options, const OutdoorExportFiles& files, Output& output) {
+    quillon::OutdoorLosses losses;
     bool isFirst = true;
     const auto write = [&](const OutdoorExportFile& file) {
         if (options.asJson) {
@@ -93,11 +94,13 @@ void writeFiles(const Options& options, const OutdoorExportFiles& files, Output&
             output.write("  " + visible(file.filename) + ": " + counted(file.qsoCount, "QSO", "QSOs") + "\n");
         }
         isFirst = false;
+        losses.add(file);
     };
     const auto folder = options.folder.empty() ? std::nullopt : std::optional(options.folder);
     if (const auto error = quillon::exportOutdoorFiles(files, folder, write)) {
         throw Failure{(folder ? *folder : options.file) + ": " + error->message};
     }
+    return losses;
 }
 
 ExitStatus exportFiles(const Options& options, Output& output) {
@@ -108,7 +111,7 @@ ExitStatus exportFiles(const Options& options, Output& output) {
                      std::string(rawValue(programOf(options))) + "\n");
     }
     output.write(options.asJson ? "[" : "");
-    writeFiles(options, files, output);
+    const quillon::OutdoorLosses losses = writeFiles(options, files, output);
     output.write(options.asJson ? "]\n" : "");
     if (files.empty()) {
         complain(quillon::noOutdoorFilesMessage(programOf(options), roleOf(options)));
@@ -117,7 +120,10 @@ ExitStatus exportFiles(const Options& options, Output& output) {
     if (!options.folder.empty()) {
         complain(counted(files.size(), "Datei", "Dateien") + " in «" + options.folder + "» geschrieben.");
     }
-    return ExitStatus::good;
+    for (const std::string& line : losses.lines()) {
+        complain(line);
+    }
+    return losses.empty() ? ExitStatus::good : ExitStatus::findings;
 }
 
 /// What both commands are told: the log, the program and the role.
@@ -145,10 +151,12 @@ std::vector<Command> outdoorCommands(CLI::App& program) {
         addCommand(both, "check", "Prüft, ob ein Log sich bei einem Outdoor-Programm einreichen lässt.",
                    "tallyrig outdoor check --program POTA Examples/unterwegs.adi");
     const auto checkOptions = addOptions(checkUsage);
-    CLI::App& exportUsage =
-        addCommand(both, "export", "Schreibt die Dateien eines Logs für ein Outdoor-Programm.",
-                   "tallyrig outdoor export --program SOTA --role Chaser -o . Examples/unterwegs.adi\n\n"
-                   "Ohne -o werden die Dateien nur aufgezählt. Sind es keine, ist der Rückgabewert 1.");
+    CLI::App& exportUsage = addCommand(
+        both, "export", "Schreibt die Dateien eines Logs für ein Outdoor-Programm.",
+        "tallyrig outdoor export --program SOTA --role Chaser -o . Examples/unterwegs.adi\n\n"
+        "Ohne -o werden die Dateien nur aufgezählt. Sind es keine, ist der Rückgabewert 1.\n"
+        "Was eine ADIF-Datei von ihren QSOs nicht tragen kann, wird auf der Fehlerausgabe genannt;\n"
+        "geschrieben wird trotzdem, und der Rückgabewert ist 1.");
     const auto exportOptions = addOptions(exportUsage);
     exportUsage
         .add_option("-o", exportOptions->folder,

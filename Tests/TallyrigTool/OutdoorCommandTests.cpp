@@ -51,6 +51,25 @@ TEST_F(Outdoor, ExportsTheFilesOfAProgram) {
     EXPECT_TRUE(read("DL9X@K-1234 20240501.adi").starts_with("ADIF-Export erstellt mit Quillon\n"));
 }
 
+TEST_F(Outdoor, NamesWhatAFileWouldLose) {
+    std::string records;
+    for (int park = 0; park < 11; ++park) {
+        records += "<RECORD><CALL>A</CALL><OPERATOR>DL9X</OPERATOR><MY_SIG_INFO>K-" +
+                   std::to_string(1000 + park) + "</MY_SIG_INFO><A:B>1</A:B></RECORD>";
+    }
+    const Ran ran =
+        run("tallyrig outdoor export --program POTA -o . -", "<ADX><RECORDS>" + records + "</RECORDS></ADX>");
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(files().size(), 11U) << "written all the same";
+    EXPECT_NE(
+        ran.complaint.find("tallyrig: DL9X@K-1009 .adi: Nicht alles käme beim Lesen wieder: 1 Angabe in 1 "
+                           "QSO.\ntallyrig:   QSO 1 mit „A“: Das Feld „A:B“ mit dem Wert „1“ ginge "
+                           "verloren: Das Format kann den Namen nicht schreiben.\n"
+                           "tallyrig: Ebenso in einer weiteren Datei.\n"),
+        std::string::npos)
+        << ran.complaint;
+}
+
 TEST_F(Outdoor, SaysWhatStandsInTheWay) {
     const Ran none = run("tallyrig outdoor export --program LLOTA --json -o . -", contact + "<EOR>");
     EXPECT_EQ(none.status, 1);

@@ -13,6 +13,27 @@
 
 namespace quillon {
 
+namespace {
+
+/// Asks the user about what the files of an export would lose, if they would.
+bool mayExport(const tallyrig::OutdoorExportFiles& wanted, Panels& panels) {
+    OutdoorLosses losses;
+    exportOutdoorFiles(wanted, std::nullopt,
+                       [&](const tallyrig::OutdoorExportFile& file) { losses.add(file); });
+    if (losses.empty()) {
+        return true;
+    }
+    LossQuestion question;
+    question.text =
+        QStringLiteral("Die Dateien werden als ADIF geschrieben. Nicht alles käme beim Lesen wieder.");
+    for (const std::string& line : losses.lines()) {
+        question.losses.append(QString::fromStdString(line));
+    }
+    return panels.answerTo(question) != LossAnswer::cancel;
+}
+
+}  // namespace
+
 void LogStore::setOutdoorProgram(tallyrig::OutdoorProgram program) {
     const Operation operation(*this);
     state.outdoorProgram = program;
@@ -55,6 +76,9 @@ void LogStore::exportOutdoor() {
         QStringLiteral("Ordner für die %1-Dateien wählen.").arg(QString::fromStdString(name)),
         QStringLiteral("Hierhin exportieren"));
     if (!chosen) {
+        return;
+    }
+    if (!mayExport(wanted, panels)) {
         return;
     }
     const QString folder = absolutePath(*chosen);

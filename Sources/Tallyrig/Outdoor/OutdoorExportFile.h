@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Tallyrig/Log/ADIFDocument.h"
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -14,6 +16,7 @@ struct OutdoorExportFile {
     std::string filename;   ///< As proposed: made of what stands in the log, fit for a file system or not.
     std::string content;    ///< The whole file.
     std::size_t qsoCount = 0;
+    ADIFDocument log = {};  ///< What was written, where the file is an ADIF log; else empty.
 };
 
 /// The files of one export in their order, each made anew when it is asked for: a log may give as many as it

@@ -55,10 +55,13 @@ OutdoorExportFile fileFor(std::string_view reference, const ADIFRecordList& reco
     }
     std::string place(reference);
     std::ranges::replace(place, '/', '-');
+    ADIFDocument log("", {}, ADIFRecordList(std::move(own)));
+    std::string content = writer.write(log, createdTimestamp);
     return {.reference = std::string(reference),
             .filename = callOf(records[indices.front()]) + '@' + place + ' ' + date.text() + ".adi",
-            .content = writer.write({"", {}, ADIFRecordList(std::move(own))}, createdTimestamp),
-            .qsoCount = indices.size()};
+            .content = std::move(content),
+            .qsoCount = indices.size(),
+            .log = std::move(log)};
 }
 
 }  // namespace

@@ -76,6 +76,25 @@ TEST_F(Outdoors, AreExportedIntoTheChosenFolderAndShown) {
               "V2,DL9X,DM/BW-001,01/05/2024,1200,14MHz,CW,DL1ABC,,\r\n");
 }
 
+TEST_F(Outdoors, AreExportedWithALossOnlyIfTheUserSaysSo) {
+    store.open(folder.write("log.adx",
+                            "<ADX><RECORDS><RECORD><CALL>A</CALL><OPERATOR>DL9X</OPERATOR>"
+                            "<MY_SIG_INFO>K-1</MY_SIG_INFO><A:B>1</A:B></RECORD></RECORDS></ADX>"));
+    panels.answers = {folder.path(".")};
+    store.exportOutdoor();
+    EXPECT_EQ(folder.names(), "log.adx") << "cancelled";
+    EXPECT_FALSE(store.errorMessage());
+    ASSERT_EQ(panels.lossQuestions.size(), 1U);
+    EXPECT_EQ(
+        panels.lossQuestions[0].losses.join('|'),
+        "DL9X@K-1 .adi: Nicht alles käme beim Lesen wieder: 1 Angabe in 1 QSO.|  QSO 1 mit „A“: Das Feld "
+        "„A:B“ mit dem Wert „1“ ginge verloren: Das Format kann den Namen nicht schreiben.");
+    panels.lossAnswer = LossAnswer::saveAnyway;
+    panels.answers = {folder.path(".")};
+    store.exportOutdoor();
+    EXPECT_EQ(folder.names(), "DL9X@K-1 .adi log.adx");
+}
+
 TEST_F(Outdoors, KeepTheOpenFileWhereAnExportReplacesIt) {
     const std::string text = testing::adi({contact + "MY_SIG_INFO=DL-0001,DL-0002"});
     const QString open = folder.write(QStringLiteral("DL9X@DL-0002 20240501.adi"), text);
