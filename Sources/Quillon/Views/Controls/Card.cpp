@@ -4,6 +4,7 @@
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Hairline.h"
+#include "Quillon/Views/Controls/KeptFont.h"
 #include "Quillon/Views/Controls/Labels.h"
 
 #include <QHBoxLayout>
@@ -19,7 +20,7 @@ Card::Card(const QString& heading, QWidget* parent)
       headingLine(new ElidedLabel(Qt::ElideMiddle, this)) {
     column->setContentsMargins(16, 12, 16, 12);
     column->setSpacing(6);
-    headingLine->setFont(fontFor(MeasuredFont::label));
+    keepFont(*headingLine, [] { return fontFor(MeasuredFont::label); });
     headRow->setSpacing(8);
     headRow->addWidget(headingLine, 1);
     column->addLayout(headRow);

@@ -3,12 +3,14 @@
 
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Views/Controls/Hairline.h"
+#include "Quillon/Views/Controls/KeptFont.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Tallyrig/Text/Characters.h"
 #include "Tallyrig/Text/Text.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyle>
 #include <QTextDocument>
@@ -48,6 +50,14 @@ class HorizontalLine : public QWidget {
         painter.fillRect(QRectF(0, 0, width(), hairlineWidth(painter)), palette().color(QPalette::Mid));
     }
 };
+
+/// The application's font, bold and so many times as large.
+QFont boldFont(double factor) {
+    QFont font = QGuiApplication::font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * factor);
+    return font;
+}
 
 /// The text in lines of at most 90 letters of middle width.
 QStringList wrapped(const QString& text) {
@@ -96,10 +106,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
 QLabel* titleLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.2);
-    label->setFont(font);
+    keepFont(*label, [] { return boldFont(1.2); });
     return label;
 }
 
@@ -112,17 +119,14 @@ QFont fixedFontBeside(const QFont& text) {
 QLabel* headingLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
-    label->setFont(fontFor(MeasuredFont::label));
+    keepFont(*label, [] { return fontFor(MeasuredFont::label); });
     return label;
 }
 
 QLabel* figureLabel(double factor, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * factor);
-    label->setFont(font);
+    keepFont(*label, [factor] { return boldFont(factor); });
     makeCopyable(*label);
     return label;
 }
@@ -141,7 +145,7 @@ void makeCopyable(QLabel& label) {
 QLabel* noteLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
-    label->setFont(smallFont());
+    keepFont(*label, smallFont);
     label->setForegroundRole(QPalette::PlaceholderText);
     label->setWordWrap(true);
     return label;

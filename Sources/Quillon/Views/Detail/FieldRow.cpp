@@ -5,6 +5,7 @@
 #include "Quillon/Platform/Desktop/FontMeasurer.h"
 #include "Quillon/Views/Controls/Colors.h"
 #include "Quillon/Views/Controls/Icons.h"
+#include "Quillon/Views/Controls/KeptFont.h"
 #include "Quillon/Views/Controls/Labels.h"
 #include "Quillon/Views/Controls/Strings.h"
 #include "Quillon/Views/Controls/UnseenCharacters.h"
@@ -101,7 +102,7 @@ FieldRow::FieldRow(QWidget* parent)
       label(new ElidedLabel(Qt::ElideRight, this)),
       valueEdit(new LogTextField(this)),
       remove(new QToolButton(this)) {
-    label->setFont(smallFont());
+    keepFont(*label, smallFont);
     label->setForegroundRole(QPalette::PlaceholderText);
     label->setBuddy(valueEdit);
     remove->setIcon(icon(QStringLiteral("list-remove")));

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTextDocument>
+#include <QVBoxLayout>
 
 namespace quillon {
 namespace {
@@ -23,6 +25,29 @@ TEST(ToolTip, IsPlainTextInLinesOfReadableLength) {
         EXPECT_FALSE(Qt::mightBeRichText(shown)) << markup;
         EXPECT_EQ(QString(shown).remove(QChar(0x2060)).toStdString(), markup);
     }
+}
+
+TEST(Labels, FollowTheFontOfTheDesktop) {
+    QWidget window;
+    auto* const column = new QVBoxLayout(&window);
+    QLabel* const labels[] = {noteLabel("klein"), headingLabel("fett"), titleLabel("Titel"), figureLabel(2)};
+    std::vector<double> before;
+    for (QLabel* const label : labels) {
+        column->addWidget(label);
+        before.push_back(label->font().pointSizeF());
+    }
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2);
+    QApplication::setFont(large);
+    QApplication::processEvents();
+    for (std::size_t label = 0; label < before.size(); ++label) {
+        EXPECT_NEAR(labels[label]->font().pointSizeF(), before[label] * 2, 0.1) << label;
+        EXPECT_EQ(labels[label]->font().bold(), label > 0);
+    }
+    QApplication::setFont(usual);
+    QApplication::processEvents();
+    EXPECT_NEAR(labels[0]->font().pointSizeF(), before[0], 0.1);
 }
 
 }  // namespace
