@@ -186,6 +186,10 @@ void ContentView::buildRecentFilesMenu(QMenu& fileMenu) {
     fileMenu.insertMenu(actions.value(open + 1), recent);
     connect(&fileMenu, &QMenu::aboutToShow, recent, &RecentFilesMenu::refresh);
     connect(recent, &RecentFilesMenu::chosen, this, &ContentView::openFile);
+    // Who goes through the menu by the keyboard sees no tool tips.
+    connect(recent, &QMenu::hovered, this,
+            [this](const QAction* entry) { statusLine->showPath(entry->statusTip()); });
+    connect(recent, &QMenu::aboutToHide, this, [this] { statusLine->showPath(QString()); });
 }
 
 void ContentView::buildPanes() {

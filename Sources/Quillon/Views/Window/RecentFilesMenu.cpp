@@ -57,6 +57,7 @@ void RecentFilesMenu::addFile(const QString& path, const QString& name, int numb
     const QString key = number <= mostNumbered ? QStringLiteral("&%1  ").arg(number) : QString();
     QAction* const action = addAction(key + text);
     action->setToolTip(plainToolTip(visible(path)));
+    action->setStatusTip(path);
     connect(action, &QAction::triggered, this, [this, path] { emit chosen(path); });
     actionByPath.insert(path, action);
 }

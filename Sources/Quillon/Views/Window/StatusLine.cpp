@@ -18,6 +18,10 @@ QString visible(const QString& text) {
     return toQString(tallyrig::text::visibleText(text.toStdString()));
 }
 
+QString shownPath(const QString& path) {
+    return visible(QDir::toNativeSeparators(path));
+}
+
 }  // namespace
 
 QString qsoCount(std::size_t count) {
@@ -34,7 +38,7 @@ StatusTexts statusTexts(const LogStore& store) {
         texts.selected = numberText(store.selection().size()) + QStringLiteral(" ausgewählt");
     }
     if (store.fileURL()) {
-        texts.path = visible(QDir::toNativeSeparators(*store.fileURL()));
+        texts.path = shownPath(*store.fileURL());
     }
     return texts;
 }
@@ -81,8 +85,18 @@ void StatusLine::refresh() {
     selected->setText(texts.selected);
     selected->setVisible(!texts.selected.isEmpty());
     notice->hide();
-    path->setText(texts.path);
-    path->setToolTip(plainToolTip(texts.path));
+    refreshPath();
+}
+
+void StatusLine::refreshPath() {
+    const QString shown = otherPath.isEmpty() ? statusTexts(store).path : shownPath(otherPath);
+    path->setText(shown);
+    path->setToolTip(plainToolTip(shown));
+}
+
+void StatusLine::showPath(const QString& pathOfOther) {
+    otherPath = pathOfOther;
+    refreshPath();
 }
 
 void StatusLine::showNotice(const QString& text) {

@@ -37,9 +37,12 @@ class StatusLine : public QWidget {
 
     /// Tells `text` until log, file, search or selection change.
     void showNotice(const QString& text);
+    /// Shows `pathOfOther` in the place of the log's own path for a while: until it is empty.
+    void showPath(const QString& pathOfOther);
 
   private:
     void refresh();
+    void refreshPath();
 
     const LogStore& store;
     QLabel* records;
@@ -47,6 +50,7 @@ class StatusLine : public QWidget {
     QLabel* selected;
     ElidedLabel* notice;
     ElidedLabel* path;
+    QString otherPath;
 };
 
 }  // namespace quillon

@@ -136,6 +136,11 @@ TEST_F(Window, OffersTheFilesThatWereOpenLast) {
         ASSERT_TRUE(looked.wait());
     }
     EXPECT_FALSE(actions[0]->isEnabled());
+    QTest::keyClick(&menu, Qt::Key_Down);
+    EXPECT_TRUE(status().ends_with(there.toStdString())) << "the whole path, for the keyboard";
+    menu.hide();
+    EXPECT_FALSE(status().ends_with(there.toStdString()));
+    menu.popup(QPoint());
     QTest::keyClick(&menu, Qt::Key_2);
     EXPECT_EQ(store.fileURL(), there);
     menu.popup(QPoint());
