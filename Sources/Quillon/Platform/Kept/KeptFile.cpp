@@ -315,4 +315,18 @@ std::optional<std::string> KeptFile::readBytes() const {
     return std::nullopt;
 }
 
+void KeptFile::cutDamage() {
+    std::uint64_t good = fileMark.size();
+    for (const Block& block : blocksIn(file.number())) {
+        if (!contentOf(file.number(), block)) {
+            static_cast<void>(::ftruncate(file.number(), static_cast<off_t>(good)));
+            latest.reset();
+            bytesOfWhole = bytesOfChanges = changeCount = 0;
+            findBlocks();
+            return;
+        }
+        good = block.end();
+    }
+}
+
 }  // namespace quillon

@@ -55,6 +55,10 @@ class KeptFile {
     std::optional<tallyrig::ADIFDocument> readLog() const;
     std::optional<std::string> readBytes() const;
 
+    /// Gives up the first block whose content is damaged and what is behind it, of a file that `readLog` has
+    /// read and that is open for writing: nothing would be read of what is added there. Cost: reads it all.
+    void cutDamage();
+
   private:
     explicit KeptFile(Descriptor opened) : file(std::move(opened)) {}
     void findBlocks();

@@ -352,6 +352,7 @@ std::variant<tallyrig::ADIFDocument, FileError> KeptInHand::takeUp(const KeptEnt
     if (!document) {
         return FileError{"Die aufgehobene Datei ist beschädigt."};
     }
+    taken->file.cutDamage();
     KeptNote note = *taken->file.note();
     note.reason = KeptReason::inHand;
     note.isDismissed = false;

@@ -165,6 +165,25 @@ TEST_F(Kept, ProgramThatDiesAnywhereLeavesTheStateBefore) {
     EXPECT_EQ(states, " both first nothing");
 }
 
+TEST_F(Kept, DamagedEndIsNotBuiltUpon) {
+    auto hand = std::make_unique<KeptInHand>(kept);
+    EXPECT_FALSE(hand->keep(logOf({"CALL=A"}), ""));
+    ADIFDocument document = logOf({"CALL=A"});
+    document.setHeaderComment(std::string(500, 'x'));
+    EXPECT_FALSE(hand->keep(document, ""));
+    hand.reset();
+    const KeptEntry entry = kept.entries().at(0);
+    damage(entry, static_cast<long>(entry.bytes) - 250);
+    KeptInHand next(kept);
+    const auto taken = next.takeUp(entry);
+    ASSERT_EQ(toldBy(std::get<ADIFDocument>(taken)), toldBy(logOf({"CALL=A"})));
+    document = std::get<ADIFDocument>(taken);
+    document.setHeaderComment("y");
+    EXPECT_FALSE(next.keep(document, ""));
+    next.letGo(KeptReason::newLog);
+    EXPECT_EQ(told(kept.entries().at(0)), toldBy(document));
+}
+
 TEST_F(Kept, DamagedAndForeignFilesArePassedOver) {
     keep("damaged", logOf({"COMMENT=" + std::string(500, 'x')}));
     keep("whole");
