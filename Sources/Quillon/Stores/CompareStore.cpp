@@ -7,6 +7,7 @@
 #include "Quillon/Stores/LogText.h"
 #include "Quillon/Stores/ValidationSettings.h"
 #include "Tallyrig/Analysis/ADIFComparator.h"
+#include "Tallyrig/Formats/LogReader.h"
 #include "Tallyrig/Log/ADIFParser.h"
 #include "Tallyrig/Log/ADIFWriter.h"
 #include "Tallyrig/Log/ProgramName.h"
@@ -49,6 +50,18 @@ void keepIfEqual(ComparedFile& file, const ADIFDocument& present) {
     if (file.document == present) {
         file.document = present;
     }
+}
+
+/// The file at `fullPath`, of which `parse` makes a log; absent if it cannot be read.
+template <typename Parse>
+std::optional<ComparedFile> fileAt(const QString& fullPath, const Parse& parse) {
+    // First, so that what others write meanwhile is noticed.
+    const KnownFile known(fullPath);
+    const auto content = readFile(fullPath.toStdString());
+    const auto* const bytes = std::get_if<std::string>(&content);
+    return bytes == nullptr ? std::nullopt
+                            : std::optional(ComparedFile{parse(*bytes), QFileInfo(fullPath).fileName(),
+                                                         fullPath, false, known});
 }
 
 }  // namespace
@@ -155,15 +168,31 @@ void CompareStore::loadWithPanel(Side side) {
 }
 
 void CompareStore::load(Side side, const QString& path) {
-    const QString fullPath = absolutePath(path);
-    const auto content = readFile(fullPath.toStdString());
-    if (const auto* const bytes = std::get_if<std::string>(&content)) {
-        ComparedFile file{tallyrig::ADIFParser::parse(*bytes), QFileInfo(fullPath).fileName(), fullPath};
-        if (side == Side::right) {
-            setRight(std::move(file));
-        } else {
-            setLeftFile(std::move(file));
+    if (auto file = fileAt(absolutePath(path), &tallyrig::ADIFParser::parse)) {
+        place(side, *std::move(file));
+    }
+}
+
+void CompareStore::loadInItsFormat(Side side, const QString& path) {
+    auto format = tallyrig::LogFormat::adif;
+    auto file = fileAt(absolutePath(path), [&format](std::string_view bytes) {
+        tallyrig::LogReader::Log log = tallyrig::LogReader::readWithoutReport(bytes);
+        format = log.format;
+        return std::move(log.document);
+    });
+    if (file) {
+        if (format != tallyrig::LogFormat::adif) {
+            file->url.reset();
         }
+        place(side, *std::move(file));
+    }
+}
+
+void CompareStore::place(Side side, ComparedFile file) {
+    if (side == Side::right) {
+        setRight(std::move(file));
+    } else {
+        setLeftFile(std::move(file));
     }
 }
 
@@ -194,19 +223,35 @@ void CompareStore::save(Side side, const QString& proposedName) {
     if (content.answer != LossAnswer::saveAnyway) {
         return;
     }
+    if (replaceWith(content.text, fullPath, *fileOf(side))) {
+        emit written(fullPath);
+    }
+}
+
+bool CompareStore::replaceWith(const std::string& content, const QString& path, ComparedFile& file) {
     const Changes::Operation operation(changes);
-    ComparedFile& file = *fileOf(side);
     if (keepFormer) {
-        keepFormer(fullPath);
+        keepFormer(path);
     }
-    if (const auto error = replaceFile(fullPath.toStdString(), content.text)) {
+    bool isOther = false;
+    const auto isWanted = [&] {
+        isOther = file.url == path && file.known && !file.known->isUntouched();
+        return !isOther;
+    };
+    if (const auto error = replaceFile(path.toStdString(), content, Lasting::atOnce, isWanted)) {
         state.errorMessage =
-            fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), fullPath, error->message);
-        return;
+            fileFailure(QStringLiteral("Speichern fehlgeschlagen:"), path,
+                        error->message + (isOther ? " Noch einmal speichern ersetzt sie." : ""));
+        if (isOther) {
+            file.known.reset();
+        }
+        return false;
     }
-    file.url = fullPath;
-    file.name = QFileInfo(fullPath).fileName();
+    file.url = path;
+    file.known = KnownFile(path);
+    file.name = QFileInfo(path).fileName();
     file.isDirty = false;
+    return true;
 }
 
 void CompareStore::setErrorMessage(std::optional<QString> message) {

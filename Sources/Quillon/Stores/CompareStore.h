@@ -4,6 +4,7 @@
 #include "Quillon/Catalogue/ComparisonKey.h"
 #include "Quillon/Platform/Panels.h"
 #include "Quillon/Platform/Settings.h"
+#include "Quillon/Stores/KnownFile.h"
 #include "Quillon/Stores/StoreState.h"
 #include "Quillon/Stores/TextBinding.h"
 #include "Tallyrig/Analysis/ADIFComparison.h"
@@ -29,6 +30,8 @@ struct ComparedFile {
     QString name;                ///< Empty for one without a file.
     std::optional<QString> url;  ///< The path where it came from or went to.
     bool isDirty = false;        ///< It has edits that are not saved.
+    /// The file as it was read or written; absent for one that saving may replace as it is.
+    std::optional<KnownFile> known = {};
 };
 
 /// Which two logs are compared, and by which fields their QSOs are paired. On the right stands a file of this
@@ -71,14 +74,18 @@ class CompareStore : public QObject {
     /// What stands on the left while `currentLog` is the open log.
     const tallyrig::ADIFDocument& leftDoc(const tallyrig::ADIFDocument& currentLog) const;
 
-    // Files. Whatever they hold is read as ADI text.
+    // Files. What the user loads is read as ADI text, whatever it is.
     /// Asks for the file; nothing happens if the user cancels.
     void loadRight();
     void loadLeftFile();
     /// A file that cannot be read changes nothing and is not told of.
     void load(Side side, const QString& path);
+    /// As `load`, but in the format that the file is in. A side has its place there only if that is ADI text:
+    /// saved, it would replace the file by such.
+    void loadInItsFormat(Side side, const QString& path);
     /// Writes the side to its file, or asks for one if it has none; nothing happens if the user cancels. On
-    /// failure only `errorMessage` changes.
+    /// failure only `errorMessage` changes. A file that is not what was loaded or saved last stays, and
+    /// `errorMessage` says so; to save once more replaces it.
     void saveRight();
     /// Does nothing while the open log stands on the left.
     void saveLeftFile();
@@ -104,6 +111,8 @@ class CompareStore : public QObject {
     void leftURLChanged();
     void leftFileDirtyChanged();
     void errorMessageChanged();
+    /// A side was saved to `path`, whether or not it had changes.
+    void written(const QString& path);
     /// Another log took the place of one with edits that were not saved.
     void editsLost(const QString& name);
 
@@ -120,7 +129,10 @@ class CompareStore : public QObject {
 
     ComparedFile* fileOf(Side side);
     void loadWithPanel(Side side);
+    void place(Side side, ComparedFile file);
     void save(Side side, const QString& proposedName);
+    /// False if the file was not written.
+    bool replaceWith(const std::string& content, const QString& path, ComparedFile& file);
     TextBinding binding(Side side, tallyrig::UUID recordID, const std::string& column);
     void setCell(Side side, tallyrig::UUID recordID, const std::string& column, std::string_view value);
 

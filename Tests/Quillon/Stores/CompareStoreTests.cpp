@@ -72,6 +72,32 @@ TEST_F(ComparingLogs, AskBeforeASideIsSavedThatWouldNotComeBack) {
     EXPECT_FALSE(store.rightDirty());
 }
 
+TEST_F(ComparingLogs, LeaveAFileAloneThatIsAnotherByNow) {
+    loadRight(write("a.adi", {"CALL=A"}));
+    rightCell(0, "CALL").write("B");
+    write("a.adi", {"CALL=THEIRS"});
+    store.saveRight();
+    EXPECT_EQ(
+        store.errorMessage()->toStdString(),
+        "Speichern fehlgeschlagen:\n„a.adi“: Die Datei ist inzwischen eine andere. Noch einmal speichern "
+        "ersetzt sie.");
+    EXPECT_NE(folder.read("a.adi").find("THEIRS"), std::string::npos);
+    EXPECT_TRUE(store.rightDirty());
+    store.saveRight();
+    EXPECT_NE(folder.read("a.adi").find("<CALL:1>B"), std::string::npos);
+}
+
+TEST_F(ComparingLogs, ShowAFileOfAnyFormatAndWriteNoADITextOverIt) {
+    const std::string adx = "<ADX><RECORDS><RECORD><CALL>A</CALL></RECORD></RECORDS></ADX>";
+    store.loadInItsFormat(CompareStore::Side::right, folder.write("a.adx", adx));
+    EXPECT_EQ(store.rightDoc().records().size(), 1U);
+    store.saveRight();
+    EXPECT_EQ(panels.proposedNames, QStringList("a.adx"));
+    EXPECT_EQ(folder.read("a.adx"), adx);
+    store.loadInItsFormat(CompareStore::Side::right, write("a.adi", {"CALL=A"}));
+    EXPECT_TRUE(store.hasRightFile());
+}
+
 TEST_F(ComparingLogs, LoadASideAndTellOnlyWhatChanged) {
     const QString path = write("a.adi", {"CALL=A"});
     loadRight(path);
@@ -129,7 +155,7 @@ TEST_F(ComparingLogs, SaveASideAsADIText) {
     rightCell(0, "CALL").write("ÄB");
     told.sent();
     store.saveRight();
-    EXPECT_EQ(told.sent(), "rightDirty");
+    EXPECT_EQ(told.sent(), "rightDirty written");
     const std::string text = folder.read("a.adx");
     EXPECT_NE(text.find("<PROGRAMVERSION:5>0.3.1"), std::string::npos) << text;
     EXPECT_NE(text.find("<ADIF_VER:5>3.1.4"), std::string::npos) << text;
@@ -152,7 +178,7 @@ TEST_F(ComparingLogs, AskForAPlaceWhereThereIsNoFile) {
     panels.answers = {folder.path("new.adi")};
     told.sent();
     store.saveLeftFile();
-    EXPECT_EQ(told.sent(), "leftFileDirty leftFileName leftURL");
+    EXPECT_EQ(told.sent(), "leftFileDirty leftFileName leftURL written");
     EXPECT_EQ(folder.names(), "new.adi");
 }
 
@@ -169,7 +195,7 @@ TEST_F(ComparingLogs, StayAsTheyAreWhenSavingFails) {
     store.setErrorMessage(std::nullopt);
     ASSERT_TRUE(QDir().mkdir(folder.path("gone")));
     store.saveRight();
-    EXPECT_EQ(told.sent(), "errorMessage rightDirty") << "a file that was deleted is written again";
+    EXPECT_EQ(told.sent(), "errorMessage rightDirty written") << "a file that was deleted is written again";
 }
 
 }  // namespace
