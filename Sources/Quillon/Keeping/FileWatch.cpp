@@ -20,6 +20,7 @@ FileWatch::FileWatch(LogStore& logStore, QObject* parent) : QObject(parent), sto
     connect(&watcher, &QFileSystemWatcher::directoryChanged, &looking, qOverload<>(&QTimer::start));
     connect(&store, &LogStore::savedDocumentChanged, this, &FileWatch::follow);
     connect(&store, &LogStore::fileURLChanged, this, &FileWatch::follow);
+    connect(&store, &LogStore::written, this, &FileWatch::follow);
     follow();
 }
 

@@ -38,8 +38,6 @@ void InHandKeeper::follow(LogInHand now) {
     if (hasOtherFile && !now.document.isSameAs(last.document)) {
         letGo(now.path || now.mayDiffer() ? KeptReason::otherLog : KeptReason::newLog);
         begun.reset();
-    } else if (hasOtherFile && now.path && !now.mayDiffer()) {
-        emit saved(*now.path);
     }
     last = std::move(now);
     keepLater();
@@ -75,7 +73,7 @@ void InHandKeeper::letGo(KeptReason reason) {
 }
 
 void InHandKeeper::keepLater() {
-    if (isWriting || timer.isActive() || isUpToDate()) {
+    if (hasEnded || isWriting || timer.isActive() || isUpToDate()) {
         return;
     }
     // What is to be given up goes at once: it costs nothing.
@@ -134,6 +132,8 @@ void InHandKeeper::keepNow() {
     begun = unsaved();
     if (const auto error = write(*hand, last)) {
         tellFailure(*error);
+        begun = tallyrig::ADIFDocument();  // It is tried again.
+        keepLater();
     }
 }
 

@@ -67,8 +67,6 @@ class InHandKeeper : public QObject {
     void letGone(const quillon::KeptEntry& entry);
     /// A log has made room for another, kept or not.
     void changed();
-    /// The log is in its file now.
-    void saved(const QString& path);
     /// Why keeping did not work, in German. Sent each time.
     void failed(const QString& why);
 

@@ -56,14 +56,21 @@ LogKeeper::LogKeeper(LogStore& logStore, CompareStore& compareStore, const std::
     for (const InHandKeeper* const hand : {&log, &left, &right}) {
         connect(hand, &InHandKeeper::letGone, this, &LogKeeper::letGone);
         connect(hand, &InHandKeeper::changed, this, &LogKeeper::entriesChanged);
-        connect(hand, &InHandKeeper::saved, this, &LogKeeper::noteSaved);
         connect(hand, &InHandKeeper::failed, this, [this](const QString& why) {
             tellFailure(QStringLiteral("Ungesicherte Änderungen werden nicht aufgehoben: ") + why);
         });
     }
-    connect(&store, &LogStore::exported, this, &LogKeeper::noteSaved);
-    store.beforeReplacing([this](const QString& path) { keepFormerFile(path); });
-    compare.beforeReplacing([this](const QString& path) { keepFormerFile(path); });
+    connect(&store, &LogStore::written, this,
+            [this](const QString& path) { noteWritten(path, Origin::log); });
+    connect(&compare, &CompareStore::written, this,
+            [this](const QString& path) { noteWritten(path, Origin::side); });
+    connect(&store, &LogStore::exported, this, [this](const QString& path) {
+        if (store.fileURL() != path) {
+            noteWritten(path, Origin::exportedText);
+        }
+    });
+    store.beforeReplacing([this](const QString& path) { keepFormerFile(path, Origin::log); });
+    compare.beforeReplacing([this](const QString& path) { keepFormerFile(path, Origin::side); });
 }
 
 LogKeeper::~LogKeeper() {
@@ -113,7 +120,9 @@ std::optional<QString> LogKeeper::bringBack(const KeptEntry& entry) {
     const auto& document = std::get<tallyrig::ADIFDocument>(taken);
     log.takeUp(std::move(next), document);
     const QString path = QString::fromStdString(entry.note.path);
-    store.bringBack(document, path.isEmpty() ? std::nullopt : std::optional(path));
+    // What stands in the file by now is no earlier state of this log.
+    writtenFiles.erase(entry.note.path);
+    store.bringBack(document, path.isEmpty() ? std::nullopt : std::optional(path), entry.note.timeMs);
     emit entriesChanged();
     return std::nullopt;
 }
@@ -160,23 +169,39 @@ std::size_t LogKeeper::knownRecordsIn(const QString& path) const {
     return isLeft ? savedLeft.records().size() : 0;
 }
 
-void LogKeeper::keepFormerFile(const QString& path) {
+/// Whether nobody misses what stands in the file at `path` when a log of this origin takes its place: an
+/// export can be made again, and what that log itself was written there as is an earlier state of it.
+bool LogKeeper::mayGo(const QString& path, const FileState& now, Origin origin) const {
+    const auto written = writtenFiles.find(path.toStdString());
+    if (written == writtenFiles.end() || written->second.state != now) {
+        return false;
+    }
+    if (written->second.origin == Origin::exportedText) {
+        return true;
+    }
+    const bool isLeft = compare.leftFile() != nullptr && compare.leftFile()->url == path;
+    const bool isItsFile =
+        origin == Origin::log ? store.fileURL() == path : isLeft || compare.rightURL() == path;
+    return isItsFile && written->second.origin == origin;
+}
+
+void LogKeeper::keepFormerFile(const QString& path, Origin origin) {
     const std::string file = path.toStdString();
     const FileState now = FileState::of(file);
-    const auto known = savedFiles.find(file);
-    if (known != savedFiles.end() && known->second == now) {
+    if (mayGo(path, now, origin)) {
         return;
     }
     if (const auto error = kept.keepFormerFile(file, knownRecordsIn(path))) {
         tellFailure(QStringLiteral("Was in der Datei stand, wird nicht aufgehoben: ") + sentence(*error));
+        return;
     }
-    savedFiles[file] = now;
+    writtenFiles[file] = {now, origin};
     emit entriesChanged();
 }
 
-void LogKeeper::noteSaved(const QString& path) {
+void LogKeeper::noteWritten(const QString& path, Origin origin) {
     const std::string file = path.toStdString();
-    savedFiles[file] = FileState::of(file);
+    writtenFiles[file] = {FileState::of(file), origin};
 }
 
 }  // namespace quillon

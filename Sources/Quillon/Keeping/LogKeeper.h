@@ -75,8 +75,11 @@ class LogKeeper : public QObject {
     static LogInHand side(const tallyrig::ADIFDocument& document, bool isDirty,
                           const std::optional<QString>& path, tallyrig::ADIFDocument& saved);
     std::size_t knownRecordsIn(const QString& path) const;
-    void keepFormerFile(const QString& path);
-    void noteSaved(const QString& path);
+    /// Where what is written to a file comes from.
+    enum class Origin { log, side, exportedText };
+    bool mayGo(const QString& path, const FileState& now, Origin origin) const;
+    void keepFormerFile(const QString& path, Origin origin);
+    void noteWritten(const QString& path, Origin origin);
     void tellFailure(const QString& sentence);
 
     LogStore& store;
@@ -88,7 +91,12 @@ class LogKeeper : public QObject {
     InHandKeeper log;
     InHandKeeper left;
     InHandKeeper right;
-    std::map<std::string, FileState> savedFiles;  ///< As they were left, by path.
+    /// A file that this program wrote, or keeps already because it is about to.
+    struct WrittenFile {
+        FileState state;
+        Origin origin = Origin::log;
+    };
+    std::map<std::string, WrittenFile> writtenFiles;  ///< By path.
     bool hasFailed = false;
 };
 

@@ -21,6 +21,15 @@ bool holdsRecords(const QString& path, const tallyrig::ADIFRecordList& records) 
 
 KnownFile::KnownFile(const QString& path) : name(path.toStdString()), state(FileState::of(name)) {}
 
+KnownFile KnownFile::asOf(std::int64_t timeMs, const QString& path) {
+    constexpr std::int64_t millisecondNs = 1'000'000;
+    KnownFile file(path);
+    if (file.state.changedNs / millisecondNs > timeMs) {
+        file.state = {};
+    }
+    return file;
+}
+
 bool KnownFile::isStill(const QString& path, const tallyrig::ADIFDocument& saved) {
     if (path.toStdString() != name || isUntouched()) {
         return true;

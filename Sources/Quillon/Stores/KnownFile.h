@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <string>
 
 namespace quillon {
@@ -19,6 +20,8 @@ class KnownFile {
   public:
     /// The file at `path` as it is now, if there is one.
     explicit KnownFile(const QString& path);
+    /// The same, but unknown if it was written to after `timeMs`, in milliseconds since 1970.
+    static KnownFile asOf(std::int64_t timeMs, const QString& path);
 
     /// Whether nobody has changed the file at `path`, or has but left the records of `saved` in it; such a
     /// file is known from then on. Another place was never known, and a file that is gone comes again when

@@ -69,7 +69,7 @@ class LogStore : public QObject {
     /// Whether the log differs from what was last saved or opened.
     bool isDirty() const { return state.isDirty; }
     /// What the log's file holds as far as the store knows: the log as it was last opened or saved. The empty
-    /// log where it has no file, or was brought back.
+    /// log where it has no file, was brought back, or an export stands in its file.
     const tallyrig::ADIFDocument& savedDocument() const { return state.savedDocument; }
     /// What the reader said of the file when the log was opened or read again: empty for a log that was not.
     /// Its record indices are those of the log as it was then.
@@ -93,8 +93,9 @@ class LogStore : public QObject {
     void open(const QString& path);
     void openWithPanel();
     /// Shows a log that was kept from an earlier time, as one with changes that the file behind it does not
-    /// have.
-    void bringBack(tallyrig::ADIFDocument document, std::optional<QString> path);
+    /// have. Where that was written to after `keptAtMs`, in milliseconds since 1970, it is taken for one that
+    /// another program has changed.
+    void bringBack(tallyrig::ADIFDocument document, std::optional<QString> path, std::int64_t keptAtMs);
     /// Opens the first of the program's `arguments` (the program's name left out) that names an existing
     /// path, passing over what follows `--crosscheck`. Nothing happens if a file is open already.
     /// `errorMessage` tells of the other paths, that they were not opened, and of one that leads nowhere if
@@ -108,8 +109,8 @@ class LogStore : public QObject {
     void saveReplacing();
     void saveWithPanel();
     /// Why the first save over the file that was opened takes something from it; absent if it does not, and
-    /// once the log was saved. `save` does not mind.
-    std::optional<SavingConcern> savingConcern() const { return fileConcern; }
+    /// once the log was saved, or was read again whole. `save` does not mind.
+    std::optional<SavingConcern> savingConcern() const;
     /// `keep` is called with the path before the log is saved or exported there, whether or not there is a
     /// file.
     void beforeReplacing(std::function<void(const QString& path)> keep) { keepFormer = std::move(keep); }
@@ -322,9 +323,12 @@ class LogStore : public QObject {
     void documentChanged();
     void fileURLChanged();
     void isDirtyChanged();
-    /// The log was opened, begun, brought back or saved.
+    /// The log was opened, begun, brought back or saved, or its file was exported over.
     void savedDocumentChanged();
-    /// The log was not saved, because another program has changed its file.
+    /// The log was saved to `path`, whether or not it had changes.
+    void written(const QString& path);
+    /// The file of the log does not hold it: the log was not saved there, because another program has changed
+    /// the file, or an export was written over it.
     void changedOnDisk(const QString& path);
     /// A file was opened of which the reader had something to say, or was read again, or the log at hand is
     /// no longer that one.
@@ -407,6 +411,8 @@ class LogStore : public QObject {
     void exportLog(const QString& extension, const QList<FileType>& types);
     /// `fileURL` without its extension, or "Logbuch", with this one.
     QString proposedName(const QString& extension) const;
+    /// Where that is the file of the log, the log is not in it any more.
+    void noteExportTo(const QString& path);
     void exportText(const std::string& text, const FileType& type, const QString& failurePrefix);
 
     EditHistory::Snapshot currentSnapshot() const;

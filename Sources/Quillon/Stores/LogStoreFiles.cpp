@@ -111,13 +111,21 @@ void LogStore::open(const QString& path) {
     forgetEdits();
 }
 
-void LogStore::bringBack(ADIFDocument document, std::optional<QString> path) {
+void LogStore::bringBack(ADIFDocument document, std::optional<QString> path, std::int64_t keptAtMs) {
     const Operation operation(*this);
     showLog(std::move(document), std::move(path));
+    if (state.fileURL) {
+        knownFile = KnownFile::asOf(keptAtMs, *state.fileURL);
+    }
     state.isDirty = true;
     state.savedDocument = ADIFDocument();
     autoFitColumns();
     forgetEdits();
+}
+
+std::optional<SavingConcern> LogStore::savingConcern() const {
+    const bool isRepaired = readingReport().placeCount(tallyrig::ReadingSeverity::error) == 0;
+    return fileConcern == SavingConcern::notWhole && isRepaired ? std::nullopt : fileConcern;
 }
 
 void LogStore::openWithPanel() {
@@ -200,7 +208,11 @@ bool LogStore::write(const QString& path, Changed changed) {
         case LossAnswer::saveAnyway:
             break;
     }
-    return replaceWith(content.text, fullPath, changed);
+    if (!replaceWith(content.text, fullPath, changed)) {
+        return false;
+    }
+    emit written(fullPath);
+    return true;
 }
 
 bool LogStore::replaceWith(const std::string& content, const QString& path, Changed changed) {
@@ -233,6 +245,17 @@ void LogStore::announceReplacing(const QString& path) const {
     if (keepFormer) {
         keepFormer(path);
     }
+}
+
+void LogStore::noteExportTo(const QString& path) {
+    if (!state.fileURL || QFileInfo(*state.fileURL) != QFileInfo(path)) {
+        return;
+    }
+    {
+        const Operation operation(*this);
+        state.savedDocument = ADIFDocument();
+    }
+    emit changedOnDisk(QString(*state.fileURL));
 }
 
 QString LogStore::proposedName(const QString& extension) const {
@@ -269,6 +292,7 @@ void LogStore::exportText(const std::string& text, const FileType& type, const Q
         setErrorMessage(fileFailure(failurePrefix, fullPath, error->message));
         return;
     }
+    noteExportTo(fullPath);
     emit exported(fullPath);
 }
 

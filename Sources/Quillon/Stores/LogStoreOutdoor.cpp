@@ -87,6 +87,7 @@ void LogStore::exportOutdoor() {
     const auto error =
         exportOutdoorFiles(wanted, folder.toStdString(), [&](const tallyrig::OutdoorExportFile& file) {
             paths.append(folder + QLatin1Char('/') + QString::fromStdString(file.filename));
+            noteExportTo(paths.last());
         });
     if (error) {
         // Every program has the name of the first there was.

@@ -152,6 +152,7 @@ TEST_F(Keeper, KeepsWhatAFileHeldOnceUnlessOthersWroteToIt) {
     for (const char* call : {"B", "C", "D"}) {
         type(0, "CALL", call);
         store.save();
+        store.save();
     }
     EXPECT_EQ(found(), "log.adi:7:A");
     folder.write("log.adi", testing::adi({"CALL=Other"}));
@@ -161,6 +162,44 @@ TEST_F(Keeper, KeepsWhatAFileHeldOnceUnlessOthersWroteToIt) {
     EXPECT_EQ(calls(store.document()), "Other");
     keeper->end(KeptReason::windowClosed);
     EXPECT_EQ(found(), "log.adi:3:Other log.adi:7:Other log.adi:7:A");
+}
+
+TEST_F(Keeper, KeepsWhatThisProgramWroteWhenAnotherLogTakesItsPlace) {
+    openLog({"CALL=A"});
+    type(0, "CALL", "B");
+    keeper->end(KeptReason::windowClosed);
+    start();
+    store.save();
+    EXPECT_FALSE(keeper->bringBack(keeper->leftBehind().at(0)));
+    type(0, "CALL", "C");
+    QSignalSpy changed(&store, &LogStore::changedOnDisk);
+    store.save();
+    EXPECT_EQ(changed.size(), 1) << "saved after the other was kept";
+    store.saveReplacing();
+    EXPECT_EQ(found(), "log.adi:7:B log.adi:7:A");
+    panels.answers = {folder.path("log.adi")};
+    store.newLog();
+    store.addRecord();
+    type(0, "CALL", "N");
+    store.saveWithPanel();
+    EXPECT_EQ(found(), "log.adi:7:C log.adi:7:B log.adi:7:A");
+    compare.load(CompareStore::Side::right, folder.path("log.adi"));
+    compare.saveRight();
+    EXPECT_EQ(found(), "log.adi:7:N log.adi:7:C log.adi:7:B log.adi:7:A");
+}
+
+TEST_F(Keeper, KeepsALogInWhoseFileAnExportStands) {
+    openLog({"CALL=A"});
+    store.save();
+    panels.answers = {folder.path("log.adi"), folder.path("other.cbr"), folder.path("other.cbr")};
+    QSignalSpy changed(&store, &LogStore::changedOnDisk);
+    for (int count = 0; count < 3; ++count) {
+        store.exportCabrillo({});
+    }
+    EXPECT_FALSE(store.isDirty());
+    EXPECT_EQ(changed.size(), 1);
+    keeper->end(KeptReason::windowClosed);
+    EXPECT_EQ(found(), "log.adi:3:A log.adi:7:A") << "an export can be made again";
 }
 
 TEST_F(Keeper, KeepsTheSidesOfAComparisonAsWell) {

@@ -109,7 +109,7 @@ TEST_F(SavingLogs, WritesTheWholeLogWhateverTheTableShows) {
     type(0, "CALL", "C");
     told.sent();
     store.save();
-    EXPECT_EQ(told.sent(), "isDirty savedDocument windowTitle");
+    EXPECT_EQ(told.sent(), "isDirty savedDocument windowTitle written");
     const std::string text = folder.read("log.adi");
     EXPECT_NE(text.find("<ADIF_VER:5>3.1.4 <PROGRAMID:7>Quillon"), std::string::npos) << text;
     EXPECT_TRUE(text.ends_with("<CALL:1>C <BAND:3>20m <EOR>\n<CALL:1>A <EOR>\n")) << text;
@@ -120,7 +120,7 @@ TEST_F(SavingLogs, AsksWhereForALogWithoutFile) {
     told.sent();
     panels.answers = {folder.path("x.edi"), folder.path("y.adi")};
     store.save();
-    EXPECT_EQ(told.sent(), "fileURL isDirty savedDocument windowTitle");
+    EXPECT_EQ(told.sent(), "fileURL isDirty savedDocument windowTitle written");
     store.saveWithPanel();
     EXPECT_EQ(title(), "y.adi");
     EXPECT_EQ(panels.proposedNames.join(' '), "Logbuch.adi x.edi");

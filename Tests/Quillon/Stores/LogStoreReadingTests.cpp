@@ -53,7 +53,9 @@ TEST_F(ReadingOfAFile, IsRepairedInOneStep) {
     EXPECT_EQ(cell(0, "CALL") + cell(0, "NAME") + cell(1, "QTH"), "AMüllerKöln");
     EXPECT_TRUE(store.isDirty());
     EXPECT_TRUE(store.readingReport().isEmpty());
+    EXPECT_EQ(store.savingConcern(), std::nullopt);
     store.undo();
+    EXPECT_EQ(store.savingConcern(), SavingConcern::notWhole);
     EXPECT_EQ(cell(0, "CALL") + cell(0, "NAME"), "XMülle");
     ASSERT_EQ(store.readingReport().notes().size(), 1U);
     EXPECT_EQ(calls(), "X");

@@ -61,10 +61,15 @@ FileNotices::FileNotices(const AppStores& appStores, NoticeStrip& noticeStrip, Q
             strip.tellAtOnce(changedNotice(path));
         }
     });
-    // Another log is open, or this one is saved.
-    for (const auto signal : {&LogStore::savedDocumentChanged, &LogStore::fileURLChanged}) {
-        connect(&stores.log, signal, this, [this] { strip.withdraw(topicOfSaving()); });
-    }
+    // Another log is open, or this one is saved: what the notices offer is about the file of another.
+    const auto withdrawAll = [this] {
+        strip.withdraw(topicOfSaving());
+        strip.withdraw(topicOfChange());
+    };
+    connect(&stores.log, &LogStore::savedDocumentChanged, this, withdrawAll);
+    connect(&stores.log, &LogStore::fileURLChanged, this, withdrawAll);
+    connect(&stores.log, &LogStore::written, this, withdrawAll);
+    connect(&stores.log, &LogStore::readingReportChanged, this, [this] { strip.withdraw(topicOfSaving()); });
 }
 
 void FileNotices::tellOf(const QString& path) {
@@ -111,7 +116,7 @@ Notice FileNotices::savingNotice(SavingConcern concern) {
 void FileNotices::compare(const QString& path) {
     showBusyCursorUntilIdle();
     stores.compare.setLeftFile(std::nullopt);
-    stores.compare.load(CompareStore::Side::right, path);
+    stores.compare.loadInItsFormat(CompareStore::Side::right, path);
     stores.log.setMode(AppMode::compare);
 }
 

@@ -202,6 +202,8 @@ TEST_F(Window, WritesNothingOverAFileThatLosesByItUntilTheUserSaysSo) {
     save();
     EXPECT_TRUE(testing::shownButton(strip, QStringLiteral("Neu laden"))->hasFocus());
     EXPECT_EQ(folder.read(QStringLiteral("contest.log")), original + "\n");
+    store.open(folder.write(QStringLiteral("other.adi"), testing::adi({"CALL=A"})));
+    EXPECT_TRUE(strip.isHidden()) << "it would replace the file of this log";
 }
 
 TEST_F(Window, OpensTheLogOfTheArgumentsOnce) {
