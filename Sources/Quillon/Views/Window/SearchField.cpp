@@ -27,7 +27,10 @@ SearchField::SearchField(LogStore& logStore, QWidget* parent) : QLineEdit(parent
                        "Feldes, auch eines ohne Spalte. Groß- und Kleinschreibung sind gleich; gesucht wird, "
                        "was gespeichert ist, ein Datum also als 20240315. Escape beendet die Suche. "
                        "Gesichert und geprüft wird immer das ganze Log."));
-    setFixedWidth(widthPx);
+    // A tool bar puts away what has no room at all, and with large letters that would be the search.
+    setMinimumWidth(widthPx / 2);
+    setMaximumWidth(widthPx);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAcceptDrops(false);
     setText(store.searchText());
 
@@ -50,6 +53,10 @@ SearchField::SearchField(LogStore& logStore, QWidget* parent) : QLineEdit(parent
             emit left();
         },
         Qt::WidgetShortcut);
+}
+
+QSize SearchField::sizeHint() const {
+    return {widthPx, QLineEdit::sizeHint().height()};
 }
 
 void SearchField::startTyping() {

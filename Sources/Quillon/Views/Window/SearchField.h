@@ -16,6 +16,8 @@ class SearchField : public QLineEdit {
     /// `logStore` outlives the field.
     explicit SearchField(LogStore& logStore, QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+
     /// Takes the keyboard, ready for another search.
     void startTyping();
 
