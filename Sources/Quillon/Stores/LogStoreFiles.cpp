@@ -208,8 +208,15 @@ bool LogStore::write(const QString& path, Changed changed) {
         case LossAnswer::saveAnyway:
             break;
     }
-    if (!replaceWith(content.text, fullPath, changed)) {
-        return false;
+    {
+        const Operation operation(*this);
+        if (!replaceWith(content.text, fullPath, changed)) {
+            return false;
+        }
+        if (!content.isWhole) {
+            // What will not come back is still to be kept when the log is dropped.
+            state.savedDocument = tallyrig::LogReader::readWithoutReport(content.text).document;
+        }
     }
     emit written(fullPath);
     return true;

@@ -38,6 +38,7 @@ LogText textToSave(const tallyrig::ADIFDocument& document, const LogWriter& writ
     if (report.isEmpty()) {
         return result;
     }
+    result.isWhole = false;
     const std::string name = tallyrig::text::visibleText(QFileInfo(path).fileName().toStdString());
     LossQuestion question;
     question.text =

@@ -20,6 +20,7 @@ using LogWriter = std::variant<tallyrig::ADIFWriter, tallyrig::ADXWriter>;
 struct LogText {
     std::string text;
     LossAnswer answer = LossAnswer::saveAnyway;
+    bool isWhole = true;  ///< Reading the text gives the log again.
 };
 
 /// Writes the log and reads it back. Where not all of it would come back, the user is asked what to do about

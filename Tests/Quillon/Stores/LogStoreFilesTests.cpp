@@ -181,6 +181,8 @@ TEST_F(SavingLogs, AsksBeforeSomethingIsLost) {
     store.saveAsADX();
     EXPECT_NE(folder.read("a.adx").find("NO XML"), std::string::npos);
     EXPECT_EQ(title(), "a.adx");
+    EXPECT_TRUE(store.hasUnsavedChanges()) << "the file does not have them";
+    EXPECT_TRUE(store.savedDocument().records().empty());
 }
 
 TEST_F(SavingLogs, LeavesAFileAloneThatAnotherProgramHasChanged) {
