@@ -52,6 +52,11 @@ void NoticeStrip::tell(Notice notice) {
     const auto same = std::ranges::find(notices, notice.topic, &Notice::topic);
     if (same != notices.end()) {
         *same = std::move(notice);
+    } else if (notice.kind == Notice::Kind::warning) {
+        // The keys of someone who is about to press a button are not to meet another.
+        const auto first = notices.begin() + (hasKeyboard() && !notices.empty() ? 1 : 0);
+        const auto behind = std::ranges::find(first, notices.end(), Notice::Kind::information, &Notice::kind);
+        notices.insert(behind, std::move(notice));
     } else {
         notices.push_back(std::move(notice));
     }
@@ -83,9 +88,13 @@ bool NoticeStrip::withdraw(const QString& topic) {
     return wasThere;
 }
 
-void NoticeStrip::close(const std::function<void()>& run) {
+bool NoticeStrip::hasKeyboard() const {
     const QWidget* const focus = QApplication::focusWidget();
-    const bool hadKeyboard = focus != nullptr && isAncestorOf(focus);
+    return focus != nullptr && isAncestorOf(focus);
+}
+
+void NoticeStrip::close(const std::function<void()>& run) {
+    const bool hadKeyboard = hasKeyboard();
     notices.erase(notices.begin());
     showFirst();
     if (hadKeyboard) {

@@ -40,7 +40,8 @@ class NoticeStrip : public QWidget {
   public:
     explicit NoticeStrip(QWidget* parent = nullptr);
 
-    /// Shows the notice when those before it are closed; one of the same topic gives it its place.
+    /// Shows the notice when those before it are closed; one of the same topic gives it its place. A warning
+    /// goes before mere information, unless that has the keyboard.
     void tell(Notice notice);
     /// Shows the notice at once, in front of the others: what the user has just asked for waits for it.
     void tellAtOnce(Notice notice);
@@ -59,6 +60,7 @@ class NoticeStrip : public QWidget {
 
   private:
     void showFirst();
+    bool hasKeyboard() const;
     /// Takes the notice that is shown away and then calls `run`, if any.
     void close(const std::function<void()>& run);
 

@@ -78,7 +78,7 @@ void FileNotices::tellOf(const QString& path) {
 
 Notice FileNotices::changedNotice(const QString& path) {
     return {topicOfChange(),
-            QStringLiteral("Die Datei „%1“ ist inzwischen eine andere.").arg(nameOf(path)),
+            QStringLiteral("Die Datei „%1“ wurde inzwischen geändert.").arg(nameOf(path)),
             Notice::Kind::warning,
             {{QStringLiteral("Neu laden"), [this, path] { open(path); }},
              {QStringLiteral("Vergleichen"), [this, path] { compare(path); }},

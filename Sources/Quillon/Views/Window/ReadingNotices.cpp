@@ -81,11 +81,11 @@ void ReadingNotices::follow() {
 
 void ReadingNotices::tell() {
     if (const QString sentence = sentenceFor(store.readingReport()); !sentence.isEmpty()) {
-        strip.tell({topic(),
-                    sentence,
-                    Notice::Kind::warning,
-                    {{QStringLiteral("Ansehen"), [this] { showNotes(); }}},
-                    {}});
+        strip.tellAtOnce({topic(),
+                          sentence,
+                          Notice::Kind::warning,
+                          {{QStringLiteral("Ansehen"), [this] { showNotes(); }}},
+                          {}});
     }
 }
 

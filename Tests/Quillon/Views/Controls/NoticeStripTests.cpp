@@ -66,6 +66,22 @@ TEST_F(Notices, AreEnteredByTheKeyboardWhereTheUserAsksForThem) {
     EXPECT_TRUE(testing::shownButton(strip, "Tun")->hasFocus());
 }
 
+TEST_F(Notices, AreToldAsWarningsFirst) {
+    tell("a", "first");
+    strip.tell({"b", "warning", Notice::Kind::warning, {{"Jetzt", {}}}, {}});
+    strip.tell({"c", "another", Notice::Kind::warning, {}, {}});
+    EXPECT_EQ(shown(), "warning\n1 von 3");
+    press("Jetzt");
+    EXPECT_EQ(shown(), "another\n1 von 2");
+    strip.withdraw("c");
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    testing::shownButton(strip, "Tun")->setFocus();
+    strip.tell({"c", "another", Notice::Kind::warning, {}, {}});
+    EXPECT_EQ(shown(), "first\n1 von 2") << "the keyboard is on its button";
+}
+
 TEST_F(Notices, WhatIsDoneMayTellSomethingElse) {
     strip.tell({"a", "first", Notice::Kind::information, {{"Tun", [this] { tell("b", "failed"); }}}, {}});
     press("Tun");

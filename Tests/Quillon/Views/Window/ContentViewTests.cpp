@@ -157,7 +157,7 @@ TEST_F(Window, TellsWhenAnotherProgramChangesTheFile) {
     auto& strip = *window->findChild<NoticeStrip*>();
     const auto press = [&](const char* text) {
         window->findChild<FileNotices*>()->look();
-        EXPECT_EQ(testing::shownTexts(strip), "Die Datei „a.adi“ ist inzwischen eine andere.");
+        EXPECT_EQ(testing::shownTexts(strip), "Die Datei „a.adi“ wurde inzwischen geändert.");
         testing::shownButton(strip, QString::fromUtf8(text))->click();
         EXPECT_TRUE(strip.isHidden());
     };
@@ -198,7 +198,7 @@ TEST_F(Window, WritesNothingOverAFileThatLosesByItUntilTheUserSaysSo) {
     EXPECT_NE(folder.read(QStringLiteral("contest.log")).find("<CALL:5>K2XYZ"), std::string::npos);
     folder.write(QStringLiteral("contest.log"), original + "\n");
     save();
-    EXPECT_EQ(testing::shownTexts(strip), "Die Datei „contest.log“ ist inzwischen eine andere.");
+    EXPECT_EQ(testing::shownTexts(strip), "Die Datei „contest.log“ wurde inzwischen geändert.");
     save();
     EXPECT_TRUE(testing::shownButton(strip, QStringLiteral("Neu laden"))->hasFocus());
     EXPECT_EQ(folder.read(QStringLiteral("contest.log")), original + "\n");
