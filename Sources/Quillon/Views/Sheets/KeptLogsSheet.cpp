@@ -176,8 +176,10 @@ void KeptLogsSheet::askToRemove() {
     question->setWindowTitle(QStringLiteral("Löschen"));
     question->setTextFormat(Qt::PlainText);
     question->setText(unwanted.size() == 1
-                          ? QStringLiteral("„%1“ endgültig löschen?").arg(nameOf(unwanted.front().note))
-                          : QStringLiteral("%1 Einträge endgültig löschen?").arg(unwanted.size()));
+                          ? QStringLiteral("„%1“ endgültig aus den aufgehobenen Logbüchern löschen?")
+                                .arg(nameOf(unwanted.front().note))
+                          : QStringLiteral("%1 Einträge endgültig aus den aufgehobenen Logbüchern löschen?")
+                                .arg(unwanted.size()));
     QPushButton* const yes = question->addButton(QStringLiteral("&Löschen"), QMessageBox::DestructiveRole);
     question->setDefaultButton(question->addButton(QStringLiteral("&Abbrechen"), QMessageBox::RejectRole));
     connect(yes, &QPushButton::clicked, this, [this, unwanted] { removeAll(unwanted); });
