@@ -68,8 +68,8 @@ class LogStore : public QObject {
     const std::optional<QString>& fileURL() const { return state.fileURL; }
     /// Whether the log differs from what was last saved or opened.
     bool isDirty() const { return state.isDirty; }
-    /// What the log's file holds as far as the store knows: the log as it was last opened or saved, losses and
-    /// all. The empty log where it has no file, was brought back, or an export stands in its file.
+    /// What the log's file holds as far as the store knows: the log as it was last opened or saved, losses
+    /// and all. The empty log where it has no file, was brought back, or an export stands in its file.
     const tallyrig::ADIFDocument& savedDocument() const { return state.savedDocument; }
     /// What the reader said of the file when the log was opened or read again: empty for a log that was not.
     /// Its record indices are those of the log as it was then.
